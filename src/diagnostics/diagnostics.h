@@ -55,7 +55,7 @@ class Diagnostics {
   void updateImages() noexcept { root_->UpdateImage(); }
   void clear();
 
-  // Client's additions: custom columns, external errors, cell references (true: success) -----------
+  // Client's additions: custom columns, external errors, cell references (true: success) ---------
   void addColumn(std::string_view title);
   bool setColumnText(int index, std::string_view text);
   bool getColumnText(int index, std::string& text) const;

@@ -8,27 +8,27 @@ namespace calvex {
 
 // X(number, name, text); the texts are printf formats, kept letter by letter (9 ends in two full
 // stops, 5 lacks its conversion letter).
-#define CALVEX_MESSAGES(X)                                                                    \
-  X(1, version, "4.4.8")                                                                      \
-  X(3, typeMismatch, "Type mismatch in %s parameter.")                                        \
-  X(4, arrayDimensionMismatch, "Array dimension mismatch in %s parameter.")                   \
-  X(5, arraySizeMismatch, "Array size mismatch in % parameter.")                              \
-  X(6, invalidProblem, "Invalid problem specification in varSpec parameter.")                 \
-  X(7, invalidReportingLevel, "Invalid reporting level.")                                     \
-  X(8, invalidSolverTolerance, "Invalid solver tolerance specified.")                         \
-  X(9, invalidSolverIterations, "Invalid number of solver iterations specified..")            \
-  X(100, errorFrame, "%s")                                                                    \
-  X(101, outOfRangeBounds, "%s parameter out of range (Valid range %s to %s).")               \
-  X(102, outOfRange, "%s parameter out of range.")                                            \
-  X(103, maximumIterations, "Maximum number of iterations reached.")                          \
-  X(104, solutionError, "Solution Error.")                                                    \
-  X(105, noSolution, "No solution !! (Solver return code = %d).")                             \
-  X(106, twoPhase, "Two phase conditions - Underspecified problem.")                          \
-  X(107, unknownSolverCode, "Unknown solver return code.")                                    \
-  X(108, outOfRangeUnit, "%s parameter out of range (Valid range %s to %s %s).")              \
-  X(200, warningFrame, "%s")                                                                  \
-  X(201, outOfStrictRange, "%s parameter out of strictly valid range.")                       \
-  X(300, noteFrame, "%s")                                                                     \
+#define CALVEX_MESSAGES(X)                                                         \
+  X(1, version, "4.4.8")                                                           \
+  X(3, typeMismatch, "Type mismatch in %s parameter.")                             \
+  X(4, arrayDimensionMismatch, "Array dimension mismatch in %s parameter.")        \
+  X(5, arraySizeMismatch, "Array size mismatch in % parameter.")                   \
+  X(6, invalidProblem, "Invalid problem specification in varSpec parameter.")      \
+  X(7, invalidReportingLevel, "Invalid reporting level.")                          \
+  X(8, invalidSolverTolerance, "Invalid solver tolerance specified.")              \
+  X(9, invalidSolverIterations, "Invalid number of solver iterations specified..") \
+  X(100, errorFrame, "%s")                                                         \
+  X(101, outOfRangeBounds, "%s parameter out of range (Valid range %s to %s).")    \
+  X(102, outOfRange, "%s parameter out of range.")                                 \
+  X(103, maximumIterations, "Maximum number of iterations reached.")               \
+  X(104, solutionError, "Solution Error.")                                         \
+  X(105, noSolution, "No solution !! (Solver return code = %d).")                  \
+  X(106, twoPhase, "Two phase conditions - Underspecified problem.")               \
+  X(107, unknownSolverCode, "Unknown solver return code.")                         \
+  X(108, outOfRangeUnit, "%s parameter out of range (Valid range %s to %s %s).")   \
+  X(200, warningFrame, "%s")                                                       \
+  X(201, outOfStrictRange, "%s parameter out of strictly valid range.")            \
+  X(300, noteFrame, "%s")                                                          \
   X(301, solverNote, "Solver : Iter = %d, f() = %10.2e, %10.2e, %10.2e.")
 
 /// The messages by name; the values are their numbers.

@@ -1,5 +1,6 @@
 /// \file
-/// The engine's exception: thrown by the steam layer, caught by the engine operation that called it.
+/// The engine's exception: thrown by the steam layer, caught by the engine operation that called
+/// it.
 #pragma once
 
 #include <stdexcept>

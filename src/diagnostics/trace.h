@@ -23,7 +23,9 @@ class ZvFunctionCall {
   }
   [[nodiscard]] Kind kind() const noexcept { return kind_; }
   [[nodiscard]] Image image() const noexcept { return image_; }
-  [[nodiscard]] const std::vector<std::string>& columnValues() const noexcept { return columnValues_; }
+  [[nodiscard]] const std::vector<std::string>& columnValues() const noexcept {
+    return columnValues_;
+  }
   [[nodiscard]] const ZvFunctionCall* parent() const noexcept { return parent_; }
   [[nodiscard]] const ZvFunctionCall* firstChild() const noexcept { return firstChild_; }
   [[nodiscard]] const ZvFunctionCall* nextSibling() const noexcept { return next_; }
