@@ -1,0 +1,69 @@
+#include "steam/solver.h"
+
+#include <cminpack.h>
+
+#include <algorithm>
+
+namespace calvex {
+
+namespace {
+
+struct Run {
+  ZvSolverCallBack& problem;
+  int stopped = 0;  // the callback's negative flag
+};
+
+int residuals(void* context, int m, int n, const double* x, double* f, int flag) {
+  Run& run = *static_cast<Run*>(context);
+  double trial[ZvSolver::maxUnknowns];
+  std::copy_n(x, n, trial);
+  run.problem.evaluate(m, n, trial, f, flag);
+  if (flag < 0) run.stopped = flag;
+  return flag < 0 ? flag : 0;
+}
+
+}  // namespace
+
+int ZvSolver::Solve(int m, int n) {
+  constexpr int N = maxUnknowns;
+  constexpr double reductionTolerance = 1e-14;      // ftol
+  constexpr double orthogonalityTolerance = 1e-14;  // gtol
+  constexpr double differenceStep = 1e-15;          // epsfcn
+  constexpr int internalScaling = 1;                // mode
+  constexpr double stepBound = 100.0;               // factor
+  constexpr int noPrinting = 0;                     // nprint
+
+  double x[N] = {};
+  double f[N] = {};
+  double scale[N], jacobian[N * N], qtf[N], work1[N], work2[N], work3[N], work4[N];
+  int pivots[N];
+  int evaluations = 0;
+
+  int flag = ZvSolverCallBack::startFlag;
+  problem_.evaluate(m, n, x, f, flag);
+
+  Run run{problem_};
+  int status = lmdif(residuals, &run, m, n, x, f, reductionTolerance, tolerance_,
+                     orthogonalityTolerance, iterations_ * (n + 1), differenceStep, scale,
+                     internalScaling, stepBound, noPrinting, &evaluations, jacobian, m, pivots, qtf,
+                     work1, work2, work3, work4);
+
+  flag = ZvSolverCallBack::finishFlag;
+  problem_.evaluate(m, n, x, f, flag);
+  if (run.stopped < 0 && status >= 0) status = run.stopped;
+  return status;
+}
+
+bool ZvSolver::setTolerance(double tolerance) noexcept {
+  if (!(tolerance > 1e-14 && tolerance < 1e-6)) return false;
+  tolerance_ = tolerance;
+  return true;
+}
+
+bool ZvSolver::setIterations(int iterations) noexcept {
+  if (iterations < 51 || iterations >= 9999) return false;
+  iterations_ = iterations;
+  return true;
+}
+
+}  // namespace calvex

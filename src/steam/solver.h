@@ -1,0 +1,46 @@
+/// \file
+/// The one numerical solver: Levenberg-Marquardt least squares by MINPACK's lmdif
+/// (J. J. More, B. S. Garbow, K. E. Hillstrom, ANL-80-74, 1980).
+#pragma once
+
+namespace calvex {
+
+/// What the solver solves.
+class ZvSolverCallBack {
+ public:
+  virtual ~ZvSolverCallBack() = default;
+
+  /// The flag says what is asked for: to write the starting point into x; to look at x and f of the
+  /// last iterate; otherwise to evaluate the residuals f at x. Negative on return, it stops the solve
+  /// and becomes its status.
+  static constexpr int startFlag = 3;
+  static constexpr int finishFlag = 4;
+  /// m equations, n unknowns.
+  virtual void evaluate(int m, int n, double* x, double* f, int& flag) = 0;
+};
+
+/// At most three equations in at most three unknowns; allocates nothing.
+class ZvSolver {
+ public:
+  static constexpr int maxUnknowns = 3;
+
+  explicit ZvSolver(ZvSolverCallBack& problem) : problem_(problem) {}
+
+  /// MINPACK's status 0..8 (2, 3 and 4: converged), or the negative flag of the callback.
+  [[nodiscard]] int Solve(int m, int n);
+
+  /// Relative step tolerance; accepted within (1e-14, 1e-6).
+  bool setTolerance(double tolerance) noexcept;
+  [[nodiscard]] double tolerance() const noexcept { return tolerance_; }
+
+  /// Evaluations are limited to (n+1) times this; accepted within [51, 9999).
+  bool setIterations(int iterations) noexcept;
+  [[nodiscard]] int iterations() const noexcept { return iterations_; }
+
+ private:
+  ZvSolverCallBack& problem_;
+  double tolerance_ = 1e-9;
+  int iterations_ = 800;
+};
+
+}  // namespace calvex

@@ -1,0 +1,296 @@
+// The engine's equations and how they are solved: residuals, acceptance, starting points.
+#include <fmt/printf.h>
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "diagnostics/thermo_exception.h"
+#include "steam/constants.h"
+#include "steam/saturation_correlations.h"
+#include "steam/starting_points.h"
+#include "steam/steam_model.h"
+
+namespace calvex {
+
+namespace {
+
+using constants::criticalDensity;
+using constants::criticalTemperature;
+
+// Beyond MINPACK's own: converged, but to no solution.
+constexpr int notASolution = 1000;
+
+// Within this distance of the critical point the two sides of the saturation line, whose pressure is
+// a scaling law there, may have only one root left.
+constexpr double criticalRegion = 0.5;  // K
+
+}  // namespace
+
+SteamModel::SteamModel(Diagnostics& diagnostics) : diagnostics_(diagnostics), solver_(*this) {
+  reset();
+}
+
+void SteamModel::reset() {
+  solver_.setTolerance(1e-9);
+  solver_.setIterations(200);
+  satPolish_ = 1;
+  state_ = {};
+  unknowns_ = {};
+}
+
+const TemperaturePart& SteamModel::temperaturePart(double T, TemperaturePart::Order order) {
+  if (temperatureParts_[lastPart_].T() != T) lastPart_ ^= 1;
+  TemperaturePart& part = temperatureParts_[lastPart_];
+  part.prepare(T, order);
+  return part;
+}
+
+double SteamModel::propertyAt(Property property, double T, double density) {
+  return calvex::evaluate(property, temperaturePart(T, orderOf(property)), density);
+}
+
+SteamModel::Equation SteamModel::equationOf(Property property) {
+  switch (property) {
+    case Property::enthalpy:
+      return Equation::enthalpy;
+    case Property::entropy:
+      return Equation::entropy;
+    case Property::internalEnergy:
+      return Equation::internalEnergy;
+    default:
+      return Equation::density;
+  }
+}
+
+void SteamModel::pose(std::span<const Target> targets) {
+  std::copy(targets.begin(), targets.end(), targets_.begin());
+  using Order = TemperaturePart::Order;
+  order_ = Order::none;
+  usesFirst_ = false;
+  usesSecond_ = false;
+  for (const Target& target : targets) {
+    switch (target.equation) {
+      case Equation::entropy:
+      case Equation::enthalpy:
+      case Equation::internalEnergy:
+      case Equation::gibbs:
+        usesFirst_ = true;
+        order_ = Order::energy;
+        break;
+      case Equation::gibbsDifference:
+      case Equation::pressureDifference:
+        usesSecond_ = true;
+        [[fallthrough]];
+      case Equation::pressure:
+        usesFirst_ = true;
+        order_ = std::max(order_, Order::pressure);
+        break;
+      default:
+        break;
+    }
+  }
+}
+
+void SteamModel::evaluate(int m, int n, double* x, double* f, int& flag) {
+  if (flag == startFlag) {
+    std::copy_n(unknowns_.begin(), n, x);
+    evaluations_ = 0;
+    return;
+  }
+  if (flag == finishFlag) {
+    std::copy_n(x, n, unknowns_.begin());
+    accepted_ = isSolution(m, f);
+    if (diagnostics_.wantsNotes()) {
+      diagnostics_.postNote(fmt::sprintf(messageText(Message::solverNote), evaluations_, f[0],
+                                         m > 1 ? f[1] : 0.0, m > 2 ? f[2] : 0.0));
+    }
+    return;
+  }
+
+  const double T = x[0];
+  const double density1 = n > 1 ? x[1] : unknowns_[1];
+  std::optional<HelmholtzPoint> first;
+  std::optional<HelmholtzPoint> second;
+  if (usesFirst_) {
+    const TemperaturePart& part = temperaturePart(T, order_);
+    first.emplace(part, density1);
+    if (usesSecond_) second.emplace(part, x[2]);
+  }
+  for (int i = 0; i < m; ++i) {
+    const Target& target = targets_[static_cast<std::size_t>(i)];
+    switch (target.equation) {
+      case Equation::density:
+        f[i] = density1 - target.value;
+        break;
+      case Equation::specificVolume:
+        f[i] = 1.0 / density1 - target.value;
+        break;
+      case Equation::temperature:
+        f[i] = T - target.value;
+        break;
+      case Equation::entropy:
+        f[i] = first->entropy() - target.value;
+        break;
+      case Equation::enthalpy:
+        f[i] = first->enthalpy() - target.value;
+        break;
+      case Equation::internalEnergy:
+        f[i] = first->internalEnergy() - target.value;
+        break;
+      case Equation::pressure:
+        f[i] = first->pressure() - target.value;
+        break;
+      case Equation::gibbs:
+        f[i] = first->gibbs() - target.value;
+        break;
+      case Equation::gibbsDifference:
+        f[i] = second->gibbsOfPhase() - first->gibbsOfPhase();
+        break;
+      case Equation::pressureDifference:
+        f[i] = second->pressure() - first->pressure();
+        break;
+      case Equation::saturationCorrelation:
+        f[i] = saturation::pressure(T) - target.value;
+        break;
+    }
+  }
+  ++evaluations_;
+}
+
+// A solve is a solution only when it is one: the minimiser's own tests do not look at the size of
+// the residuals. (P, s) at 10 MPa and 0.5263 kJ/(kg.K), a liquid at 310 K, "converges" to 210.96 K
+// with an entropy residual of -3.6.
+bool SteamModel::isSolution(int n, const double* f) const {
+  for (int i = 0; i < n; ++i) {
+    if (!std::isfinite(f[i]) || !std::isfinite(unknowns_[static_cast<std::size_t>(i)])) return false;
+  }
+  const double T = unknowns_[0];
+  if (!(T > 250.0 && T < 2600.0)) return false;
+  for (int i = 1; i < n; ++i) {
+    if (!(unknowns_[static_cast<std::size_t>(i)] > 0.0)) return false;
+  }
+  for (int i = 0; i < n; ++i) {
+    const Target& target = targets_[static_cast<std::size_t>(i)];
+    double allowed = 0.0;
+    switch (target.equation) {
+      case Equation::density:
+      case Equation::specificVolume:
+      case Equation::temperature:
+        allowed = 1e-6 * target.value;
+        break;
+      case Equation::entropy:
+        allowed = 1e-6;
+        break;
+      case Equation::enthalpy:
+      case Equation::internalEnergy:
+      case Equation::gibbs:
+      case Equation::gibbsDifference:
+        allowed = 1e-4;
+        break;
+      case Equation::pressure:
+      case Equation::saturationCorrelation:
+      case Equation::pressureDifference:
+        allowed = 1e-5 * target.value + 1e-6;
+        break;
+    }
+    if (!(std::fabs(f[i]) <= allowed)) return false;
+  }
+  return true;
+}
+
+bool SteamModel::converged(int status) { return status == 2 || status == 3 || status == 4; }
+
+int SteamModel::solve(std::span<const Target> targets) {
+  pose(targets);
+  const int n = static_cast<int>(targets.size());
+  const int status = solver_.Solve(n, n);
+  return converged(status) && !accepted_ ? notASolution : status;
+}
+
+void SteamModel::raise(int status) {
+  switch (status) {
+    case notASolution:
+      throw ZvThermoException(std::string(messageText(Message::solutionError)));
+    case 5:
+      throw ZvThermoException(std::string(messageText(Message::maximumIterations)));
+    case -2:
+    case -1:
+    case 0:
+    case 1:
+    case 6:
+    case 7:
+    case 8:
+      throw ZvThermoException(fmt::sprintf(messageText(Message::noSolution), status));
+    default:
+      throw ZvThermoException(std::string(messageText(Message::unknownSolverCode)));
+  }
+}
+
+Start SteamModel::solveState(Target first, Target second, Start start, Side side) {
+  const std::array<Target, 2> targets{first, second};
+  const auto attempt = [&](Start from) {
+    unknowns_[0] = from.temperature;
+    unknowns_[1] = from.density;
+    return solve(targets);
+  };
+  const auto solution = [&] { return Start{unknowns_[0], unknowns_[1]}; };
+  // The critical density parts the two sides.
+  const auto onSide = [&] {
+    return side == Side::any || (side == Side::liquid) == (unknowns_[1] > criticalDensity);
+  };
+
+  const int status = attempt(start);
+  if (converged(status) && onSide()) return solution();
+
+  // Next to the critical point the other side's root may be all there is.
+  std::optional<Start> otherSide;
+  if (converged(status) && std::fabs(unknowns_[0] - criticalTemperature) <= criticalRegion) {
+    otherSide = solution();
+  }
+  const StartingPoints others =
+      first.equation == Equation::temperature
+          ? StartingPoints::atTemperature(
+                first.value, second.equation == Equation::pressure ? second.value : 0.0, side)
+          : StartingPoints::atPressure(first.value, side);
+  for (const Start& other : others) {
+    if (converged(attempt(other)) && onSide()) return solution();
+  }
+  if (otherSide) return *otherSide;
+  raise(converged(status) ? notASolution : status);
+}
+
+// Density of the root at (P, T) on one side.
+double SteamModel::densityAt(double P, double T, double start, Side side) {
+  return solveState({Equation::temperature, T}, {Equation::pressure, P}, {T, start}, side).density;
+}
+
+// Equal pressure and equal Gibbs energy of two phases, with the third target; from where the density
+// guesses put it, else from the scaling law of the critical region.
+void SteamModel::solveEquilibrium(Target third, double T) {
+  const std::array<Target, 3> targets{Target{Equation::gibbsDifference, 0.0},
+                                      Target{Equation::pressureDifference, 0.0}, third};
+  const auto attempt = [&](double liquid, double vapour) {
+    unknowns_ = {T, liquid, vapour};
+    const int status = solve(targets);
+    // Two equal densities meet both differences and are no equilibrium.
+    const bool trivial = !(unknowns_[1] - unknowns_[2] > 1e-6 * criticalDensity);
+    return converged(status) && trivial ? notASolution : status;
+  };
+
+  const int status =
+      attempt(saturation::liquidDensityGuess(T), saturation::vapourDensityGuess(T));
+  if (converged(status)) return;
+  for (const double halfWidth : {10.0, 20.0, 40.0, 60.0, 80.0, 5.0, 2.0, 1.0}) {
+    if (converged(attempt(criticalDensity + halfWidth, criticalDensity - halfWidth))) return;
+  }
+  raise(status);
+}
+
+void SteamModel::store(Start solution, double quality) {
+  state_.temperature = solution.temperature;
+  state_.density = solution.density;
+  state_.quality = quality;
+}
+
+}  // namespace calvex
