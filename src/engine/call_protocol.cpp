@@ -1,0 +1,97 @@
+// What every call goes through: range checks, results in the client's unit, failures.
+#include <fmt/printf.h>
+
+#include <cmath>
+
+#include "engine/thermo_engine.h"
+
+namespace calvex {
+
+ZvThermoInt::ZvThermoInt(UnitsServerFactory unitsServer)
+    : units_(std::move(unitsServer)), steam_(diagnostics_) {
+  Reset();
+}
+
+void ZvThermoInt::Reset() {
+  appName_ = "ZvCalvex";
+  appHelpFile_.clear();
+  uomHelpContext_ = 0;
+  returnThermoUnits_ = 1;
+  returnModelUnits_ = 1;
+  returnModelTokens_ = 1;
+  liveObjects_ = 0;
+  units_.reset();
+  steam_.reset();
+  diagnostics_.reset();
+}
+
+void ZvThermoInt::ReleaseObject() {
+  if (--liveObjects_ == 0) Reset();
+}
+
+std::string ZvThermoInt::unitName(UnitGroup group) const {
+  std::string name;
+  short status = 0;
+  units_.getUserUnit(static_cast<int>(group), name, status);
+  return name;
+}
+
+// The comparisons are written so that a NaN is out of range.
+bool ZvThermoInt::validRange(std::string_view name, double value, double lower, double upper,
+                             UnitGroup group) {
+  if (value >= lower && value <= upper) return true;
+  const auto bound = [&](double limit) {
+    return fmt::sprintf("%.2f", units_.toUser(group, limit));
+  };
+  diagnostics_.postRangeError(name, bound(lower), bound(upper), unitName(group));
+  return false;
+}
+
+bool ZvThermoInt::notNegative(std::string_view name, double value) {
+  if (value >= 0.0) return true;
+  diagnostics_.postRangeError(name);
+  return false;
+}
+
+bool ZvThermoInt::validTemperature(std::string_view name, double T) {
+  if (!validRange(name, T, limits_.TMin, limits_.TMax, UnitGroup::temperature)) return false;
+  const bool strict = T >= limits_.TStrictMin && T <= limits_.TStrictMax;
+  if (!strict && diagnostics_.wantsWarnings()) {
+    diagnostics_.postWarning(fmt::sprintf(messageText(Message::outOfStrictRange), name));
+  }
+  return true;
+}
+
+bool ZvThermoInt::validPressure(std::string_view name, double P, double T) {
+  if (!validRange(name, P, limits_.PMin, limits_.PMax, UnitGroup::pressure)) return false;
+  // 500 MPa at 273.15 K, rising by 100/15 MPa a kelvin to 1500 MPa at 423.15 K
+  const double strictMax =
+      T >= 423.15 ? 1500.0 : ((T - 273.15) * 0.06666666666666667 + 5.0) * 100.0;
+  const bool strict = P >= limits_.PStrictMin && P <= strictMax;
+  if (!strict && diagnostics_.wantsWarnings()) {
+    diagnostics_.postWarning(fmt::sprintf(messageText(Message::outOfStrictRange), name));
+  }
+  return true;
+}
+
+bool ZvThermoInt::fail(Message message) {
+  diagnostics_.postError(message);
+  return false;
+}
+
+bool ZvThermoInt::fail(std::string_view text) {
+  diagnostics_.postError(text);
+  return false;
+}
+
+bool ZvThermoInt::give(double* out, double value) {
+  if (!std::isfinite(value)) return fail(Message::solutionError);
+  *out = value;
+  return true;
+}
+
+bool ZvThermoInt::give(double* out, UnitGroup group, double value) {
+  return give(out, units_.toUser(group, value));
+}
+
+}  // namespace calvex

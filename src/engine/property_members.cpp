@@ -1,0 +1,238 @@
+// The property members: one protocol over one table.
+#include "engine/property_members.h"
+
+#include <cmath>
+
+#include "engine/thermo_engine.h"
+#include "steam/constants.h"
+#include "steam/saturation_correlations.h"
+#include "steam/transport.h"
+
+namespace calvex {
+
+namespace {
+
+using Letter = Quantity::Letter;
+
+constexpr Quantity quantities[] = {
+    {Letter::P, Property::pressure, UnitGroup::pressure, true, "Pressure"},
+    {Letter::T, Property::temperature, UnitGroup::temperature, true, "Temperature"},
+    {Letter::H, Property::enthalpy, UnitGroup::enthalpy, true, "Enthalpy"},
+    {Letter::S, Property::entropy, UnitGroup::entropy, true, "Entropy"},
+    {Letter::U, Property::internalEnergy, UnitGroup::internalEnergy, true, "Internal Energy"},
+    {Letter::R, Property::density, UnitGroup::density, true, "Density"},
+    {Letter::V, Property::specificVolume, UnitGroup::specificVolume, true, "Specific Volume"},
+    {Letter::Q, {}, UnitGroup::quality, true, "Quality"},
+    {Letter::A, Property::helmholtz, UnitGroup::helmholtzEnergy, true, {}},
+    {Letter::G, Property::gibbs, UnitGroup::gibbsEnergy, true, {}},
+    {Letter::M, Property::viscosity, UnitGroup::dynamicViscosity, true, {}},
+    {Letter::K, Property::thermalConductivity, UnitGroup::thermalConductivity, true, {}},
+    {Letter::C, Property::isobaricHeatCapacity, UnitGroup::specificHeat, true, {}},
+    {Letter::D, Property::isochoricHeatCapacity, UnitGroup::specificHeat, true, {}},
+    {Letter::Z, Property::compressibilityFactor, {}, false, {}},
+    {Letter::W, Property::speedOfSound, UnitGroup::velocity, true, {}},
+    {Letter::N, Property::prandtlNumber, {}, false, {}},
+    {Letter::E, Property::dielectricConstant, {}, false, {}},
+    {Letter::I, Property::isothermalThrottling, UnitGroup::isothermalJouleThomson, true, {}},
+    {Letter::J, Property::jouleThomson, UnitGroup::jouleThomson, true, {}},
+    {Letter::B, Property::thermalExpansion, UnitGroup::thermalExpansion, true, {}},
+    {Letter::L, Property::compressibility, UnitGroup::compressibility, true, {}},
+};
+
+constexpr PropertyMember members[] = {
+#define X(result, first, second, twoPhases)                                        \
+  {#result #first #second, Letter::result, Letter::first, Letter::second,          \
+   PropertyMember::TwoPhases::twoPhases},
+    CALVEX_PROPERTY_MEMBERS(X)
+#undef X
+};
+static_assert(std::size(members) == PropertyMember::count);
+
+}  // namespace
+
+const Quantity& quantity(Letter letter) noexcept {
+  return quantities[static_cast<std::size_t>(letter)];
+}
+
+const PropertyMember& propertyMember(PropertyMember::Index index) noexcept {
+  return members[index];
+}
+
+int ZvThermoInt::property(PropertyMember::Index index, double* out, double first, double second) {
+  const PropertyMember& member = members[index];
+  return call(member.name, [&] {
+    const Quantity& result = quantity(member.result);
+    const double x1 = units_.toInternal(quantity(member.first).group, first);
+    const double x2 = units_.toInternal(quantity(member.second).group, second);
+    if (!validInputs(member, x1, x2)) return false;
+
+    const Phases phases = stateOf(member, x1, x2);
+    if (phases == Phases::two) {
+      switch (member.twoPhases) {
+        case PropertyMember::TwoPhases::fails:
+          return fail(Message::twoPhase);
+        case PropertyMember::TwoPhases::onLine:
+          return onLine(member, out, first);
+        case PropertyMember::TwoPhases::pressureOfLine:
+          return PSatT(out, first) != 0;
+        case PropertyMember::TwoPhases::ofMixture:
+          break;
+      }
+    }
+    if (member.result == Letter::Q) return give(out, result.group, steam_.state().quality);
+    const double value = phases == Phases::two ? steam_.mixtureProperty(result.property)
+                                               : steam_.property(result.property);
+    return result.hasUnit ? give(out, result.group, value) : give(out, value);
+  });
+}
+
+bool ZvThermoInt::validInputs(const PropertyMember& member, double first, double second) {
+  const bool fromT = member.first == Letter::T;
+  if (member.second == Letter::T) {
+    switch (member.result) {
+      case Letter::M:
+      case Letter::K:
+      case Letter::N:
+      case Letter::E:
+        return validTransportRange(member.result, first, second);
+      default:
+        return validTemperature("Temperature", second) &&
+               validPressure("Pressure", first, second);
+    }
+  }
+  if (!(fromT ? validTemperature("Temperature", first) : validPressure("Pressure", first))) {
+    return false;
+  }
+  // This one member spells it with a small letter.
+  if (&member == &members[PropertyMember::QPV]) return notNegative("Specific volume", second);
+  return notNegative(quantity(member.second).name, second);
+}
+
+// The ranges of the correlations, MPa and K.
+bool ZvThermoInt::validTransportRange(Letter result, double P, double T) {
+  constexpr double TMin = 273.15;
+  const auto validT = [&](double TMax) {
+    return validRange("Temperature", T, TMin, TMax, UnitGroup::temperature);
+  };
+  const auto validP = [&](double PMax) {
+    return validRange("Pressure", P, 0.0, PMax, UnitGroup::pressure);
+  };
+  switch (result) {
+    case Letter::M: {
+      if (!validT(1073.15)) return false;
+      const double PMax = T < 373.15 ? 1000.0 : T < 833.15 ? 350.0 : 100.0;
+      if (!validP(PMax)) return false;
+      if (P > 100.0 && diagnostics_.wantsWarnings()) {
+        diagnostics_.postWarning("Pressure parameter out of strictly valid range.");
+      }
+      return true;
+    }
+    case Letter::E:
+      return validP(500.0) && validT(823.15);
+    default:
+      return validP(100.0) && validT(1073.15);
+  }
+}
+
+Phases ZvThermoInt::stateOf(const PropertyMember& member, double first, double second) {
+  if (member.second == Letter::T) return steam_.stateFromPT(first, second);
+  // A specific volume is solved for as a density.
+  const bool isVolume = member.second == Letter::V;
+  const Property given = isVolume ? Property::density : quantity(member.second).property;
+  const double value = isVolume ? 1.0 / second : second;
+  return member.first == Letter::T ? steam_.stateFromT(first, given, value)
+                                   : steam_.stateFromP(first, given, value);
+}
+
+// Hands over to the saturation member of the same result, in the client's units. The V members go
+// through the density.
+bool ZvThermoInt::onLine(const PropertyMember& member, double* out, double userFirst) {
+  const double Q = units_.toUser(UnitGroup::quality, steam_.state().quality);
+  const bool fromT = member.first == Letter::T;
+  switch (member.result) {
+    case Letter::H:
+      return (fromT ? HSatTQ(out, userFirst, Q) : HSatPQ(out, userFirst, Q)) != 0;
+    case Letter::S:
+      return (fromT ? SSatTQ(out, userFirst, Q) : SSatPQ(out, userFirst, Q)) != 0;
+    case Letter::U:
+      return (fromT ? USatTQ(out, userFirst, Q) : USatPQ(out, userFirst, Q)) != 0;
+    case Letter::R:
+      return (fromT ? RSatTQ(out, userFirst, Q) : RSatPQ(out, userFirst, Q)) != 0;
+    default: {
+      double density = 0.0;
+      if (!(fromT ? RSatTQ(&density, userFirst, Q) : RSatPQ(&density, userFirst, Q))) return false;
+      return give(out, UnitGroup::specificVolume,
+                  1.0 / units_.toInternal(UnitGroup::density, density));
+    }
+  }
+}
+
+// Whether P is the saturation pressure of T whatever the correlation says, so that the temperature
+// TSatP(P) counts as on the line; the exact pressure is asked for only where it can be.
+bool ZvThermoInt::isOnLine(double P, double T) {
+  if (T < constants::triplePointTemperature || T > constants::criticalTemperature) return false;
+  if (std::fabs(1.0 - P / saturation::pressure(T)) >= 0.005) return false;
+  return std::fabs(1.0 - P / steam_.PSatT(T)) < 1e-4;
+}
+
+int ZvThermoInt::HPTQ(double* pH, double P, double T, double Q) {
+  return call("HPTQ", [&] {
+    const double p = units_.toInternal(UnitGroup::pressure, P);
+    const double t = units_.toInternal(UnitGroup::temperature, T);
+    const double q = units_.toInternal(UnitGroup::quality, Q);
+    if (!validTemperature("Temperature", t) || !validPressure("Pressure", p, t) ||
+        !validRange("Quality", q, 0.0, 1.0, UnitGroup::quality)) {
+      return false;
+    }
+    if (isOnLine(p, t) || steam_.stateFromPT(p, t) == Phases::two) return HSatPQ(pH, P, Q) != 0;
+    return give(pH, UnitGroup::enthalpy, steam_.property(Property::enthalpy));
+  });
+}
+
+int ZvThermoInt::fromPH(std::string_view name, double* pQ, double* pT, Property third,
+                        UnitGroup thirdGroup, double* pThird, double P, double H) {
+  return call(name, [&] {
+    const double p = units_.toInternal(UnitGroup::pressure, P);
+    const double h = units_.toInternal(UnitGroup::enthalpy, H);
+    if (!validPressure("Pressure", p) || !notNegative("Enthalpy", h)) return false;
+
+    const Phases phases = steam_.stateFromP(p, Property::enthalpy, h);
+    double q = 0.0;
+    double t = 0.0;
+    double x = 0.0;
+    if (!give(&q, UnitGroup::quality, steam_.state().quality) ||
+        !give(&t, UnitGroup::temperature, steam_.state().temperature)) {
+      return false;
+    }
+    if (pThird != nullptr) {
+      const double value =
+          phases == Phases::two ? steam_.mixtureProperty(third) : steam_.property(third);
+      if (!give(&x, thirdGroup, value)) return false;
+      *pThird = x;
+    }
+    *pQ = q;
+    *pT = t;
+    return true;
+  });
+}
+
+int ZvThermoInt::QT_PH(double* pQ, double* pT, double P, double H) {
+  return fromPH("QT_PH", pQ, pT, {}, {}, nullptr, P, H);
+}
+
+int ZvThermoInt::QTS_PH(double* pQ, double* pT, double* pS, double P, double H) {
+  return fromPH("QTS_PH", pQ, pT, Property::entropy, UnitGroup::entropy, pS, P, H);
+}
+
+int ZvThermoInt::QTR_PH(double* pQ, double* pT, double* pR, double P, double H) {
+  return fromPH("QTR_PH", pQ, pT, Property::density, UnitGroup::density, pR, P, H);
+}
+
+int ZvThermoInt::XT(double* pX, double T) {
+  return call("XT", [&] {
+    const double t = units_.toInternal(UnitGroup::temperature, T);
+    return validOnLine(Letter::T, t) && give(pX, UnitGroup::surfaceTension, surfaceTension(t));
+  });
+}
+
+}  // namespace calvex
