@@ -1,0 +1,217 @@
+// The members of `IZvCalvex`, by dispatch id. The ids 14, ba, bb, c0, c1, c2 and c3 are reserved and
+// never given to a member.
+#include "server/member_table.h"
+
+#include <algorithm>
+#include <string>
+#include <unordered_map>
+
+#include "engine/thermo_engine.h"
+#include "server/operation.h"
+
+namespace calvex {
+
+namespace {
+
+using Engine = ZvThermoInt;
+using detail::action;
+using detail::method;
+using detail::setting;
+using detail::value;
+
+// Answers S_OK and writes nothing.
+constexpr Member hWnd = [] {
+  Member member{0xbe, "hWnd", ReturnStyle::status, true,
+                [](ZvThermoInt&, std::span<Value>) { return 1; }, nullptr, {}, 1};
+  member.parameterStore[0] = {"pVal", ValueType::longInteger, Direction::retval, -1};
+  return member;
+}();
+
+// Outputs first, then inputs, each with the number of its unit group.
+constexpr Member members[] = {
+    setting<&Engine::SolverTol, &Engine::SetSolverTol>(0x01, "SolverTol"),
+    setting<&Engine::SolverIter, &Engine::SetSolverIter>(0x02, "SolverIter"),
+    setting<&Engine::TraceLevel, &Engine::SetTraceLevel>(0x03, "TraceLevel"),
+    setting<&Engine::SatPolish, &Engine::SetSatPolish>(0x04, "SatPolish"),
+    setting<&Engine::FunctionCallTracing, &Engine::SetFunctionCallTracing>(0x05, "FunctionCallTracing"),
+    setting<&Engine::MaxTraceSize, &Engine::SetMaxTraceSize>(0x06, "MaxTraceSize"),
+    setting<&Engine::LastError>(0x07, "LastError"),
+    setting<&Engine::VersionStr>(0x08, "VersionStr"),
+    value<&Engine::MolWeight>(0x09, "MolWeight", "pVal", 21),
+    value<&Engine::CritT>(0x0a, "CritT", "pVal", 0),
+    value<&Engine::CritP>(0x0b, "CritP", "pVal", 1),
+    value<&Engine::CritV>(0x0c, "CritV", "pVal", 3),
+    value<&Engine::CritR>(0x0d, "CritR", "pVal", 2),
+    value<&Engine::CritZ>(0x0e, "CritZ", "pVal"),
+    value<&Engine::TripleT>(0x0f, "TripleT", "pVal", 0),
+    value<&Engine::TripleP>(0x10, "TripleP", "pVal", 1),
+    value<&Engine::ShowTraceDlg>(0x11, "ShowTraceDlg", "pRet"),
+    value<&Engine::ShowSelectUomDlg>(0x12, "ShowSelectUomDlg", "pRet"),
+    value<&Engine::ShowOptionsDlg>(0x13, "ShowOptionsDlg", "pRet"),
+    action<&Engine::ClearTraceInfo>(0x15, "ClearTraceInfo"),
+    action<&Engine::AddCustomTraceTitle>(0x16, "AddCustomTraceTitle", "strTitle"),
+    action<&Engine::SetCustomTraceText>(0x17, "SetCustomTraceText", "nIndex strText"),
+    action<&Engine::GetCustomTraceText>(0x18, "GetCustomTraceText", "nIndex strText"),
+    action<&Engine::AddExternalError>(0x19, "AddExternalError", "strName strText"),
+    method<&Engine::SetUserUnit>(0x1a, "SetUserUnit", "groupStr newVal"),
+    method<&Engine::GetUserUnit>(0x1b, "GetUserUnit", "groupStr pVal"),
+    method<&Engine::SetUserUnitIndex>(0x1c, "SetUserUnitIndex", "nGroupID newVal"),
+    method<&Engine::GetUserUnitIndex>(0x1d, "GetUserUnitIndex", "nGroupID pVal"),
+    method<&Engine::Convert>(0x1e, "Convert", "strGroup strFromUnit strToUnit dblFromVal dblToVal"),
+    method<&Engine::PSatT>(0x1f, "PSatT", "pP:1 T:0"),
+    method<&Engine::TSatP>(0x20, "TSatP", "pT:0 P:1"),
+    method<&Engine::HSatTQ>(0x21, "HSatTQ", "pH:5 T:0 Q:7"),
+    method<&Engine::HSatPQ>(0x22, "HSatPQ", "pH:5 P:1 Q:7"),
+    method<&Engine::SSatTQ>(0x23, "SSatTQ", "pS:4 T:0 Q:7"),
+    method<&Engine::SSatPQ>(0x24, "SSatPQ", "pS:4 P:1 Q:7"),
+    method<&Engine::USatTQ>(0x25, "USatTQ", "pU:6 T:0 Q:7"),
+    method<&Engine::USatPQ>(0x26, "USatPQ", "pU:6 P:1 Q:7"),
+    method<&Engine::RSatTQ>(0x27, "RSatTQ", "pR:2 T:0 Q:7"),
+    method<&Engine::RSatPQ>(0x28, "RSatPQ", "pR:2 P:1 Q:7"),
+    method<&Engine::PTH>(0x29, "PTH", "pP:1 T:0 H:5"),
+    method<&Engine::PTS>(0x2a, "PTS", "pP:1 T:0 S:4"),
+    method<&Engine::PTU>(0x2b, "PTU", "pP:1 T:0 U:6"),
+    method<&Engine::PTR>(0x2c, "PTR", "pP:1 T:0 R:2"),
+    method<&Engine::PTV>(0x2d, "PTV", "pP:1 T:0 V:3"),
+    method<&Engine::TPH>(0x2e, "TPH", "pT:0 P:1 H:5"),
+    method<&Engine::TPS>(0x2f, "TPS", "pT:0 P:1 S:4"),
+    method<&Engine::TPU>(0x30, "TPU", "pT:0 P:1 U:6"),
+    method<&Engine::TPR>(0x31, "TPR", "pT:0 P:1 R:2"),
+    method<&Engine::TPV>(0x32, "TPV", "pT:0 P:1 V:3"),
+    method<&Engine::HPT>(0x33, "HPT", "pH:5 P:1 T:0"),
+    method<&Engine::HPTQ>(0x34, "HPTQ", "pH:5 P:1 T:0 Q:7"),
+    method<&Engine::HPS>(0x35, "HPS", "pH:5 P:1 S:4"),
+    method<&Engine::HPU>(0x36, "HPU", "pH:5 P:1 U:6"),
+    method<&Engine::HPR>(0x37, "HPR", "pH:5 P:1 R:2"),
+    method<&Engine::HPV>(0x38, "HPV", "pH:5 P:1 V:3"),
+    method<&Engine::HTS>(0x39, "HTS", "pH:5 T:0 S:4"),
+    method<&Engine::HTU>(0x3a, "HTU", "pH:5 T:0 U:6"),
+    method<&Engine::HTR>(0x3b, "HTR", "pH:5 T:0 R:2"),
+    method<&Engine::HTV>(0x3c, "HTV", "pH:5 T:0 V:3"),
+    method<&Engine::SPT>(0x3d, "SPT", "pS:4 P:1 T:0"),
+    method<&Engine::SPH>(0x3e, "SPH", "pS:4 P:1 H:5"),
+    method<&Engine::SPU>(0x3f, "SPU", "pS:4 P:1 U:6"),
+    method<&Engine::SPR>(0x40, "SPR", "pS:4 P:1 R:2"),
+    method<&Engine::SPV>(0x41, "SPV", "pS:4 P:1 V:3"),
+    method<&Engine::STH>(0x42, "STH", "pS:4 T:0 H:5"),
+    method<&Engine::STU>(0x43, "STU", "pS:4 T:0 U:6"),
+    method<&Engine::STR>(0x44, "STR", "pS:4 T:0 R:2"),
+    method<&Engine::STV>(0x45, "STV", "pS:4 T:0 V:3"),
+    method<&Engine::UPT>(0x46, "UPT", "pU:6 P:1 T:0"),
+    method<&Engine::UPH>(0x47, "UPH", "pU:6 P:1 H:5"),
+    method<&Engine::UPS>(0x48, "UPS", "pU:6 P:1 S:4"),
+    method<&Engine::UPR>(0x49, "UPR", "pU:6 P:1 R:2"),
+    method<&Engine::UPV>(0x4a, "UPV", "pU:6 P:1 V:3"),
+    method<&Engine::UTH>(0x4b, "UTH", "pU:6 T:0 H:5"),
+    method<&Engine::UTS>(0x4c, "UTS", "pU:6 T:0 S:4"),
+    method<&Engine::UTR>(0x4d, "UTR", "pU:6 T:0 R:2"),
+    method<&Engine::UTV>(0x4e, "UTV", "pU:6 T:0 V:3"),
+    method<&Engine::RPT>(0x4f, "RPT", "pR:2 P:1 T:0"),
+    method<&Engine::RPH>(0x50, "RPH", "pR:2 P:1 H:5"),
+    method<&Engine::RPS>(0x51, "RPS", "pR:2 P:1 S:4"),
+    method<&Engine::RPU>(0x52, "RPU", "pR:2 P:1 U:6"),
+    method<&Engine::RTH>(0x53, "RTH", "pR:2 T:0 H:5"),
+    method<&Engine::RTS>(0x54, "RTS", "pR:2 T:0 S:4"),
+    method<&Engine::RTU>(0x55, "RTU", "pR:2 T:0 U:6"),
+    method<&Engine::VPT>(0x56, "VPT", "pV:3 P:1 T:0"),
+    method<&Engine::VPH>(0x57, "VPH", "pV:3 P:1 H:5"),
+    method<&Engine::VPS>(0x58, "VPS", "pV:3 P:1 S:4"),
+    method<&Engine::VPU>(0x59, "VPU", "pV:3 P:1 U:6"),
+    method<&Engine::VTH>(0x5a, "VTH", "pV:3 T:0 H:5"),
+    method<&Engine::VTS>(0x5b, "VTS", "pV:3 T:0 S:4"),
+    method<&Engine::VTU>(0x5c, "VTU", "pV:3 T:0 U:6"),
+    method<&Engine::QPH>(0x5d, "QPH", "pQ:7 P:1 H:5"),
+    method<&Engine::QPS>(0x5e, "QPS", "pQ:7 P:1 S:4"),
+    method<&Engine::QPU>(0x5f, "QPU", "pQ:7 P:1 U:6"),
+    method<&Engine::QPR>(0x60, "QPR", "pQ:7 P:1 R:2"),
+    method<&Engine::QPV>(0x61, "QPV", "pQ:7 P:1 V:3"),
+    method<&Engine::QTH>(0x62, "QTH", "pQ:7 T:0 H:5"),
+    method<&Engine::QTS>(0x63, "QTS", "pQ:7 T:0 S:4"),
+    method<&Engine::QTU>(0x64, "QTU", "pQ:7 T:0 U:6"),
+    method<&Engine::QTR>(0x65, "QTR", "pQ:7 T:0 R:2"),
+    method<&Engine::QTV>(0x66, "QTV", "pQ:7 T:0 V:3"),
+    method<&Engine::APT>(0x67, "APT", "pA:23 P:1 T:0"),
+    method<&Engine::APH>(0x68, "APH", "pA:23 P:1 H:5"),
+    method<&Engine::APS>(0x69, "APS", "pA:23 P:1 S:4"),
+    method<&Engine::APU>(0x6a, "APU", "pA:23 P:1 U:6"),
+    method<&Engine::APR>(0x6b, "APR", "pA:23 P:1 R:2"),
+    method<&Engine::APV>(0x6c, "APV", "pA:23 P:1 V:3"),
+    method<&Engine::ATH>(0x6d, "ATH", "pA:23 T:0 H:5"),
+    method<&Engine::ATS>(0x6e, "ATS", "pA:23 T:0 S:4"),
+    method<&Engine::ATU>(0x6f, "ATU", "pA:23 T:0 U:6"),
+    method<&Engine::ATR>(0x70, "ATR", "pA:23 T:0 R:2"),
+    method<&Engine::ATV>(0x71, "ATV", "pA:23 T:0 V:3"),
+    method<&Engine::GPT>(0x72, "GPT", "pG:24 P:1 T:0"),
+    method<&Engine::GPH>(0x73, "GPH", "pG:24 P:1 H:5"),
+    method<&Engine::GPS>(0x74, "GPS", "pG:24 P:1 S:4"),
+    method<&Engine::GPU>(0x75, "GPU", "pG:24 P:1 U:6"),
+    method<&Engine::GPR>(0x76, "GPR", "pG:24 P:1 R:2"),
+    method<&Engine::GPV>(0x77, "GPV", "pG:24 P:1 V:3"),
+    method<&Engine::GTH>(0x78, "GTH", "pG:24 T:0 H:5"),
+    method<&Engine::GTS>(0x79, "GTS", "pG:24 T:0 S:4"),
+    method<&Engine::GTU>(0x7a, "GTU", "pG:24 T:0 U:6"),
+    method<&Engine::GTR>(0x7b, "GTR", "pG:24 T:0 R:2"),
+    method<&Engine::GTV>(0x7c, "GTV", "pG:24 T:0 V:3"),
+    method<&Engine::MPT>(0x7d, "MPT", "pM:13 P:1 T:0"),
+    method<&Engine::KPT>(0x7e, "KPT", "pK:14 P:1 T:0"),
+    method<&Engine::CPT>(0x7f, "CPT", "pC:8 P:1 T:0"),
+    method<&Engine::DPT>(0x80, "DPT", "pD:8 P:1 T:0"),
+    method<&Engine::ZPT>(0x81, "ZPT", "pZ P:1 T:0"),
+    method<&Engine::WPT>(0x82, "WPT", "pW:16 P:1 T:0"),
+    method<&Engine::NPT>(0x83, "NPT", "pN P:1 T:0"),
+    method<&Engine::EPT>(0x84, "EPT", "pE P:1 T:0"),
+    method<&Engine::IPT>(0x85, "IPT", "pI:17 P:1 T:0"),
+    method<&Engine::JPT>(0x86, "JPT", "pJ:18 P:1 T:0"),
+    method<&Engine::BPT>(0x87, "BPT", "pB:19 P:1 T:0"),
+    method<&Engine::LPT>(0x88, "LPT", "pL:20 P:1 T:0"),
+    method<&Engine::XT>(0x89, "XT", "pX:15 T:0"),
+    action<&Engine::SetupExcelTracing>(0x99, "SetupExcelTracing"),
+    action<&Engine::SetCellRef>(0x9a, "SetCellRef", "strBook strSheet strCell"),
+    action<&Engine::GetCellRef>(0x9b, "GetCellRef", "strCellRef"),
+    setting<&Engine::ReturnModelUnits, &Engine::SetReturnModelUnits>(0x9d, "ReturnModelUnits"),
+    setting<&Engine::ReturnThermoUnits, &Engine::SetReturnThermoUnits>(0x9e, "ReturnThermoUnits"),
+    setting<&Engine::AppLevel, &Engine::SetAppLevel>(0xb5, "AppLevel"),
+    setting<&Engine::ReturnModelTokens, &Engine::SetReturnModelTokens>(0xb8, "ReturnModelTokens"),
+    action<&Engine::GetAlarms>(0xb9, "GetAlarms", "pAlarmArray"),
+    setting<&Engine::AppName, &Engine::SetAppName>(0xbc, "AppName"),
+    setting<&Engine::AppHelpFile, &Engine::SetAppHelpFile>(0xbd, "AppHelpFile"),
+    hWnd,
+    setting<&Engine::UomHelpContext, &Engine::SetUomHelpContext>(0xbf, "UomHelpContext"),
+    method<&Engine::QT_PH>(0xc4, "QT_PH", "pQ:7 pT:0 P:1 H:5"),
+    method<&Engine::HVLTSat_PQ>(0xc5, "HVLTSat_PQ", "pH:5 pHVap:5 pHLiq:5 pTSat:0 P:1 Q:7"),
+    method<&Engine::QTS_PH>(0xc6, "QTS_PH", "pQ:7 pT:0 pS:4 P:1 H:5"),
+    method<&Engine::SetCustomUserUnitIndex>(0xcb, "SetCustomUserUnitIndex", "nGroupID newVal CFactor COffset"),
+    method<&Engine::VSatTQ>(0xd3, "VSatTQ", "pV:3 T:0 Q:7"),
+    method<&Engine::VSatPQ>(0xd4, "VSatPQ", "pV:3 P:1 Q:7"),
+};
+
+static_assert(std::ranges::is_sorted(members, {}, &Member::dispatchId));
+
+std::string lowerCase(std::string_view name) {
+  std::string lower(name);
+  for (char& c : lower) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return lower;
+}
+
+}  // namespace
+
+std::span<const Member> memberTable() noexcept { return members; }
+
+const Member* findMember(std::string_view name) {
+  static const auto byName = [] {
+    std::unordered_map<std::string, const Member*> map;
+    for (const Member& member : members) map.emplace(lowerCase(member.name), &member);
+    return map;
+  }();
+  const auto found = byName.find(lowerCase(name));
+  return found == byName.end() ? nullptr : found->second;
+}
+
+const Member* findMember(int dispatchId) noexcept {
+  const auto found = std::ranges::lower_bound(members, dispatchId, {}, &Member::dispatchId);
+  return found != std::end(members) && found->dispatchId == dispatchId ? found : nullptr;
+}
+
+}  // namespace calvex
