@@ -340,23 +340,15 @@ double HelmholtzPoint::helmholtz() const {
          constants::referenceEnergy;
 }
 
-HelmholtzPoint::Derivatives HelmholtzPoint::derivatives() const {
+double HelmholtzPoint::RT() const { return R * t_->T(); }
+
+HelmholtzPoint::DensityCurvature HelmholtzPoint::densityCurvature() const {
   const TemperatureTerms& f = t_->value;
-  const TemperatureTerms& f1 = t_->slope;
-  const TemperatureTerms& f2 = t_->curvature;
-  const double T = t_->T();
-  const double RT = R * T;
-
-  // f''(y)
-  const double base1 = baseSlope_;
-  const double base2 = (beta - 3.0 + 2.0 * y_) * inverseZ_ * inverseZ_ * inverseZ_ +
-                       3.0 * (base1 + 4.0 * gamma) * inverseZ_;
-
-  // S, dS/dr, T dS/dT and T^2 A_TT of the residual function
-  double S = decay_ * seriesInQ(f.G, q_);
-  double Sr = decay_ * decay_ * slopeOfSeriesInQ(f.G, q_) - S;
-  double ST = decay_ * seriesInQ(f1.G, q_);
-  double ATT = integralOfSeriesInQ(f2.G, q_);
+  DensityCurvature c;
+  c.base = (beta - 3.0 + 2.0 * y_) * inverseZ_ * inverseZ_ * inverseZ_ +
+           3.0 * (baseSlope_ + 4.0 * gamma) * inverseZ_;
+  c.S = decay_ * seriesInQ(f.G, q_);
+  c.Sr = decay_ * decay_ * slopeOfSeriesInQ(f.G, q_) - c.S;
   for (int n = 0; n < gaussianCount_; ++n) {
     const Gaussian& bell = gaussians_[static_cast<std::size_t>(n)];
     const auto i = static_cast<std::size_t>(bell.term);
@@ -365,30 +357,53 @@ HelmholtzPoint::Derivatives HelmholtzPoint::derivatives() const {
     const double d = r_ / term.r - 1.0;
     const double ak = term.alpha * term.k;
     const double lowered = term.l < 2 ? 0.0 : term.l * (term.l - 1) * integerPower(d, term.l - 2);
-    const double second = (lowered - ak * (term.k + 2 * term.l - 1) * integerPower(d, term.k + term.l - 2) +
-                           ak * ak * integerPower(d, 2 * term.k + term.l - 2)) *
-                          std::exp(-term.alpha * integerPower(d, term.k)) / (term.r * term.r);
-    S += f.gaussian[i] * bell.slope;
-    Sr += f.gaussian[i] * second;
+    const double second =
+        (lowered - ak * (term.k + 2 * term.l - 1) * integerPower(d, term.k + term.l - 2) +
+         ak * ak * integerPower(d, 2 * term.k + term.l - 2)) *
+        std::exp(-term.alpha * integerPower(d, term.k)) / (term.r * term.r);
+    c.S += f.gaussian[i] * bell.slope;
+    c.Sr += f.gaussian[i] * second;
+  }
+  return c;
+}
+
+// P_r = R T + r X
+double HelmholtzPoint::slopeBeyondIdealGas(const DensityCurvature& c) const {
+  const TemperatureTerms& f = t_->value;
+  return RT() * (0.25 * f.b * (2.0 * baseSlope_ + y_ * c.base) + 2.0 * f.B) + 2.0 * c.S +
+         r_ * c.Sr;
+}
+
+HelmholtzPoint::Derivatives HelmholtzPoint::derivatives() const {
+  const TemperatureTerms& f = t_->value;
+  const TemperatureTerms& f1 = t_->slope;
+  const TemperatureTerms& f2 = t_->curvature;
+  const double T = t_->T();
+  const DensityCurvature c = densityCurvature();
+
+  // T dS/dT and T^2 A_TT of the residual function
+  double ST = decay_ * seriesInQ(f1.G, q_);
+  double ATT = integralOfSeriesInQ(f2.G, q_);
+  for (int n = 0; n < gaussianCount_; ++n) {
+    const Gaussian& bell = gaussians_[static_cast<std::size_t>(n)];
+    const auto i = static_cast<std::size_t>(bell.term);
     ST += f1.gaussian[i] * bell.slope;
     ATT += f2.gaussian[i] * bell.value;
   }
 
-  const double quarterB = 0.25 * f.b;
-  const double quarterB1 = 0.25 * f1.b;
-
   Derivatives d;
-  d.X = RT * (quarterB * (2.0 * base1 + y_ * base2) + 2.0 * f.B) + 2.0 * S + r_ * Sr;
-  d.Y = RT * (quarterB * base1 + f.B + quarterB1 * (base1 + y_ * base2) + f1.B) + ST;
-  d.Pr = RT + r_ * d.X;
-  d.PT = r_ * (RT + r_ * d.Y) / T;
+  d.X = slopeBeyondIdealGas(c);
+  d.Y = RT() * (0.25 * f.b * baseSlope_ + f.B + 0.25 * f1.b * (baseSlope_ + y_ * c.base) + f1.B) +
+        ST;
+  d.Pr = RT() + r_ * d.X;
+  d.PT = r_ * (RT() + r_ * d.Y) / T;
 
-  // cv = -T A_TT
-  const double TFT = r_ * (quarterB1 * base1 + f1.B) + 1.0;
-  const double TTFTT =
-      r_ * r_ * quarterB1 * quarterB1 * base2 + r_ * (0.25 * f2.b * base1 + f2.B) - 1.0;
+  // cv = -T A_TT, the base function's A being R T F
+  const double TFT = r_ * (0.25 * f1.b * baseSlope_ + f1.B) + 1.0;
+  const double TTFTT = r_ * r_ * 0.0625 * f1.b * f1.b * c.base +
+                       r_ * (0.25 * f2.b * baseSlope_ + f2.B) - 1.0;
   d.cv = R * (2.0 * f1.ideal + f2.ideal - 2.0 * TFT - TTFTT) - ATT / T;
-  const double beyond = RT + r_ * d.Y;
+  const double beyond = RT() + r_ * d.Y;
   d.cp = d.cv + beyond * beyond / (T * d.Pr);
   return d;
 }

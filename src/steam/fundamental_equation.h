@@ -86,6 +86,11 @@ class HelmholtzPoint {
   [[nodiscard]] double pressure() const { return r_ * pressureOverDensity_; }        ///< MPa
   [[nodiscard]] double pressureOverDensity() const { return pressureOverDensity_; }  ///< kJ/kg
 
+  /// dP/dr at constant T, kJ/kg; a stable phase has it positive.
+  [[nodiscard]] double pressureSlope() const {
+    return RT() + r_ * slopeBeyondIdealGas(densityCurvature());
+  }
+
   // Order::energy --------------------------------------------------------------------------------
   [[nodiscard]] double internalEnergy() const;                                       ///< kJ/kg
   [[nodiscard]] double enthalpy() const { return internalEnergy() + pressureOverDensity_; }
@@ -118,7 +123,16 @@ class HelmholtzPoint {
     double slope;
   };
 
+  /// f''(y) of the base function; S = dA_residual/dr and dS/dr.
+  struct DensityCurvature {
+    double base;
+    double S;
+    double Sr;
+  };
+  [[nodiscard]] DensityCurvature densityCurvature() const;
+  [[nodiscard]] double slopeBeyondIdealGas(const DensityCurvature& c) const;  // X
   [[nodiscard]] double helmholtzOfDensity() const;
+  [[nodiscard]] double RT() const;
 
   const TemperaturePart* t_;
   double r_;  // density, g/cm3

@@ -235,15 +235,20 @@ Start SteamModel::solveState(Target first, Target second, Start start, Side side
     return solve(targets);
   };
   const auto solution = [&] { return Start{unknowns_[0], unknowns_[1]}; };
-  // The critical density parts the two sides.
-  const auto onSide = [&] {
-    return side == Side::any || (side == Side::liquid) == (unknowns_[1] > criticalDensity);
+  // The critical density parts the two sides. Roots between the spinodals meet their targets too:
+  // (P, s) at 15.98 MPa and 0.691 kJ/(kg.K), a liquid at 322.7 K and 995 kg/m3, has one at 340.2 K
+  // and 731 kg/m3.
+  const auto isPhase = [&] {
+    const bool onSide =
+        side == Side::any || (side == Side::liquid) == (unknowns_[1] > criticalDensity);
+    const TemperaturePart& part = temperaturePart(unknowns_[0], TemperaturePart::Order::pressure);
+    return onSide && HelmholtzPoint(part, unknowns_[1]).pressureSlope() > 0.0;
   };
 
   const int status = attempt(start);
-  if (converged(status) && onSide()) return solution();
+  if (converged(status) && isPhase()) return solution();
 
-  // Next to the critical point the other side's root may be all there is.
+  // Next to the critical point a root of the other side may be all there is.
   std::optional<Start> otherSide;
   if (converged(status) && std::fabs(unknowns_[0] - criticalTemperature) <= criticalRegion) {
     otherSide = solution();
@@ -254,7 +259,7 @@ Start SteamModel::solveState(Target first, Target second, Start start, Side side
                 first.value, second.equation == Equation::pressure ? second.value : 0.0, side)
           : StartingPoints::atPressure(first.value, side);
   for (const Start& other : others) {
-    if (converged(attempt(other)) && onSide()) return solution();
+    if (converged(attempt(other)) && isPhase()) return solution();
   }
   if (otherSide) return *otherSide;
   raise(converged(status) ? notASolution : status);
