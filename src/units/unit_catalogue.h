@@ -6,11 +6,11 @@
 #pragma once
 
 #include <array>
-#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace calvex {
 
@@ -47,11 +47,15 @@ enum class UnitGroup : short {
 
 inline constexpr int unitGroupCount = 27;
 
+[[nodiscard]] constexpr bool isUnitGroup(int index) noexcept {
+  return 0 <= index && index < unitGroupCount;
+}
+
 /// One unit of a group: reference value = (x + offset) * factor.
 struct ZvUomLiteKeyword {
   std::string_view name;
   double factor;
-  double offset;
+  double offset = 0;
 };
 
 /// (value + from.offset) * from.factor / to.factor - to.offset, in this order and unrounded.
@@ -62,11 +66,11 @@ struct ZvUomLiteKeyword {
 
 /// What is fixed about a group: a row of the group table (unit_tables.cpp).
 struct UnitGroupRow {
-  std::string_view displayName;                     ///< "Mass Specific Enthalpy"
-  std::span<const std::string_view> keywords;       ///< texts that select the group, case-sensitive
-  std::string_view internalUnit;                    ///< the engine's own unit, also the default
-  std::string_view referenceUnit;                   ///< informational: factor 1, offset 0
-  std::span<const ZvUomLiteKeyword> units;          ///< in catalogue order
+  std::string_view displayName;                ///< "Mass Specific Enthalpy"
+  std::span<const std::string_view> keywords;  ///< texts that select the group, case-sensitive
+  std::string_view internalUnit;               ///< the engine's own unit, also the default
+  std::string_view referenceUnit;              ///< informational: factor 1, offset 0
+  std::span<const ZvUomLiteKeyword> units;     ///< in catalogue order
 };
 
 /// The 27 rows, by group number.
@@ -75,12 +79,13 @@ struct UnitGroupRow {
 /// One group with the user's current unit.
 class ZvUomLiteGroup {
  public:
+  /// The row must outlive the group.
   explicit ZvUomLiteGroup(const UnitGroupRow& row);
 
   [[nodiscard]] const UnitGroupRow& row() const noexcept { return *row_; }
   /// The unit of that exact name, or nullptr.
   [[nodiscard]] const ZvUomLiteKeyword* find(std::string_view unit) const noexcept;
-  /// The user's unit; never null.
+  /// The user's unit.
   [[nodiscard]] const ZvUomLiteKeyword& currentUnit() const noexcept { return *current_; }
   [[nodiscard]] const ZvUomLiteKeyword& internalUnit() const noexcept { return *internal_; }
   /// False, and nothing changed, when the group has no such unit.
@@ -103,6 +108,9 @@ class ZvUomLite {
   [[nodiscard]] int groupIndex(std::string_view keyword) const noexcept;
   /// nullptr for a number outside 0..26.
   [[nodiscard]] const ZvUomLiteGroup* group(int index) const noexcept;
+  [[nodiscard]] const ZvUomLiteGroup& operator[](UnitGroup group) const noexcept {
+    return groups_[static_cast<std::size_t>(group)];
+  }
 
   bool setUserUnit(int group, std::string_view unit) noexcept;
   bool getUserUnit(int group, std::string& unit) const;
@@ -114,8 +122,8 @@ class ZvUomLite {
   double atmosphericPressure = 1.01325;
 
  private:
-  std::array<std::unique_ptr<ZvUomLiteGroup>, unitGroupCount> groups_;
-  std::unordered_map<std::string_view, short> keywords_;
+  std::vector<ZvUomLiteGroup> groups_;
+  std::unordered_map<std::string_view, int> keywords_;
 };
 
 }  // namespace calvex
