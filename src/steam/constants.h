@@ -11,6 +11,7 @@ inline constexpr double reducingTemperature = 647.073;      // T0 of the fundame
 inline constexpr double criticalTemperature = 647.126;      // Tc, K
 inline constexpr double criticalPressure = 22.055;          // Pc, MPa
 inline constexpr double criticalDensity = 321.8870385;      // rho_c, kg/m3
+inline constexpr double criticalRegion = 0.5;               // K below Tc: scaling law, see PSatT
 inline constexpr double triplePointTemperature = 273.16;    // K
 inline constexpr double triplePointPressure = 0.00061173;   // MPa
 inline constexpr double celsiusZero = 273.15;               // K

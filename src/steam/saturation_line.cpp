@@ -10,6 +10,7 @@ namespace calvex {
 
 namespace {
 
+using constants::criticalRegion;
 using constants::criticalTemperature;
 using constants::triplePointTemperature;
 
@@ -44,30 +45,52 @@ const Names& namesOf(Property property) {
 
 }  // namespace
 
+// In the critical region the line is the pressure at the density of a scaling law.
+double SteamModel::pressureNearCritical(double T) {
+  return propertyAt(Property::pressure, T, saturation::nearCriticalDensity(T));
+}
+
+double SteamModel::temperatureNearCritical(double P) {
+  double lower = criticalTemperature - criticalRegion;
+  double upper = criticalTemperature;
+  for (int halving = 0; halving < 50; ++halving) {  // to the last bit of the half kelvin
+    const double middle = 0.5 * (lower + upper);
+    (pressureNearCritical(middle) < P ? lower : upper) = middle;
+  }
+  return upper;
+}
+
 double SteamModel::PSatT(double T) {
   const ZvFuncTrace trace(diagnostics_, "PSatT");
-  if (T >= criticalTemperature - 0.5) {
+  if (T >= criticalTemperature - criticalRegion) {
     diagnostics_.postWarning("Critical point region.");
-    return propertyAt(Property::pressure, T, saturation::nearCriticalDensity(T));
+    return pressureNearCritical(T);
   }
   if (satPolish_ == 0) return saturation::pressure(T);
-  solveEquilibrium({Equation::temperature, T}, T);
+  if (const int status = solveEquilibrium({Equation::temperature, T}, T); !converged(status)) {
+    raise(status);
+  }
   return propertyAt(Property::pressure, T, unknowns_[2]);
 }
 
+// The result stays on the line, so that PSatT accepts it.
 double SteamModel::TSatP(double P) {
   const ZvFuncTrace trace(diagnostics_, "TSatP");
-  const std::array<Target, 1> correlation{Target{Equation::saturationCorrelation, P}};
-  unknowns_[0] = saturation::temperatureGuess(P);
-  if (const int status = solve(correlation); !converged(status)) raise(status);
-  // PSatT must accept the result, so it stays on the line.
+  if (P < constants::triplePointPressure) return triplePointTemperature;
   const auto onLine = [](double T) {
     return std::clamp(T, triplePointTemperature, criticalTemperature);
   };
+  const std::array<Target, 1> correlation{Target{Equation::saturationCorrelation, P}};
+  unknowns_[0] = saturation::temperatureGuess(P);
+  if (const int status = solve(correlation); !converged(status)) raise(status);
   const double T = onLine(unknowns_[0]);
   if (satPolish_ == 0) return T;
-  solveEquilibrium({Equation::pressure, P}, T);
-  return onLine(unknowns_[0]);
+
+  const int status = solveEquilibrium({Equation::pressure, P}, T);
+  if (converged(status)) return onLine(unknowns_[0]);
+  // Above 22.01 MPa the two phases are too alike to be told apart by their Gibbs energies.
+  if (T >= criticalTemperature - criticalRegion) return temperatureNearCritical(P);
+  raise(status);
 }
 
 double SteamModel::mixture(Property property, double P, double T, double Q, double vapourFrom,

@@ -16,14 +16,11 @@ namespace calvex {
 namespace {
 
 using constants::criticalDensity;
+using constants::criticalRegion;
 using constants::criticalTemperature;
 
 // Beyond MINPACK's own: converged, but to no solution.
 constexpr int notASolution = 1000;
-
-// Within this distance of the critical point the two sides of the saturation line, whose pressure is
-// a scaling law there, may have only one root left.
-constexpr double criticalRegion = 0.5;  // K
 
 }  // namespace
 
@@ -271,25 +268,27 @@ double SteamModel::densityAt(double P, double T, double start, Side side) {
 }
 
 // Equal pressure and equal Gibbs energy of two phases, with the third target; from where the density
-// guesses put it, else from the scaling law of the critical region.
-void SteamModel::solveEquilibrium(Target third, double T) {
+// guesses put it, else from around the critical density. The solver's status.
+int SteamModel::solveEquilibrium(Target third, double T) {
   const std::array<Target, 3> targets{Target{Equation::gibbsDifference, 0.0},
                                       Target{Equation::pressureDifference, 0.0}, third};
   const auto attempt = [&](double liquid, double vapour) {
     unknowns_ = {T, liquid, vapour};
     const int status = solve(targets);
-    // Two equal densities meet both differences and are no equilibrium.
-    const bool trivial = !(unknowns_[1] - unknowns_[2] > 1e-6 * criticalDensity);
-    return converged(status) && trivial ? notASolution : status;
+    // Two equal densities meet both differences and are no equilibrium; next to the critical point
+    // nearly equal ones do within the tolerances.
+    const bool apart = unknowns_[1] > criticalDensity && unknowns_[2] < criticalDensity;
+    return converged(status) && !apart ? notASolution : status;
   };
 
   const int status =
       attempt(saturation::liquidDensityGuess(T), saturation::vapourDensityGuess(T));
-  if (converged(status)) return;
-  for (const double halfWidth : {10.0, 20.0, 40.0, 60.0, 80.0, 5.0, 2.0, 1.0}) {
-    if (converged(attempt(criticalDensity + halfWidth, criticalDensity - halfWidth))) return;
+  if (converged(status)) return status;
+  for (const double halfWidth : {40.0, 60.0, 80.0, 100.0, 20.0, 10.0}) {
+    const int other = attempt(criticalDensity + halfWidth, criticalDensity - halfWidth);
+    if (converged(other)) return other;
   }
-  raise(status);
+  return status;
 }
 
 void SteamModel::store(Start solution, double quality) {

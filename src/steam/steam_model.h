@@ -108,7 +108,9 @@ class SteamModel final : private ZvSolverCallBack {
   /// Temperature and density with the two targets, from `start`, else from other points of the side.
   Start solveState(Target first, Target second, Start start, Side side);
   [[nodiscard]] double densityAt(double P, double T, double start, Side side);
-  void solveEquilibrium(Target third, double T);
+  [[nodiscard]] int solveEquilibrium(Target third, double T);
+  [[nodiscard]] double pressureNearCritical(double T);
+  [[nodiscard]] double temperatureNearCritical(double P);
   void store(Start solution, double quality);
 
   /// Saturated values around a given one, at (P, T) of the line.
