@@ -40,8 +40,8 @@ constexpr Quantity quantities[] = {
 };
 
 constexpr PropertyMember members[] = {
-#define X(result, first, second, twoPhases)                                        \
-  {#result #first #second, Letter::result, Letter::first, Letter::second,          \
+#define X(result, first, second, twoPhases)                               \
+  {#result #first #second, Letter::result, Letter::first, Letter::second, \
    PropertyMember::TwoPhases::twoPhases},
     CALVEX_PROPERTY_MEMBERS(X)
 #undef X
@@ -96,8 +96,7 @@ bool ZvThermoInt::validInputs(const PropertyMember& member, double first, double
       case Letter::E:
         return validTransportRange(member.result, first, second);
       default:
-        return validTemperature("Temperature", second) &&
-               validPressure("Pressure", first, second);
+        return validTemperature("Temperature", second) && validPressure("Pressure", first, second);
     }
   }
   if (!(fromT ? validTemperature("Temperature", first) : validPressure("Pressure", first))) {

@@ -1,6 +1,6 @@
 /// \file
-/// The property members as one table: what each returns, from which two properties, and what it does
-/// when they lie between the phases.
+/// The property members as one table: what each returns, from which two properties, and what it
+/// does when they lie between the phases.
 #pragma once
 
 #include <array>
@@ -11,7 +11,8 @@
 
 namespace calvex {
 
-// X(result, first input, second input, two phases); the member's name is the three letters together.
+// X(result, first input, second input, two phases); the member's name is the three letters
+// together.
 //
 //   fails          error 106: the property is not defined by a mixture's two inputs
 //   onLine         the saturation member of the same result, with the quality found (HSatPQ, ...)

@@ -8,11 +8,10 @@ using Letter = Quantity::Letter;
 
 // Within [triple point, critical point]. One member calls its pressure "Press".
 bool ZvThermoInt::validOnLine(Letter given, double value) {
-  return given == Letter::T
-             ? validRange("Temperature", value, constants::triplePointTemperature,
-                          constants::criticalTemperature, UnitGroup::temperature)
-             : validRange("Pressure", value, constants::triplePointPressure,
-                          constants::criticalPressure, UnitGroup::pressure);
+  return given == Letter::T ? validRange("Temperature", value, constants::triplePointTemperature,
+                                         constants::criticalTemperature, UnitGroup::temperature)
+                            : validRange("Pressure", value, constants::triplePointPressure,
+                                         constants::criticalPressure, UnitGroup::pressure);
 }
 
 int ZvThermoInt::PSatT(double* pP, double T) {
@@ -50,8 +49,8 @@ int ZvThermoInt::saturation(std::string_view name, Letter result, Letter given, 
 
     const bool isVolume = result == Letter::V;
     const Property mixed = isVolume ? Property::density : quantity(result).property;
-    const double value = given == Letter::T ? steam_.saturatedTQ(mixed, x, q)
-                                            : steam_.saturatedPQ(mixed, x, q);
+    const double value =
+        given == Letter::T ? steam_.saturatedTQ(mixed, x, q) : steam_.saturatedPQ(mixed, x, q);
     return give(out, quantity(result).group, isVolume ? 1.0 / value : value);
   });
 }

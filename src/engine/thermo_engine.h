@@ -39,15 +39,16 @@ class ZvThermoInt {
   /// chose stay.
   void Reset();
 
-  // Properties from two others ---------------------------------------------------------------------
-  // The letters: result, then the two inputs in the order of the arguments. P pressure, T
-  // temperature, H enthalpy, S entropy, U internal energy, R density, V specific volume, Q vapour
-  // mass fraction, A Helmholtz energy, G Gibbs energy, M dynamic viscosity, K thermal conductivity,
-  // C and D isobaric and isochoric heat capacity, Z compressibility factor, W speed of sound,
-  // N Prandtl number, E static dielectric constant, I isothermal throttling coefficient,
-  // J Joule-Thomson coefficient, B thermal expansion coefficient, L isothermal compressibility.
-#define X(result, first, second, twoPhases)                                        \
-  int result##first##second(double* p##result, double first, double second) {      \
+  // Properties from two others
+  // --------------------------------------------------------------------- The letters: result, then
+  // the two inputs in the order of the arguments. P pressure, T temperature, H enthalpy, S entropy,
+  // U internal energy, R density, V specific volume, Q vapour mass fraction, A Helmholtz energy, G
+  // Gibbs energy, M dynamic viscosity, K thermal conductivity, C and D isobaric and isochoric heat
+  // capacity, Z compressibility factor, W speed of sound, N Prandtl number, E static dielectric
+  // constant, I isothermal throttling coefficient, J Joule-Thomson coefficient, B thermal expansion
+  // coefficient, L isothermal compressibility.
+#define X(result, first, second, twoPhases)                                           \
+  int result##first##second(double* p##result, double first, double second) {         \
     return property(PropertyMember::result##first##second, p##result, first, second); \
   }
   CALVEX_PROPERTY_MEMBERS(X)
@@ -62,24 +63,26 @@ class ZvThermoInt {
   /// Surface tension of saturated water.
   int XT(double* pX, double T);
 
-  // Saturation line: temperature within [TripleT, CritT], pressure within [TripleP, CritP] ---------
+  // Saturation line: temperature within [TripleT, CritT], pressure within [TripleP, CritP]
+  // ---------
   int PSatT(double* pP, double T);
   int TSatP(double* pT, double P);
-#define X(result)                                                            \
-  int result##SatTQ(double* p##result, double T, double Q) {                 \
-    return saturation(#result "SatTQ", Quantity::Letter::result,             \
-                      Quantity::Letter::T, p##result, T, Q);                 \
-  }                                                                          \
-  int result##SatPQ(double* p##result, double P, double Q) {                 \
-    return saturation(#result "SatPQ", Quantity::Letter::result,             \
-                      Quantity::Letter::P, p##result, P, Q);                 \
+#define X(result)                                                                                \
+  int result##SatTQ(double* p##result, double T, double Q) {                                     \
+    return saturation(#result "SatTQ", Quantity::Letter::result, Quantity::Letter::T, p##result, \
+                      T, Q);                                                                     \
+  }                                                                                              \
+  int result##SatPQ(double* p##result, double P, double Q) {                                     \
+    return saturation(#result "SatPQ", Quantity::Letter::result, Quantity::Letter::P, p##result, \
+                      P, Q);                                                                     \
   }
   CALVEX_SATURATION_RESULTS(X)
 #undef X
   /// Mixture, saturated vapour and saturated liquid enthalpy and the saturation temperature.
   int HVLTSat_PQ(double* pH, double* pHVap, double* pHLiq, double* pTSat, double P, double Q);
 
-  // Constants (the value itself is returned) --------------------------------------------------------
+  // Constants (the value itself is returned)
+  // --------------------------------------------------------
   double MolWeight() const;
   double CritT() const;
   double CritP() const;
@@ -89,7 +92,8 @@ class ZvThermoInt {
   double TripleT() const;
   double TripleP() const;
 
-  // Units ------------------------------------------------------------------------------------------
+  // Units
+  // ------------------------------------------------------------------------------------------
   int SetUserUnit(std::string_view groupStr, std::string_view newVal);
   int GetUserUnit(std::string_view groupStr, std::string* pVal);
   int SetUserUnitIndex(short nGroupID, std::string_view newVal);
@@ -99,7 +103,8 @@ class ZvThermoInt {
   int Convert(std::string_view strGroup, std::string_view strFromUnit, std::string_view strToUnit,
               double dblFromVal, double* dblToVal);
 
-  // Trace, errors, cell references, alarms ------------------------------------------------------------
+  // Trace, errors, cell references, alarms
+  // ------------------------------------------------------------
   int ClearTraceInfo();
   int AddCustomTraceTitle(std::string_view strTitle);
   int SetCustomTraceText(int nIndex, std::string_view strText);
@@ -110,12 +115,14 @@ class ZvThermoInt {
   int GetCellRef(std::string* strCellRef);
   int GetAlarms(ResultArray* pAlarmArray);
 
-  // Dialogs: 2, the value of a cancelled dialog, where none are built ----------------------------------
+  // Dialogs: 2, the value of a cancelled dialog, where none are built
+  // ----------------------------------
   short ShowTraceDlg();
   short ShowSelectUomDlg();
   short ShowOptionsDlg();
 
-  // Settings -----------------------------------------------------------------------------------------
+  // Settings
+  // -----------------------------------------------------------------------------------------
   double SolverTol() const { return steam_.solver().tolerance(); }
   int SetSolverTol(double newVal);
   short SolverIter() const { return static_cast<short>(steam_.solver().iterations()); }
@@ -145,12 +152,14 @@ class ZvThermoInt {
   const std::string& LastError() const { return diagnostics_.lastError(); }
   std::string_view VersionStr() const { return messageText(Message::version); }
 
-  // Live automation objects: the last release resets the engine ---------------------------------------
+  // Live automation objects: the last release resets the engine
+  // ---------------------------------------
   void AddObject() noexcept { ++liveObjects_; }
   void ReleaseObject();
   int liveObjects() const noexcept { return liveObjects_; }
 
-  // For the models built on the engine ------------------------------------------------------------------
+  // For the models built on the engine
+  // ------------------------------------------------------------------
   Diagnostics& diagnostics() noexcept { return diagnostics_; }
   const Diagnostics& diagnostics() const noexcept { return diagnostics_; }
   const UserUnits& units() const noexcept { return units_; }
@@ -174,8 +183,7 @@ class ZvThermoInt {
   bool validTemperature(std::string_view name, double T);
   bool validPressure(std::string_view name, double P, double T = temperatureOfNone);
   /// Within [lower, upper], else message 108 with the bounds in the client's unit.
-  bool validRange(std::string_view name, double value, double lower, double upper,
-                  UnitGroup group);
+  bool validRange(std::string_view name, double value, double lower, double upper, UnitGroup group);
   /// At least zero, else message 102.
   bool notNegative(std::string_view name, double value);
   /// Posts the error and answers false.
@@ -197,8 +205,8 @@ class ZvThermoInt {
   Phases stateOf(const PropertyMember& member, double first, double second);
   bool onLine(const PropertyMember& member, double* out, double userFirst);
   bool validOnLine(Quantity::Letter given, double value);
-  int saturation(std::string_view name, Quantity::Letter result, Quantity::Letter given, double* out,
-                 double first, double Q);
+  int saturation(std::string_view name, Quantity::Letter result, Quantity::Letter given,
+                 double* out, double first, double Q);
   int fromPH(std::string_view name, double* pQ, double* pT, Property third, UnitGroup thirdGroup,
              double* pThird, double P, double H);
   bool isOnLine(double P, double T);

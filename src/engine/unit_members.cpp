@@ -86,8 +86,8 @@ int ZvThermoInt::Convert(std::string_view strGroup, std::string_view strFromUnit
         return failWithServer(status);
       }
     } else if (!units_.catalogue().convert(group, strFromUnit, strToUnit, dblFromVal, result)) {
-      return fail(fmt::sprintf("Cannot convert %s from %s to %s.", strGroup, strFromUnit,
-                               strToUnit));
+      return fail(
+          fmt::sprintf("Cannot convert %s from %s to %s.", strGroup, strFromUnit, strToUnit));
     }
     return give(dblToVal, result);
   });

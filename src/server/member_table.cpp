@@ -1,5 +1,5 @@
-// The members of `IZvCalvex`, by dispatch id. The ids 14, ba, bb, c0, c1, c2 and c3 are reserved and
-// never given to a member.
+// The members of `IZvCalvex`, by dispatch id. The ids 14, ba, bb, c0, c1, c2 and c3 are reserved
+// and never given to a member.
 #include "server/member_table.h"
 
 #include <algorithm>
@@ -21,8 +21,14 @@ using detail::value;
 
 // Answers S_OK and writes nothing.
 constexpr Member hWnd = [] {
-  Member member{0xbe, "hWnd", ReturnStyle::status, true,
-                [](ZvThermoInt&, std::span<Value>) { return 1; }, nullptr, {}, 1};
+  Member member{0xbe,
+                "hWnd",
+                ReturnStyle::status,
+                true,
+                [](ZvThermoInt&, std::span<Value>) { return 1; },
+                nullptr,
+                {},
+                1};
   member.parameterStore[0] = {"pVal", ValueType::longInteger, Direction::retval, -1};
   return member;
 }();
@@ -33,7 +39,8 @@ constexpr Member members[] = {
     setting<&Engine::SolverIter, &Engine::SetSolverIter>(0x02, "SolverIter"),
     setting<&Engine::TraceLevel, &Engine::SetTraceLevel>(0x03, "TraceLevel"),
     setting<&Engine::SatPolish, &Engine::SetSatPolish>(0x04, "SatPolish"),
-    setting<&Engine::FunctionCallTracing, &Engine::SetFunctionCallTracing>(0x05, "FunctionCallTracing"),
+    setting<&Engine::FunctionCallTracing, &Engine::SetFunctionCallTracing>(0x05,
+                                                                           "FunctionCallTracing"),
     setting<&Engine::MaxTraceSize, &Engine::SetMaxTraceSize>(0x06, "MaxTraceSize"),
     setting<&Engine::LastError>(0x07, "LastError"),
     setting<&Engine::VersionStr>(0x08, "VersionStr"),
@@ -180,7 +187,8 @@ constexpr Member members[] = {
     method<&Engine::QT_PH>(0xc4, "QT_PH", "pQ:7 pT:0 P:1 H:5"),
     method<&Engine::HVLTSat_PQ>(0xc5, "HVLTSat_PQ", "pH:5 pHVap:5 pHLiq:5 pTSat:0 P:1 Q:7"),
     method<&Engine::QTS_PH>(0xc6, "QTS_PH", "pQ:7 pT:0 pS:4 P:1 H:5"),
-    method<&Engine::SetCustomUserUnitIndex>(0xcb, "SetCustomUserUnitIndex", "nGroupID newVal CFactor COffset"),
+    method<&Engine::SetCustomUserUnitIndex>(0xcb, "SetCustomUserUnitIndex",
+                                            "nGroupID newVal CFactor COffset"),
     method<&Engine::VSatTQ>(0xd3, "VSatTQ", "pV:3 T:0 Q:7"),
     method<&Engine::VSatPQ>(0xd4, "VSatPQ", "pV:3 P:1 Q:7"),
 };

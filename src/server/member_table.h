@@ -1,6 +1,6 @@
 /// \file
-/// The member table: one row for each member of `IZvCalvex`. Every face that a client sees is driven
-/// by it: dispatch by number and by name, the command line and its help.
+/// The member table: one row for each member of `IZvCalvex`. Every face that a client sees is
+/// driven by it: dispatch by number and by name, the command line and its help.
 #pragma once
 
 #include <array>
@@ -36,8 +36,8 @@ enum class ReturnStyle : unsigned char {
   value,    ///< always S_OK; the engine's result is the value itself
 };
 
-/// Runs an operation of the engine on its arguments, in call order; outputs are written into theirs.
-/// Answers the success flag (1 for members whose result is the value).
+/// Runs an operation of the engine on its arguments, in call order; outputs are written into
+/// theirs. Answers the success flag (1 for members whose result is the value).
 using Operation = int (*)(ZvThermoInt& engine, std::span<Value> arguments);
 
 /// The longest list of parameters (`TurbineA3`).
@@ -47,7 +47,7 @@ struct Member {
   short dispatchId;
   std::string_view name;
   ReturnStyle style;
-  bool isProperty;             ///< a setting: `invoke` gets, `put` puts (null: read only)
+  bool isProperty;  ///< a setting: `invoke` gets, `put` puts (null: read only)
   Operation invoke;
   Operation put;
   /// Call order, without `pSucc`; of a setting or value member the one value.

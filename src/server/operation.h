@@ -138,7 +138,8 @@ int run(ZvThermoInt& engine, std::span<Value> values) {
     }();
     (std::get<I>(arguments).writeBack(success != 0), ...);
     return success;
-  }(std::make_index_sequence<std::tuple_size_v<Arguments>>());
+  }
+  (std::make_index_sequence<std::tuple_size_v<Arguments>>());
 }
 
 /// Runs an operation whose result is the value.
@@ -158,7 +159,8 @@ consteval int describe(std::array<Parameter, maxParameters>& parameters, std::st
     ((parameters[I].type = std::tuple_element_t<I, Arguments>::type,
       parameters[I].direction = std::tuple_element_t<I, Arguments>::direction),
      ...);
-  }(std::make_index_sequence<count>());
+  }
+  (std::make_index_sequence<count>());
 
   std::size_t named = 0;
   while (!names.empty()) {

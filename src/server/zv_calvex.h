@@ -12,10 +12,10 @@ namespace calvex {
 /// Results of the automation layer.
 enum class HResult : unsigned {
   ok = 0,
-  no = 1,                            ///< S_FALSE: the engine refused
-  memberNotFound = 0x80020003u,      ///< no member of that number or name, or no put of it
-  typeMismatch = 0x80020005u,        ///< an argument's type cannot become the parameter's
-  badParameterCount = 0x8002000Eu,   ///< not as many arguments as parameters
+  no = 1,                           ///< S_FALSE: the engine refused
+  memberNotFound = 0x80020003u,     ///< no member of that number or name, or no put of it
+  typeMismatch = 0x80020005u,       ///< an argument's type cannot become the parameter's
+  badParameterCount = 0x8002000Eu,  ///< not as many arguments as parameters
 };
 
 /// What is loaded once: the one engine that all automation objects share.
@@ -58,8 +58,8 @@ class ZvCalvex {
   ZvThermoInt& engine_;
 };
 
-/// Brings a value to a type as automation does: numbers round to integers (halves to even) when they
-/// fit, texts are not numbers. False when it cannot.
+/// Brings a value to a type as automation does: numbers round to integers (halves to even) when
+/// they fit, texts are not numbers. False when it cannot.
 bool coerce(Value& value, ValueType type);
 
 }  // namespace calvex

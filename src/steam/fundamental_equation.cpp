@@ -30,49 +30,50 @@ constexpr double B3 = -0.5944001;
 constexpr double B4 = -5.010996;
 constexpr double B6 = 0.63684256;
 
-// Residual function, polynomial terms (g_i/k_i) x^l_i q^k_i: Haar, Gallagher, Kell (1984), table A.2.
+// Residual function, polynomial terms (g_i/k_i) x^l_i q^k_i: Haar, Gallagher, Kell (1984), table
+// A.2.
 struct ResidualTerm {
   int k;
   int l;
   double g;
 };
 constexpr ResidualTerm residualTerms[] = {
-    {1, 1, -530.62968529023},    //  1
-    {1, 2, 2274.4901424408},     //  2
-    {1, 4, 787.79333020687},     //  3
-    {1, 6, -69.830527374994},    //  4
-    {2, 1, 17863.832875422},     //  5
-    {2, 2, -39514.731563338},    //  6
-    {2, 4, 33803.884280753},     //  7
-    {2, 6, -13855.050202703},    //  8
-    {3, 1, -256374.3661326},     //  9
-    {3, 2, 482125.75981415},     // 10
-    {3, 4, -341830.1696966},     // 11
-    {3, 6, 122231.56417448},     // 12
-    {4, 1, 1179743.3655832},     // 13
-    {4, 2, -2173481.0110373},    // 14
-    {4, 4, 1082995.216862},      // 15
-    {4, 6, -254419.98064049},    // 16
-    {5, 1, -3137777.4947767},    // 17
-    {5, 2, 5291191.0757704},     // 18
-    {5, 4, -1380257.7177877},    // 19
-    {5, 6, -251099.14369001},    // 20
-    {6, 1, 4656182.6115608},     // 21
-    {6, 2, -7275277.3275387},    // 22
-    {6, 4, 417742.46148294},     // 23
-    {6, 6, 1401635.8244614},     // 24
-    {7, 1, -3155523.1392127},    // 25
-    {7, 2, 4792966.6384584},     // 26
-    {7, 4, 409126.64781209},     // 27
-    {7, 6, -1362636.9388386},    // 28
-    {9, 1, 696252.20862664},     // 29
-    {9, 2, -1083490.0096447},    // 30
-    {9, 4, -227228.27401688},    // 31
-    {9, 6, 383654.8600066},      // 32
-    {3, 0, 6883.3257944332},     // 33
-    {3, 3, 21757.245522644},     // 34
-    {1, 3, -2662.794482977},     // 35
-    {5, 3, -70730.418082074},    // 36
+    {1, 1, -530.62968529023},  //  1
+    {1, 2, 2274.4901424408},   //  2
+    {1, 4, 787.79333020687},   //  3
+    {1, 6, -69.830527374994},  //  4
+    {2, 1, 17863.832875422},   //  5
+    {2, 2, -39514.731563338},  //  6
+    {2, 4, 33803.884280753},   //  7
+    {2, 6, -13855.050202703},  //  8
+    {3, 1, -256374.3661326},   //  9
+    {3, 2, 482125.75981415},   // 10
+    {3, 4, -341830.1696966},   // 11
+    {3, 6, 122231.56417448},   // 12
+    {4, 1, 1179743.3655832},   // 13
+    {4, 2, -2173481.0110373},  // 14
+    {4, 4, 1082995.216862},    // 15
+    {4, 6, -254419.98064049},  // 16
+    {5, 1, -3137777.4947767},  // 17
+    {5, 2, 5291191.0757704},   // 18
+    {5, 4, -1380257.7177877},  // 19
+    {5, 6, -251099.14369001},  // 20
+    {6, 1, 4656182.6115608},   // 21
+    {6, 2, -7275277.3275387},  // 22
+    {6, 4, 417742.46148294},   // 23
+    {6, 6, 1401635.8244614},   // 24
+    {7, 1, -3155523.1392127},  // 25
+    {7, 2, 4792966.6384584},   // 26
+    {7, 4, 409126.64781209},   // 27
+    {7, 6, -1362636.9388386},  // 28
+    {9, 1, 696252.20862664},   // 29
+    {9, 2, -1083490.0096447},  // 30
+    {9, 4, -227228.27401688},  // 31
+    {9, 6, 383654.8600066},    // 32
+    {3, 0, 6883.3257944332},   // 33
+    {3, 3, 21757.245522644},   // 34
+    {1, 3, -2662.794482977},   // 35
+    {5, 3, -70730.418082074},  // 36
 };
 static_assert(std::size(residualTerms) == 36);
 
@@ -104,22 +105,22 @@ constexpr double gaussianHorizon = 60.0;
 constexpr double C1 = 19.730271018;
 constexpr double C2 = 20.9662681977;
 constexpr double idealPowers[] = {
-    -0.483429455355,      // C3, tau^-3
-    6.05743189245,        // C4
-    22.56023885,          // C5
-    -9.87532442,          // C6, tau^0
-    -4.3135538513,        // C7
-    0.458155781,          // C8
-    -0.047754901883,      // C9
-    0.0041238460633,      // C10
-    -0.00027929052852,    // C11
-    1.4481695261e-05,     // C12
-    -5.6473658748e-07,    // C13
-    1.6200446e-08,        // C14
-    -3.303822796e-10,     // C15
-    4.51916067368e-12,    // C16
-    -3.70734122708e-14,   // C17
-    1.37546068238e-16,    // C18, tau^12
+    -0.483429455355,     // C3, tau^-3
+    6.05743189245,       // C4
+    22.56023885,         // C5
+    -9.87532442,         // C6, tau^0
+    -4.3135538513,       // C7
+    0.458155781,         // C8
+    -0.047754901883,     // C9
+    0.0041238460633,     // C10
+    -0.00027929052852,   // C11
+    1.4481695261e-05,    // C12
+    -5.6473658748e-07,   // C13
+    1.6200446e-08,       // C14
+    -3.303822796e-10,    // C15
+    4.51916067368e-12,   // C16
+    -3.70734122708e-14,  // C17
+    1.37546068238e-16,   // C18, tau^12
 };
 static_assert(std::size(idealPowers) == 16);
 constexpr int firstIdealPower = -3;
@@ -305,8 +306,7 @@ HelmholtzPoint::HelmholtzPoint(const TemperaturePart& temperature, double densit
 double HelmholtzPoint::internalEnergy() const {
   const TemperatureTerms& f = t_->value;
   const TemperatureTerms& f1 = t_->slope;
-  double u = R * t_->T() *
-             (f1.ideal - 1.0 - 0.25 * r_ * f1.b * baseSlope_ - r_ * f1.B);
+  double u = R * t_->T() * (f1.ideal - 1.0 - 0.25 * r_ * f1.b * baseSlope_ - r_ * f1.B);
   Row energy;
   for (std::size_t k = 0; k < energy.size(); ++k) energy[k] = f.G[k] - f1.G[k];
   u += integralOfSeriesInQ(energy, q_);
@@ -323,8 +323,7 @@ double HelmholtzPoint::helmholtzOfDensity() const {
   const double RT = R * t_->T();
   // One logarithm for -ln z + ln(r R T/p0), which is why the sign of r matters here and only here.
   const double logarithm = std::log(r_ * RT * inverseZ_ / constants::standardAtmosphere);
-  double a = RT * (logarithm +
-                   (0.5 * (alpha + beta + 1.0) * inverseZ_ - (beta - 1.0)) * inverseZ_ -
+  double a = RT * (logarithm + (0.5 * (alpha + beta + 1.0) * inverseZ_ - (beta - 1.0)) * inverseZ_ -
                    4.0 * gamma * y_ - 0.5 * (alpha - beta + 3.0) + r_ * t_->value.B);
   a += integralOfSeriesInQ(t_->value.G, q_);
   for (int n = 0; n < gaussianCount_; ++n) {
@@ -370,8 +369,7 @@ HelmholtzPoint::DensityCurvature HelmholtzPoint::densityCurvature() const {
 // P_r = R T + r X
 double HelmholtzPoint::slopeBeyondIdealGas(const DensityCurvature& c) const {
   const TemperatureTerms& f = t_->value;
-  return RT() * (0.25 * f.b * (2.0 * baseSlope_ + y_ * c.base) + 2.0 * f.B) + 2.0 * c.S +
-         r_ * c.Sr;
+  return RT() * (0.25 * f.b * (2.0 * baseSlope_ + y_ * c.base) + 2.0 * f.B) + 2.0 * c.S + r_ * c.Sr;
 }
 
 HelmholtzPoint::Derivatives HelmholtzPoint::derivatives() const {
@@ -393,15 +391,15 @@ HelmholtzPoint::Derivatives HelmholtzPoint::derivatives() const {
 
   Derivatives d;
   d.X = slopeBeyondIdealGas(c);
-  d.Y = RT() * (0.25 * f.b * baseSlope_ + f.B + 0.25 * f1.b * (baseSlope_ + y_ * c.base) + f1.B) +
-        ST;
+  d.Y =
+      RT() * (0.25 * f.b * baseSlope_ + f.B + 0.25 * f1.b * (baseSlope_ + y_ * c.base) + f1.B) + ST;
   d.Pr = RT() + r_ * d.X;
   d.PT = r_ * (RT() + r_ * d.Y) / T;
 
   // cv = -T A_TT, the base function's A being R T F
   const double TFT = r_ * (0.25 * f1.b * baseSlope_ + f1.B) + 1.0;
-  const double TTFTT = r_ * r_ * 0.0625 * f1.b * f1.b * c.base +
-                       r_ * (0.25 * f2.b * baseSlope_ + f2.B) - 1.0;
+  const double TTFTT =
+      r_ * r_ * 0.0625 * f1.b * f1.b * c.base + r_ * (0.25 * f2.b * baseSlope_ + f2.B) - 1.0;
   d.cv = R * (2.0 * f1.ideal + f2.ideal - 2.0 * TFT - TTFTT) - ATT / T;
   const double beyond = RT() + r_ * d.Y;
   d.cp = d.cv + beyond * beyond / (T * d.Pr);

@@ -26,11 +26,11 @@ inline constexpr int gaussianTerms = 4;
 
 /// The functions of temperature that the fundamental equation is made of.
 struct TemperatureTerms {
-  double b;                                     ///< excluded volume of the base function, cm3/g
-  double B;                                     ///< second virial function, cm3/g
-  double ideal;                                 ///< Phi of A_ideal = -R T Phi(T)
-  std::array<double, 8> G;                      ///< residual coefficients by density exponent
-  std::array<double, gaussianTerms> gaussian;   ///< g_i exp(-beta_i tau_i^2)
+  double b;                                    ///< excluded volume of the base function, cm3/g
+  double B;                                    ///< second virial function, cm3/g
+  double ideal;                                ///< Phi of A_ideal = -R T Phi(T)
+  std::array<double, 8> G;                     ///< residual coefficients by density exponent
+  std::array<double, gaussianTerms> gaussian;  ///< g_i exp(-beta_i tau_i^2)
 };
 
 /// The temperature part, computed only as far as it has been asked for.
@@ -69,8 +69,8 @@ class TemperaturePart {
 
   double T_ = 0.0;
   Order known_ = Order::none;
-  double logReduced_ = 0.0;                 // ln(T/T0)
-  std::array<double, 7> power_{};           // x^0 .. x^6
+  double logReduced_ = 0.0;        // ln(T/T0)
+  std::array<double, 7> power_{};  // x^0 .. x^6
 };
 
 /// The fundamental equation at one density and temperature.
@@ -92,9 +92,9 @@ class HelmholtzPoint {
   }
 
   // Order::energy --------------------------------------------------------------------------------
-  [[nodiscard]] double internalEnergy() const;                                       ///< kJ/kg
+  [[nodiscard]] double internalEnergy() const;  ///< kJ/kg
   [[nodiscard]] double enthalpy() const { return internalEnergy() + pressureOverDensity_; }
-  [[nodiscard]] double helmholtz() const;                                            ///< kJ/kg
+  [[nodiscard]] double helmholtz() const;  ///< kJ/kg
   [[nodiscard]] double gibbs() const { return helmholtz() + pressureOverDensity_; }
   /// s = (u - A)/T, kJ/(kg.K).
   [[nodiscard]] double entropy() const { return (internalEnergy() - helmholtz()) / t_->T(); }

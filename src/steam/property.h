@@ -8,27 +8,27 @@ namespace calvex {
 
 /// The properties, with their units; the letter is that of the members' names.
 enum class Property {
-  pressure,                // P, MPa
-  temperature,             // T, K
-  density,                 // R, kg/m3
-  specificVolume,          // V, m3/kg
-  enthalpy,                // H, kJ/kg
-  entropy,                 // S, kJ/(kg.K)
-  internalEnergy,          // U, kJ/kg
-  helmholtz,               // A, kJ/kg
-  gibbs,                   // G, kJ/kg
-  isobaricHeatCapacity,    // C, kJ/(kg.K)
-  isochoricHeatCapacity,   // D, kJ/(kg.K)
-  compressibilityFactor,   // Z, -
-  speedOfSound,            // W, m/s
-  viscosity,               // M, Pa.s
-  thermalConductivity,     // K, W/(K.m)
-  prandtlNumber,           // N, -
-  dielectricConstant,      // E, -
-  isothermalThrottling,    // I, delta = (dh/dP) at constant T, kJ/(kg.MPa)
-  jouleThomson,            // J, (dT/dP) at constant h, K/MPa
-  thermalExpansion,        // B, 1/K
-  compressibility,         // L, isothermal, 1/MPa
+  pressure,               // P, MPa
+  temperature,            // T, K
+  density,                // R, kg/m3
+  specificVolume,         // V, m3/kg
+  enthalpy,               // H, kJ/kg
+  entropy,                // S, kJ/(kg.K)
+  internalEnergy,         // U, kJ/kg
+  helmholtz,              // A, kJ/kg
+  gibbs,                  // G, kJ/kg
+  isobaricHeatCapacity,   // C, kJ/(kg.K)
+  isochoricHeatCapacity,  // D, kJ/(kg.K)
+  compressibilityFactor,  // Z, -
+  speedOfSound,           // W, m/s
+  viscosity,              // M, Pa.s
+  thermalConductivity,    // K, W/(K.m)
+  prandtlNumber,          // N, -
+  dielectricConstant,     // E, -
+  isothermalThrottling,   // I, delta = (dh/dP) at constant T, kJ/(kg.MPa)
+  jouleThomson,           // J, (dT/dP) at constant h, K/MPa
+  thermalExpansion,       // B, 1/K
+  compressibility,        // L, isothermal, 1/MPa
 };
 
 /// How much of the temperature part a property needs.
@@ -36,7 +36,8 @@ enum class Property {
 
 /// The property at `density` (kg/m3) and the temperature of the part, which must have been prepared
 /// to `orderOf(property)`.
-[[nodiscard]] double evaluate(Property property, const TemperaturePart& temperature, double density);
+[[nodiscard]] double evaluate(Property property, const TemperaturePart& temperature,
+                              double density);
 
 /// The same at a temperature in K.
 [[nodiscard]] double evaluate(Property property, double T, double density);

@@ -25,7 +25,8 @@ double densityBracket(double th, const double (&c)[3], const double (&a)[5]) {
 
 }  // namespace
 
-// Ps = Pc exp(S/((T/Tc) (1 + k6 tau + k7 tau^2)) - tau/(k8 tau^2 + k9)), S = sum k_i tau^i, i = 1..5
+// Ps = Pc exp(S/((T/Tc) (1 + k6 tau + k7 tau^2)) - tau/(k8 tau^2 + k9)), S = sum k_i tau^i, i
+// = 1..5
 double pressure(double T) {
   constexpr double k1 = -7.691234564;
   constexpr double k2 = -26.08023696;

@@ -1,5 +1,5 @@
-// The saturation line: pressure from temperature and back, mixtures, and the saturated values around
-// a given one.
+// The saturation line: pressure from temperature and back, mixtures, and the saturated values
+// around a given one.
 #include <algorithm>
 
 #include "steam/constants.h"

@@ -43,10 +43,10 @@ int ZvSolver::Solve(int m, int n) {
   problem_.evaluate(m, n, x, f, flag);
 
   Run run{problem_};
-  int status = lmdif(residuals, &run, m, n, x, f, reductionTolerance, tolerance_,
-                     orthogonalityTolerance, iterations_ * (n + 1), differenceStep, scale,
-                     internalScaling, stepBound, noPrinting, &evaluations, jacobian, m, pivots, qtf,
-                     work1, work2, work3, work4);
+  int status =
+      lmdif(residuals, &run, m, n, x, f, reductionTolerance, tolerance_, orthogonalityTolerance,
+            iterations_ * (n + 1), differenceStep, scale, internalScaling, stepBound, noPrinting,
+            &evaluations, jacobian, m, pivots, qtf, work1, work2, work3, work4);
 
   flag = ZvSolverCallBack::finishFlag;
   problem_.evaluate(m, n, x, f, flag);

@@ -11,8 +11,8 @@ class ZvSolverCallBack {
   virtual ~ZvSolverCallBack() = default;
 
   /// The flag says what is asked for: to write the starting point into x; to look at x and f of the
-  /// last iterate; otherwise to evaluate the residuals f at x. Negative on return, it stops the solve
-  /// and becomes its status.
+  /// last iterate; otherwise to evaluate the residuals f at x. Negative on return, it stops the
+  /// solve and becomes its status.
   static constexpr int startFlag = 3;
   static constexpr int finishFlag = 4;
   /// m equations, n unknowns.

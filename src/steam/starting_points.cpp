@@ -9,9 +9,10 @@ namespace {
 
 using constants::criticalTemperature;
 
-constexpr double vapourDensities[] = {0.01, 1.0, 10.0, 50.0, 100.0, 150.0, 200.0, 250.0, 290.0};
-constexpr double liquidDensities[] = {1000.0, 900.0, 800.0,  700.0,  600.0,  500.0,  450.0, 400.0,
-                                      370.0,  345.0, 1100.0, 1200.0, 1300.0, 1400.0, 1500.0};
+constexpr double vapourDensities[] = {0.01,  1.0,   10.0,  50.0,  100.0,
+                                      150.0, 200.0, 250.0, 290.0, 330.0};
+constexpr double liquidDensities[] = {1000.0, 900.0, 800.0, 700.0,  600.0,  500.0,  450.0,  400.0,
+                                      370.0,  345.0, 310.0, 1100.0, 1200.0, 1300.0, 1400.0, 1500.0};
 constexpr double liquidTemperatures[] = {300.0, 277.0, 265.0, 350.0, 400.0, 450.0, 500.0,
                                          550.0, 590.0, 615.0, 630.0, 640.0, 645.0, 647.0};
 constexpr double gasTemperatures[] = {600.0, 1000.0, 1500.0, 2000.0, 2400.0, 300.0, 400.0, 500.0};

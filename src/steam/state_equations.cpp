@@ -160,7 +160,8 @@ void SteamModel::evaluate(int m, int n, double* x, double* f, int& flag) {
 // with an entropy residual of -3.6.
 bool SteamModel::isSolution(int n, const double* f) const {
   for (int i = 0; i < n; ++i) {
-    if (!std::isfinite(f[i]) || !std::isfinite(unknowns_[static_cast<std::size_t>(i)])) return false;
+    if (!std::isfinite(f[i]) || !std::isfinite(unknowns_[static_cast<std::size_t>(i)]))
+      return false;
   }
   const double T = unknowns_[0];
   if (!(T > 250.0 && T < 2600.0)) return false;
@@ -232,24 +233,25 @@ Start SteamModel::solveState(Target first, Target second, Start start, Side side
     return solve(targets);
   };
   const auto solution = [&] { return Start{unknowns_[0], unknowns_[1]}; };
-  // The critical density parts the two sides. Roots between the spinodals meet their targets too:
-  // (P, s) at 15.98 MPa and 0.691 kJ/(kg.K), a liquid at 322.7 K and 995 kg/m3, has one at 340.2 K
-  // and 731 kg/m3.
-  const auto isPhase = [&] {
-    const bool onSide =
-        side == Side::any || (side == Side::liquid) == (unknowns_[1] > criticalDensity);
+  // Roots between the spinodals meet their targets too: (P, s) at 15.98 MPa and 0.691 kJ/(kg.K), a
+  // liquid at 322.7 K and 995 kg/m3, has one at 340.2 K and 731 kg/m3.
+  const auto isStable = [&] {
     const TemperaturePart& part = temperaturePart(unknowns_[0], TemperaturePart::Order::pressure);
-    return onSide && HelmholtzPoint(part, unknowns_[1]).pressureSlope() > 0.0;
+    return HelmholtzPoint(part, unknowns_[1]).pressureSlope() > 0.0;
+  };
+  // The critical density parts the two sides. Next to the critical point a root of the other side
+  // may be all there is: it is kept in case.
+  std::optional<Start> otherSide;
+  const auto isPhase = [&] {
+    if (!isStable()) return false;
+    if (side == Side::any || (side == Side::liquid) == (unknowns_[1] > criticalDensity))
+      return true;
+    if (std::fabs(unknowns_[0] - criticalTemperature) <= criticalRegion) otherSide = solution();
+    return false;
   };
 
   const int status = attempt(start);
   if (converged(status) && isPhase()) return solution();
-
-  // Next to the critical point a root of the other side may be all there is.
-  std::optional<Start> otherSide;
-  if (converged(status) && std::fabs(unknowns_[0] - criticalTemperature) <= criticalRegion) {
-    otherSide = solution();
-  }
   const StartingPoints others =
       first.equation == Equation::temperature
           ? StartingPoints::atTemperature(
@@ -267,8 +269,8 @@ double SteamModel::densityAt(double P, double T, double start, Side side) {
   return solveState({Equation::temperature, T}, {Equation::pressure, P}, {T, start}, side).density;
 }
 
-// Equal pressure and equal Gibbs energy of two phases, with the third target; from where the density
-// guesses put it, else from around the critical density. The solver's status.
+// Equal pressure and equal Gibbs energy of two phases, with the third target; from where the
+// density guesses put it, else from around the critical density. The solver's status.
 int SteamModel::solveEquilibrium(Target third, double T) {
   const std::array<Target, 3> targets{Target{Equation::gibbsDifference, 0.0},
                                       Target{Equation::pressureDifference, 0.0}, third};
@@ -281,8 +283,7 @@ int SteamModel::solveEquilibrium(Target third, double T) {
     return converged(status) && !apart ? notASolution : status;
   };
 
-  const int status =
-      attempt(saturation::liquidDensityGuess(T), saturation::vapourDensityGuess(T));
+  const int status = attempt(saturation::liquidDensityGuess(T), saturation::vapourDensityGuess(T));
   if (converged(status)) return status;
   for (const double halfWidth : {40.0, 60.0, 80.0, 100.0, 20.0, 10.0}) {
     const int other = attempt(criticalDensity + halfWidth, criticalDensity - halfWidth);

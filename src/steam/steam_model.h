@@ -22,9 +22,9 @@ namespace calvex {
 struct SteamState {
   double density = 0.0;
   double temperature = 0.0;
-  double quality = 0.0;         ///< vapour mass fraction; 1 or 0 for single-phase states
-  double vapourDensity = 0.0;   ///< of two-phase states
-  double liquidDensity = 0.0;   ///< of two-phase states
+  double quality = 0.0;        ///< vapour mass fraction; 1 or 0 for single-phase states
+  double vapourDensity = 0.0;  ///< of two-phase states
+  double liquidDensity = 0.0;  ///< of two-phase states
 };
 
 enum class Phases { one, two };
@@ -59,7 +59,8 @@ class SteamModel final : private ZvSolverCallBack {
   Phases stateFromP(double P, Property second, double value);
   Phases stateFromT(double T, Property second, double value);
 
-  // Saturation line --------------------------------------------------------------------------------
+  // Saturation line
+  // --------------------------------------------------------------------------------
   [[nodiscard]] double PSatT(double T);
   [[nodiscard]] double TSatP(double P);
   /// Enthalpy, entropy, internal energy or density of a mixture with vapour mass fraction Q.
@@ -84,8 +85,8 @@ class SteamModel final : private ZvSolverCallBack {
     internalEnergy = 5,
     pressure = 6,
     gibbs = 7,
-    gibbsDifference = 8,      ///< phase 2 minus phase 1
-    pressureDifference = 9,   ///< phase 2 minus phase 1
+    gibbsDifference = 8,     ///< phase 2 minus phase 1
+    pressureDifference = 9,  ///< phase 2 minus phase 1
     saturationCorrelation = 10,
   };
   struct Target {
@@ -105,7 +106,8 @@ class SteamModel final : private ZvSolverCallBack {
   [[nodiscard]] bool isSolution(int n, const double* f) const;
   [[noreturn]] static void raise(int status);
 
-  /// Temperature and density with the two targets, from `start`, else from other points of the side.
+  /// Temperature and density with the two targets, from `start`, else from other points of the
+  /// side.
   Start solveState(Target first, Target second, Start start, Side side);
   [[nodiscard]] double densityAt(double P, double T, double start, Side side);
   [[nodiscard]] int solveEquilibrium(Target third, double T);

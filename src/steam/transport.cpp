@@ -8,15 +8,15 @@ namespace calvex {
 namespace {
 
 // Reducing values of the 1984/1985 viscosity and conductivity equations.
-constexpr double Tstar = 647.27;      // K
-constexpr double rhoStar = 317.763;   // kg/m3
-constexpr double Pstar = 22.115;      // MPa
+constexpr double Tstar = 647.27;     // K
+constexpr double rhoStar = 317.763;  // kg/m3
+constexpr double Pstar = 22.115;     // MPa
 
 // Viscosity of the dilute gas, mu0 = 1e-6 sqrt(Tr) / sum a_i/Tr^i
 constexpr std::array<double, 4> viscosityGas{0.0181583, 0.0177624, 0.0105287, -0.0036744};
 
-// b_ij of the residual viscosity: a row for each power i of (1/Tr - 1), a column for each power j of
-// (rho_r - 1).
+// b_ij of the residual viscosity: a row for each power i of (1/Tr - 1), a column for each power j
+// of (rho_r - 1).
 constexpr std::array<std::array<double, 5>, 6> viscosityResidual{{
     {0.501938, 0.235622, -0.274637, 0.145831, -0.0270448},
     {0.162888, 0.789393, -0.743539, 0.263129, -0.0253093},
@@ -75,10 +75,10 @@ double thermalConductivity(double T, double density,
   const double chi = rhoR * Pstar / (0.001 * rhoStar * derivatives.Pr);
   const double fromCriticalT = Tr - 1.0;
   const double fromCriticalRho = (rhoR - 1.0) * (rhoR - 1.0);
-  const double lambda2 = 3.7711e-08 / viscosity(T, density) * (Tr / rhoR) * (Tr / rhoR) * dPdT *
-                         dPdT * std::pow(chi, 0.4678) * std::sqrt(rhoR) *
-                         std::exp(-18.66 * fromCriticalT * fromCriticalT -
-                                  fromCriticalRho * fromCriticalRho);
+  const double lambda2 =
+      3.7711e-08 / viscosity(T, density) * (Tr / rhoR) * (Tr / rhoR) * dPdT * dPdT *
+      std::pow(chi, 0.4678) * std::sqrt(rhoR) *
+      std::exp(-18.66 * fromCriticalT * fromCriticalT - fromCriticalRho * fromCriticalRho);
   return lambda0 * lambda1 + lambda2;
 }
 
@@ -88,7 +88,7 @@ double surfaceTension(double T) {
 }
 
 double dielectricConstant(double T, double density) {
-  constexpr std::array<double, 10> A{7.62571,  244.003,  -140.569, 27.7841, -96.2805,
+  constexpr std::array<double, 10> A{7.62571, 244.003,  -140.569, 27.7841, -96.2805,
                                      41.7909, -10.2099, -45.2059, 84.6395, -35.8644};
   const double t = T * 0.0033540164346805303;  // T/298.15 K
   const double r = 0.001 * density;

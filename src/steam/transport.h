@@ -11,8 +11,8 @@ namespace calvex {
 [[nodiscard]] double viscosity(double T, double density);
 
 /// Thermal conductivity with its critical enhancement, W/(m.K). J. V. Sengers, J. T. R. Watson,
-/// R. S. Basu, B. Kamgar-Parsi, R. C. Hendricks, J. Phys. Chem. Ref. Data 13 (1984) 893, as released
-/// in 1985; `derivatives` are those of the fundamental equation at the same point.
+/// R. S. Basu, B. Kamgar-Parsi, R. C. Hendricks, J. Phys. Chem. Ref. Data 13 (1984) 893, as
+/// released in 1985; `derivatives` are those of the fundamental equation at the same point.
 [[nodiscard]] double thermalConductivity(double T, double density,
                                          const HelmholtzPoint::Derivatives& derivatives);
 
