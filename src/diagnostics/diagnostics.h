@@ -17,7 +17,7 @@ class Diagnostics {
   Diagnostics();
 
   /// Everything back to its default: empty trace of at most 1000 calls, level 0, tracing on.
-  void reset();
+  void reset() noexcept;
 
   // Settings ------------------------------------------------------------------------------------
   [[nodiscard]] bool tracing() const noexcept { return tracing_ != 0; }
@@ -27,15 +27,19 @@ class Diagnostics {
   [[nodiscard]] short level() const noexcept { return level_; }
   void setLevel(short level) noexcept { level_ = level; }
   [[nodiscard]] int maxTraceSize() const noexcept { return root_->maxChildren(); }
+  /// Drops the oldest calls at once until no more than that are left.
   void setMaxTraceSize(int size) noexcept;
 
   // Calls ---------------------------------------------------------------------------------------
-  /// `name` must have static storage duration. Use ZvFuncTrace.
+  // While tracing is off neither does anything. A call that leaves no message leaves no node.
+  /// `name` must have static storage duration. Use ZvFuncTrace. A full root drops its oldest call
+  /// here, even if this call then leaves nothing.
   void enter(std::string_view name);
+  /// The end of an outermost call empties the column texts.
   void leave() noexcept;
   [[nodiscard]] bool inCall() const noexcept { return callDepth_ != 0; }
 
-  // Messages: recorded under the running call, and only while tracing is on -----------------------
+  // Messages: recorded under the running call, and only while tracing is on ----------------------
   void postError(Message message);
   void postError(std::string_view text);
   void postRangeError(std::string_view name);
@@ -50,25 +54,31 @@ class Diagnostics {
   void postTimeNote();
 
   // The record ----------------------------------------------------------------------------------
+  /// The text of the last error that was recorded; a successful call does not empty it.
   [[nodiscard]] const std::string& lastError() const noexcept { return lastError_; }
   [[nodiscard]] const ZvFunctionCall& root() const noexcept { return *root_; }
   void updateImages() noexcept { root_->UpdateImage(); }
-  void clear();
+  /// Empties the trace, the last error and the column texts; the column titles stay.
+  void clear() noexcept;
 
   // Client's additions: custom columns, external errors, cell references (true: success) ---------
   void addColumn(std::string_view title);
+  /// The text goes to the next outermost call. Fails without such a column.
   bool setColumnText(int index, std::string_view text);
   bool getColumnText(int index, std::string& text) const;
+  /// Recorded under the root, also while tracing is off. Fails while a call is running.
   bool addExternalError(std::string_view name, std::string_view text);
+  /// The columns become "Book", "Sheet" and "Cell".
   void setupCellColumns();
+  /// Fails unless there are exactly three columns; so does reading.
   bool setCellReference(std::string_view book, std::string_view sheet, std::string_view cell);
+  /// "'[book]sheet'!cell", or empty when any of the three is empty.
   bool getCellReference(std::string& reference) const;
   /// The column values of a listed call become those of the next call (the dialog's actions).
   void takeColumnValues(const ZvFunctionCall& call);
 
  private:
   void record(ZvFunctionCall::Kind kind, std::string_view text);
-  void attachColumnTexts(ZvFunctionCall& node);
   void emptyColumnTexts() noexcept;
 
   TracePool pool_;
@@ -78,6 +88,7 @@ class Diagnostics {
   int tracing_ = 1;
   short level_ = 0;
   std::string lastError_;
+  /// One for each column; the columns' titles are the root's column values.
   std::vector<std::string> customTexts_;
 };
 

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <deque>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -30,17 +31,21 @@ class ZvFunctionCall {
   [[nodiscard]] const ZvFunctionCall* firstChild() const noexcept { return firstChild_; }
   [[nodiscard]] const ZvFunctionCall* nextSibling() const noexcept { return next_; }
   [[nodiscard]] int childCount() const noexcept { return childCount_; }
-  /// -1: no limit.
+  /// How many children are kept; -1: no limit.
   [[nodiscard]] int maxChildren() const noexcept { return maxChildren_; }
 
   /// True when this node or any below it is of that kind.
   [[nodiscard]] bool contains(Kind kind) const noexcept;
+  /// True when this node or any below it is an error, a warning, a note or an external error.
+  [[nodiscard]] bool containsMessage() const noexcept;
   /// Sets the image of this node and of all below it: the gravest message of a subtree shows.
   void UpdateImage() noexcept;
 
  private:
   friend class TracePool;
   friend class Diagnostics;
+
+  [[nodiscard]] Image gravestImage() const noexcept;
 
   std::string_view staticText_;  ///< a call's name: static storage, not copied
   std::string ownText_;          ///< a message's text
@@ -59,8 +64,14 @@ class ZvFunctionCall {
 /// Makes and recycles nodes.
 class TracePool {
  public:
-  /// A node as the parent's last child. A parent that is full loses its oldest child first.
-  ZvFunctionCall& make(ZvFunctionCall::Kind kind, ZvFunctionCall* parent);
+  TracePool() = default;
+  TracePool(const TracePool&) = delete;  // nodes point at each other
+  TracePool& operator=(const TracePool&) = delete;
+
+  /// A node as the parent's last child, with copies of these column values and without a text. A
+  /// parent that is full loses its oldest child first. A null parent makes a root.
+  ZvFunctionCall& make(ZvFunctionCall::Kind kind, ZvFunctionCall* parent,
+                       std::span<const std::string> columnValues = {});
   /// Deletes oldest children while there are more than the node's limit.
   void prune(ZvFunctionCall& node) noexcept;
   void deleteChildren(ZvFunctionCall& node) noexcept;
@@ -68,6 +79,7 @@ class TracePool {
   void deleteLastChild(ZvFunctionCall& node) noexcept;
 
  private:
+  ZvFunctionCall& takeNode();
   void recycle(ZvFunctionCall& node) noexcept;
 
   std::deque<ZvFunctionCall> nodes_;
