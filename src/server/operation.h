@@ -151,7 +151,7 @@ int get(ZvThermoInt& engine, std::span<Value> values) {
 
 /// Lays names and unit groups, written "pH:5 P:1 T:0", over the parameters of an operation.
 template <auto Op>
-consteval int describe(std::array<Parameter, maxParameters>& parameters, std::string_view names) {
+constexpr int describe(std::array<Parameter, maxParameters>& parameters, std::string_view names) {
   using Arguments = typename SignatureOf<Op>::Arguments;
   constexpr std::size_t count = std::tuple_size_v<Arguments>;
   static_assert(count <= maxParameters);
@@ -182,7 +182,7 @@ consteval int describe(std::array<Parameter, maxParameters>& parameters, std::st
 
 /// Answers pSucc.
 template <auto Op>
-consteval Member method(short id, std::string_view name, std::string_view parameters) {
+constexpr Member method(short id, std::string_view name, std::string_view parameters) {
   Member member{id, name, ReturnStyle::success, false, &run<Op>, nullptr, {}, 0};
   member.parameterCount = describe<Op>(member.parameterStore, parameters);
   return member;
@@ -190,7 +190,7 @@ consteval Member method(short id, std::string_view name, std::string_view parame
 
 /// Answers S_OK or S_FALSE.
 template <auto Op>
-consteval Member action(short id, std::string_view name, std::string_view parameters = {}) {
+constexpr Member action(short id, std::string_view name, std::string_view parameters = {}) {
   Member member = method<Op>(id, name, parameters);
   member.style = ReturnStyle::status;
   return member;
@@ -198,7 +198,7 @@ consteval Member action(short id, std::string_view name, std::string_view parame
 
 /// Answers the value itself.
 template <auto Op>
-consteval Member value(short id, std::string_view name, std::string_view returnName,
+constexpr Member value(short id, std::string_view name, std::string_view returnName,
                        short group = -1) {
   Member member{id, name, ReturnStyle::value, false, &get<Op>, nullptr, {}, 1};
   member.parameterStore[0] = {returnName, returnedType<typename SignatureOf<Op>::Result>(),
@@ -208,7 +208,7 @@ consteval Member value(short id, std::string_view name, std::string_view returnN
 
 /// A property that can be read ...
 template <auto Get>
-consteval Member setting(short id, std::string_view name) {
+constexpr Member setting(short id, std::string_view name) {
   Member member = value<Get>(id, name, "pVal");
   member.style = ReturnStyle::status;
   member.isProperty = true;
@@ -216,7 +216,7 @@ consteval Member setting(short id, std::string_view name) {
 }
 /// ... and written.
 template <auto Get, auto Put>
-consteval Member setting(short id, std::string_view name) {
+constexpr Member setting(short id, std::string_view name) {
   Member member = setting<Get>(id, name);
   member.put = &run<Put>;
   return member;

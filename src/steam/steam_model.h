@@ -128,8 +128,8 @@ class SteamModel final : private ZvSolverCallBack {
   Bracket bracket(Property property, double value, double P, double T);
   Bracket bracketT(Property property, double value, double T);
   Bracket bracketP(Property property, double value, double P);
-  double mixture(Property property, double P, double T, double Q, double vapourStart,
-                 double liquidStart);
+  double mixture(Property property, double P, double T, double Q, double vapourFrom,
+                 double liquidFrom);
 
   const TemperaturePart& temperaturePart(double T, TemperaturePart::Order order);
   [[nodiscard]] double propertyAt(Property property, double T, double density);

@@ -33,9 +33,9 @@ struct Range {
 
 // What came of the inversions of one pair.
 struct Tally {
-  int same = 0;     // the state that the values came from
-  int other = 0;    // another one that meets both inputs
-  int failed = 0;   // none, or one that does not meet them
+  int same = 0;    // the state that the values came from
+  int other = 0;   // another one that meets both inputs
+  int failed = 0;  // none, or one that does not meet them
   std::string examples;
 };
 
@@ -65,14 +65,14 @@ void invert(SteamModel& steam, const Truth& truth, bool fromT, Property second, 
     }
   };
   try {
-    const Phases phases = fromT ? steam.stateFromT(truth.T, second, value)
-                                : steam.stateFromP(truth.P, second, value);
+    const Phases phases =
+        fromT ? steam.stateFromT(truth.T, second, value) : steam.stateFromP(truth.P, second, value);
     const SteamState state = steam.state();
     // Specific tolerance of energies next to their zero: 1e-4 kJ/kg and 1e-6 kJ/(kg.K).
     const double small = second == Property::entropy ? 1e-6 : 1e-4;
     if (phases == Phases::two) {
-      const double found = fromT ? mixed(steam, second, truth.T, state.quality)
-                                 : steam.mixtureProperty(second);
+      const double found =
+          fromT ? mixed(steam, second, truth.T, state.quality) : steam.mixtureProperty(second);
       const bool meets = close(found, value, 1e-8, small);
       // A dense fluid's enthalpy and energy, and its entropy and density around the density
       // maximum, are also those of some mixture.
