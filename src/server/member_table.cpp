@@ -218,7 +218,7 @@ const Member* findMember(std::string_view name) {
 }
 
 const Member* findMember(int dispatchId) noexcept {
-  const auto found = std::ranges::lower_bound(members, dispatchId, {}, &Member::dispatchId);
+  const Member* found = std::ranges::lower_bound(members, dispatchId, {}, &Member::dispatchId);
   return found != std::end(members) && found->dispatchId == dispatchId ? found : nullptr;
 }
 
