@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "diagnostics/thermo_exception.h"
 #include "steam/constants.h"
 #include "steam/saturation_correlations.h"
 #include "steam/steam_model.h"
@@ -39,6 +40,22 @@ double superheatGuess(double P, double Ts, double hv, double h) {
          0.008078662 * P * P + 6.47361e-05 * Ts * Ts - 0.000101467 * hv * hv + 0.00013199 * h * h;
 }
 
+[[noreturn]] void failWithoutSolution() {
+  throw ZvThermoException(std::string(messageText(Message::solutionError)));
+}
+
+// Water without pressure has no density; the solver would answer with the nothing it starts from.
+void requirePressure(double P) {
+  if (!(P > 0.0)) failWithoutSolution();
+}
+
+// No state has an infinite property, or no density: every starting point would be tried in vain.
+void requireValue(Property property, double value) {
+  if (!std::isfinite(value) || (property == Property::density && !(value > 0.0))) {
+    failWithoutSolution();
+  }
+}
+
 }  // namespace
 
 double SteamModel::property(Property property) {
@@ -57,6 +74,7 @@ double SteamModel::mixtureProperty(Property property) {
 }
 
 Phases SteamModel::stateFromPT(double P, double T) {
+  requirePressure(P);
   double guess = gasDensity;
   Side side = Side::any;
   if (T < criticalTemperature) {
@@ -73,6 +91,8 @@ Phases SteamModel::stateFromPT(double P, double T) {
 }
 
 Phases SteamModel::stateFromP(double P, Property second, double value) {
+  requirePressure(P);
+  requireValue(second, value);
   Start start{defaultTemperature, gasDensity};
   double quality = 1.0;
   Side side = Side::any;
@@ -123,6 +143,7 @@ Phases SteamModel::stateFromP(double P, Property second, double value) {
 }
 
 Phases SteamModel::stateFromT(double T, Property second, double value) {
+  requireValue(second, value);
   const bool isDensity = second == Property::density;
   double density = isDensity ? value : gasDensity;
   double quality = 1.0;

@@ -1,0 +1,323 @@
+// The hard and the strictly valid range of temperature and pressure, and the order of the checks.
+#include <gtest/gtest.h>
+
+#include "support/engine.h"
+
+namespace calvex::test {
+namespace {
+
+const std::string temperatureWarning = "Temperature parameter out of strictly valid range.";
+const std::string pressureWarning = "Pressure parameter out of strictly valid range.";
+
+class RangeLimits : public testing::Test {
+ protected:
+  ZvThermoInt engine;
+
+  // What a call leaves in the trace, with warnings.
+  std::string warningsOf(PairOperation member, double first, double second) {
+    engine.SetTraceLevel(1);
+    engine.ClearTraceInfo();
+    double value = untouched;
+    (engine.*member)(&value, first, second);
+    return traceOf(engine);
+  }
+};
+
+TEST_F(RangeLimits, TemperatureBoundsAreInclusive) {
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::APT, 1.0, 260.0)) << engine.LastError();
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::APT, 1.0, 2500.0)) << engine.LastError();
+}
+
+TEST_F(RangeLimits, TemperatureBelowOrAboveTheBoundsFailsWithBothBounds) {
+  const std::string error = "Temperature parameter out of range (Valid range 260.00 to 2500.00 K).";
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::APT, 1.0, 259.99), error);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::APT, 1.0, 2500.01), error);
+}
+
+TEST_F(RangeLimits, BoundsAreGivenInTheUsersTemperatureUnit) {
+  ASSERT_EQ(engine.SetUserUnit("T", "C"), 1);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::APT, 1.0, -20.0),
+            "Temperature parameter out of range (Valid range -13.15 to 2226.85 C).");
+  ASSERT_EQ(engine.SetUserUnit("T", "F"), 1);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::APT, 1.0, 8.0),
+            "Temperature parameter out of range (Valid range 8.33 to 4040.33 F).");
+}
+
+TEST_F(RangeLimits, BoundsAreGivenInTheUsersPressureUnit) {
+  ASSERT_EQ(engine.SetUserUnit("P", "barg"), 1);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::APT, -2.0, 500.0),
+            "Pressure parameter out of range (Valid range -1.01 to 29998.99 barg).");
+}
+
+TEST_F(RangeLimits, PressureAboveTheHardBoundFails) {
+  const std::string error = "Pressure parameter out of range (Valid range 0.00 to 3000.00 MPa).";
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::APT, 3000.01, 500.0), error);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::APT, -0.01, 500.0), error);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::TPH, 3000.01, 500.0), error);
+}
+
+TEST_F(RangeLimits, PressureAtTheHardBoundIsInRange) {
+  EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::APT, 3000.0, 500.0), "out of range"));
+}
+
+TEST_F(RangeLimits, ZeroPressurePassesTheChecksAndFailsInTheState) {
+  const std::string error = errorOf(engine, &ZvThermoInt::HPT, 0.0, 500.0);
+  EXPECT_FALSE(error.empty());
+  EXPECT_FALSE(contains(error, "out of range")) << error;
+}
+
+TEST_F(RangeLimits, StrictTemperatureRangeLeavesOneWarningAndSucceeds) {
+  engine.SetTraceLevel(1);
+  double a = untouched;
+  EXPECT_EQ(engine.APT(&a, 1.0, 1300.0), 1);
+  EXPECT_NE(a, untouched);
+  EXPECT_EQ(traceOf(engine), "APT\n  warning: " + temperatureWarning + "\n");
+  EXPECT_EQ(engine.LastError(), "");
+}
+
+TEST_F(RangeLimits, StrictTemperatureBoundsAreInclusive) {
+  EXPECT_EQ(warningsOf(&ZvThermoInt::HPT, 1.0, 273.15), "");
+  EXPECT_EQ(warningsOf(&ZvThermoInt::HPT, 1.0, 1273.15), "");
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1.0, 273.14), temperatureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1.0, 1273.16), temperatureWarning));
+}
+
+TEST_F(RangeLimits, StrictPressureBoundDependsOnTheTemperature) {
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::APT, 1400.0, 400.0), pressureWarning));
+  EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::APT, 1400.0, 430.0), pressureWarning));
+}
+
+TEST_F(RangeLimits, StrictPressureBoundRisesFrom500To1500MPa) {
+  EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::HPT, 500.0, 273.15), pressureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 500.1, 273.15), pressureWarning));
+  EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::HPT, 999.9, 348.15), pressureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1000.1, 348.15), pressureWarning));
+  EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::HPT, 1500.0, 423.15), pressureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.1, 423.15), pressureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.0, 423.14), pressureWarning));
+}
+
+TEST_F(RangeLimits, WithoutATemperatureTheStrictPressureBoundIsThatOf400K) {
+  // (126.85 / 15 + 5) * 100 = 1345.667 MPa
+  EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::TPH, 1345.6, 1000.0), pressureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::TPH, 1345.7, 1000.0), pressureWarning));
+}
+
+TEST_F(RangeLimits, TemperatureIsCheckedBeforePressure) {
+  int members = 0;
+  for (const PairMember& member : pairMembers()) {
+    if (!member.isFromPT() || contains("KPT NPT EPT", member.name)) continue;
+    ++members;
+    EXPECT_TRUE(errorOf(engine, member.call, -1.0, 100.0).starts_with("Temperature "))
+        << member.name;
+  }
+  EXPECT_EQ(members, 16);
+}
+
+TEST_F(RangeLimits, KPTNPTAndEPTCheckPressureBeforeTemperature) {
+  for (const PairOperation member : {&ZvThermoInt::KPT, &ZvThermoInt::NPT, &ZvThermoInt::EPT}) {
+    EXPECT_TRUE(errorOf(engine, member, -1.0, 100.0).starts_with("Pressure "));
+  }
+}
+
+TEST_F(RangeLimits, HPTQChecksTemperatureThenPressureThenQuality) {
+  EXPECT_TRUE(errorOf(engine, &ZvThermoInt::HPTQ, -1.0, 100.0, -1.0).starts_with("Temperature "));
+  EXPECT_TRUE(errorOf(engine, &ZvThermoInt::HPTQ, -1.0, 400.0, -1.0).starts_with("Pressure "));
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::HPTQ, 1.0, 400.0, -1.0),
+            "Quality parameter out of range (Valid range 0.00 to 1.00 Fraction).");
+}
+
+// Transport properties: the ranges of their correlations ------------------------------------------
+
+TEST_F(RangeLimits, ViscosityHasThreePressureLimitsByTemperature) {
+  const auto error = [](const char* limit) {
+    return std::string("Pressure parameter out of range (Valid range 0.00 to ") + limit + " MPa).";
+  };
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::MPT, 1000.01, 373.14), error("1000.00"));
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::MPT, 350.01, 373.15), error("350.00"));
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::MPT, 350.01, 833.14), error("350.00"));
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::MPT, 100.01, 833.15), error("100.00"));
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::MPT, 1000.0, 373.14)) << engine.LastError();
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::MPT, 350.0, 373.15)) << engine.LastError();
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::MPT, 100.0, 833.15)) << engine.LastError();
+}
+
+TEST_F(RangeLimits, ViscosityTemperatureBoundsAreInclusive) {
+  const std::string error = "Temperature parameter out of range (Valid range 273.15 to 1073.15 K).";
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::MPT, 1.0, 273.15)) << engine.LastError();
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::MPT, 1.0, 1073.15)) << engine.LastError();
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::MPT, 1.0, 273.14), error);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::MPT, 1.0, 1073.16), error);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::MPT, -1.0, 1073.16), error);
+}
+
+TEST_F(RangeLimits, ViscosityAbove100MPaWarns) {
+  EXPECT_EQ(warningsOf(&ZvThermoInt::MPT, 100.0, 500.0), "");
+  EXPECT_EQ(warningsOf(&ZvThermoInt::MPT, 100.1, 500.0),
+            "MPT\n  warning: " + pressureWarning + "\n");
+}
+
+TEST_F(RangeLimits, ConductivityAndPrandtlNumberHaveTheConductivityRange) {
+  for (const PairOperation member : {&ZvThermoInt::KPT, &ZvThermoInt::NPT}) {
+    EXPECT_TRUE(succeeds(engine, member, 100.0, 273.15)) << engine.LastError();
+    EXPECT_TRUE(succeeds(engine, member, 100.0, 1073.15)) << engine.LastError();
+    EXPECT_EQ(errorOf(engine, member, 100.01, 500.0),
+              "Pressure parameter out of range (Valid range 0.00 to 100.00 MPa).");
+    EXPECT_EQ(errorOf(engine, member, 1.0, 273.14),
+              "Temperature parameter out of range (Valid range 273.15 to 1073.15 K).");
+    EXPECT_EQ(errorOf(engine, member, 1.0, 1073.16),
+              "Temperature parameter out of range (Valid range 273.15 to 1073.15 K).");
+  }
+}
+
+TEST_F(RangeLimits, DielectricConstantHasItsOwnRange) {
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::EPT, 500.0, 823.15)) << engine.LastError();
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::EPT, 1.0, 273.15)) << engine.LastError();
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::EPT, 500.01, 500.0),
+            "Pressure parameter out of range (Valid range 0.00 to 500.00 MPa).");
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::EPT, 1.0, 823.16),
+            "Temperature parameter out of range (Valid range 273.15 to 823.15 K).");
+}
+
+TEST_F(RangeLimits, TransportBoundsAreGivenInTheUsersUnits) {
+  ASSERT_EQ(engine.SetUserUnit("T", "C"), 1);
+  ASSERT_EQ(engine.SetUserUnit("P", "bara"), 1);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::KPT, 1000.1, 100.0),
+            "Pressure parameter out of range (Valid range 0.00 to 1000.00 bara).");
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::KPT, 10.0, 801.0),
+            "Temperature parameter out of range (Valid range 0.00 to 800.00 C).");
+}
+
+TEST_F(RangeLimits, SurfaceTensionReachesTheCriticalTemperature) {
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::XT, criticalT)) << engine.LastError();
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::XT, tripleT)) << engine.LastError();
+  const std::string error = "Temperature parameter out of range (Valid range 273.16 to 647.13 K).";
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::XT, criticalT + 0.01), error);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::XT, tripleT - 0.01), error);
+}
+
+// The other inputs
+// ----------------------------------------------------------------------------------
+
+std::string_view nameOf(char letter) {
+  switch (letter) {
+    case 'H':
+      return "Enthalpy";
+    case 'S':
+      return "Entropy";
+    case 'U':
+      return "Internal Energy";
+    case 'R':
+      return "Density";
+    default:
+      return "Specific Volume";
+  }
+}
+
+TEST_F(RangeLimits, NegativeSecondInputsFailWithTheirName) {
+  int members = 0;
+  for (const PairMember& member : pairMembers()) {
+    if (member.isFromPT()) continue;
+    ++members;
+    const double first = member.first() == 'P' ? 1.0 : 400.0;
+    const std::string name =
+        member.name == "QPV" ? "Specific volume" : std::string(nameOf(member.second()));
+    EXPECT_EQ(errorOf(engine, member.call, first, -0.001), name + " parameter out of range.")
+        << member.name;
+  }
+  EXPECT_EQ(members, 76);
+}
+
+TEST_F(RangeLimits, NegativeEnthalpyFailsInTheMembersOfSeveralResults) {
+  double q = untouched, t = untouched, s = untouched;
+  EXPECT_EQ(engine.QTS_PH(&q, &t, &s, 1.0, -0.001), 0);
+  EXPECT_EQ(engine.LastError(), "Enthalpy parameter out of range.");
+  engine.ClearTraceInfo();
+  EXPECT_EQ(engine.QT_PH(&q, &t, 1.0, -0.001), 0);
+  EXPECT_EQ(engine.LastError(), "Enthalpy parameter out of range.");
+  engine.ClearTraceInfo();
+  EXPECT_EQ(engine.QTR_PH(&q, &t, &s, 1.0, -0.001), 0);
+  EXPECT_EQ(engine.LastError(), "Enthalpy parameter out of range.");
+  EXPECT_EQ(q, untouched);
+  EXPECT_EQ(t, untouched);
+  EXPECT_EQ(s, untouched);
+}
+
+TEST_F(RangeLimits, AnEnthalpyOfZeroIsAccepted) {
+  EXPECT_EQ(valueOf(engine, &ZvThermoInt::QPH, 1.0, 0.0), 0.0);
+}
+
+TEST_F(RangeLimits, TheFirstInputIsCheckedBeforeTheSecond) {
+  for (const PairMember& member : pairMembers()) {
+    if (member.isFromPT()) continue;
+    const std::string name = member.first() == 'P' ? "Pressure " : "Temperature ";
+    EXPECT_TRUE(errorOf(engine, member.call, -1.0, -1.0).starts_with(name)) << member.name;
+  }
+}
+
+TEST_F(RangeLimits, SaturationMembersKeepBetweenTripleAndCriticalPoint) {
+  const std::string temperature =
+      "Temperature parameter out of range (Valid range 273.16 to 647.13 K).";
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::PSatT, 273.15), temperature);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::PSatT, 647.127), temperature);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::TSatP, 0.0006),
+            "Pressure parameter out of range (Valid range 0.00 to 22.05 MPa).");
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::TSatP, 22.056),
+            "Pressure parameter out of range (Valid range 0.00 to 22.05 MPa).");
+  for (const PairMember& member : saturationMembers()) {
+    if (member.name[4] == 'T') {
+      EXPECT_EQ(errorOf(engine, member.call, 273.15, 0.5), temperature) << member.name;
+      EXPECT_EQ(errorOf(engine, member.call, 647.127, 0.5), temperature) << member.name;
+      continue;
+    }
+    const std::string pressure = std::string(member.name == "USatPQ" ? "Press" : "Pressure") +
+                                 " parameter out of range (Valid range 0.00 to 22.05 MPa).";
+    EXPECT_EQ(errorOf(engine, member.call, 0.0006, 0.5), pressure) << member.name;
+    EXPECT_EQ(errorOf(engine, member.call, 22.056, 0.5), pressure) << member.name;
+  }
+}
+
+TEST_F(RangeLimits, QualityBoundsAreInclusive) {
+  const std::string error = "Quality parameter out of range (Valid range 0.00 to 1.00 Fraction).";
+  for (const PairMember& member : saturationMembers()) {
+    const double first = member.name[4] == 'T' ? 400.0 : 1.0;
+    EXPECT_TRUE(succeeds(engine, member.call, first, 0.0)) << member.name;
+    EXPECT_TRUE(succeeds(engine, member.call, first, 1.0)) << member.name;
+    EXPECT_EQ(errorOf(engine, member.call, first, 1.0001), error) << member.name;
+    EXPECT_EQ(errorOf(engine, member.call, first, -0.0001), error) << member.name;
+  }
+}
+
+TEST_F(RangeLimits, QualityBoundsAreGivenInTheUsersUnit) {
+  ASSERT_EQ(engine.SetUserUnit("Q", "%"), 1);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::HSatPQ, 1.0, 100.01),
+            "Quality parameter out of range (Valid range 0.00 to 100.00 %).");
+}
+
+TEST_F(RangeLimits, TheSaturatedTripleOfEnthalpiesChecksPressureAndQuality) {
+  double h = untouched, hVap = untouched, hLiq = untouched, tSat = untouched;
+  EXPECT_EQ(engine.HVLTSat_PQ(&h, &hVap, &hLiq, &tSat, 22.056, 0.5), 0);
+  EXPECT_EQ(engine.LastError(), "Pressure parameter out of range (Valid range 0.00 to 22.05 MPa).");
+  EXPECT_EQ(engine.HVLTSat_PQ(&h, &hVap, &hLiq, &tSat, 1.0, 1.5), 0);
+  EXPECT_EQ(engine.LastError(),
+            "Quality parameter out of range (Valid range 0.00 to 1.00 Fraction).");
+  EXPECT_EQ(h, untouched);
+  EXPECT_EQ(hVap, untouched);
+  EXPECT_EQ(hLiq, untouched);
+  EXPECT_EQ(tSat, untouched);
+}
+
+TEST_F(RangeLimits, AnErrorMakesOneNodeAtAnyLevel) {
+  for (const short level : {short{0}, short{1}, short{2}}) {
+    engine.SetTraceLevel(level);
+    engine.ClearTraceInfo();
+    double value = untouched;
+    engine.HPT(&value, 1.0, 100.0);
+    EXPECT_EQ(traceOf(engine),
+              "HPT\n  error: Temperature parameter out of range (Valid range 260.00 to 2500.00 "
+              "K).\n");
+  }
+}
+
+}  // namespace
+}  // namespace calvex::test

@@ -1,0 +1,379 @@
+// The trace of calls, the last error, custom columns, cell references, external errors and alarms
+// as a client sees them.
+#include <fmt/format.h>
+#include <gtest/gtest.h>
+
+#include <regex>
+
+#include "support/engine.h"
+
+namespace calvex::test {
+namespace {
+
+class TraceMembers : public testing::Test {
+ protected:
+  ZvThermoInt engine;
+  double value = untouched;
+
+  void callThatFails(double T = 100.0) { EXPECT_EQ(engine.HPT(&value, 1.0, T), 0); }
+  void callThatSucceeds() { EXPECT_EQ(engine.HPT(&value, 10.0, 773.15), 1); }
+
+  std::string customText(int index) {
+    std::string text = "untouched";
+    EXPECT_EQ(engine.GetCustomTraceText(index, &text), 1);
+    return text;
+  }
+  std::string cellReference() {
+    std::string text = "untouched";
+    EXPECT_EQ(engine.GetCellRef(&text), 1);
+    return text;
+  }
+};
+
+TEST_F(TraceMembers, ASuccessfulCallLeavesNothing) {
+  callThatSucceeds();
+  EXPECT_EQ(traceOf(engine), "");
+}
+
+TEST_F(TraceMembers, WarningsAreKeptFromLevelOne) {
+  EXPECT_EQ(engine.HPT(&value, 1.0, 1300.0), 1);
+  EXPECT_EQ(keptCalls(engine), 0);
+  engine.SetTraceLevel(1);
+  EXPECT_EQ(engine.HPT(&value, 1.0, 1300.0), 1);
+  EXPECT_EQ(traceOf(engine),
+            "HPT\n  warning: Temperature parameter out of strictly valid range.\n");
+}
+
+TEST_F(TraceMembers, NotesOfTheSolverAreKeptAtLevelTwo) {
+  engine.SetTraceLevel(2);
+  engine.ClearTraceInfo();
+  callThatSucceeds();
+  // Residuals in ten columns; of two equations the third does not exist and prints as 0.
+  const std::regex note(
+      R"(HPT\n  note: Solver : Iter = \d+, f\(\) = (  | -)\d\.\d\de[+-]\d\d, (  | -)\d\.\d\de[+-]\d\d,   0\.00e\+00\.\n)");
+  EXPECT_TRUE(std::regex_match(traceOf(engine), note)) << traceOf(engine);
+}
+
+TEST_F(TraceMembers, OfThreeFailingCallsATraceOfTwoKeepsTheLast) {
+  engine.SetMaxTraceSize(2);
+  callThatFails();
+  EXPECT_EQ(engine.TPH(&value, 1.0, -1.0), 0);
+  EXPECT_EQ(engine.APT(&value, 1.0, 100.0), 0);
+  EXPECT_EQ(keptCalls(engine), 2);
+  EXPECT_TRUE(traceOf(engine).starts_with("TPH\n")) << traceOf(engine);
+}
+
+TEST_F(TraceMembers, AFullTraceDropsItsOldestWhenACallEntersThatThenLeavesNothing) {
+  engine.SetMaxTraceSize(2);
+  callThatFails();
+  EXPECT_EQ(engine.TPH(&value, 1.0, -1.0), 0);
+  callThatSucceeds();
+  EXPECT_EQ(traceOf(engine), "TPH\n  error: Enthalpy parameter out of range.\n");
+}
+
+TEST_F(TraceMembers, AThousandCallsAreKept) {
+  for (int i = 0; i < 1005; ++i) callThatFails();
+  EXPECT_EQ(keptCalls(engine), 1000);
+}
+
+TEST_F(TraceMembers, ASmallerTraceSizePrunesAtOnceAndCountsThePutItself) {
+  for (int i = 0; i < 5; ++i) callThatFails();
+  EXPECT_EQ(engine.SetMaxTraceSize(2), 1);
+  EXPECT_EQ(keptCalls(engine), 1);
+}
+
+TEST_F(TraceMembers, WithTracingOffNothingChanges) {
+  callThatFails();
+  const std::string before = traceOf(engine);
+  const std::string error = engine.LastError();
+  engine.SetFunctionCallTracing(0);
+  EXPECT_EQ(engine.TPH(&value, 1.0, -1.0), 0);
+  EXPECT_EQ(value, untouched);
+  EXPECT_EQ(engine.SetSolverTol(1.0), 0);
+  EXPECT_EQ(engine.SetUserUnit("temp", "K"), 0);
+  EXPECT_EQ(traceOf(engine), before);
+  EXPECT_EQ(engine.LastError(), error);
+  callThatSucceeds();
+}
+
+TEST_F(TraceMembers, TracingBackOnTracesAgain) {
+  engine.SetFunctionCallTracing(0);
+  callThatFails();
+  engine.SetFunctionCallTracing(1);
+  callThatFails();
+  EXPECT_EQ(keptCalls(engine), 1);
+  EXPECT_FALSE(engine.diagnostics().inCall());
+}
+
+TEST_F(TraceMembers, NestedCallsShowUnderTheirCallerWhenAMessageArises) {
+  engine.SetTraceLevel(2);
+  engine.ClearTraceInfo();
+  ASSERT_EQ(engine.HPU(&value, 1.0, 1500.0), 1);
+  ASSERT_EQ(keptCalls(engine), 1);
+  const ZvFunctionCall* call = engine.diagnostics().root().firstChild();
+  EXPECT_EQ(call->text(), "HPU");
+  const ZvFunctionCall* nested = childOf(*call, "HSatPQ");
+  ASSERT_NE(nested, nullptr) << traceOf(engine);
+  EXPECT_EQ(nested->kind(), ZvFunctionCall::Kind::call);
+}
+
+TEST_F(TraceMembers, SaturationRoutinesHaveTheirOwnEntries) {
+  engine.SetTraceLevel(2);
+  for (const auto& [member, routine, first, second] :
+       std::vector<std::tuple<PairOperation, const char*, double, double>>{
+           {&ZvThermoInt::TPH, "HSat_PH", 1.0, 3000.0},
+           {&ZvThermoInt::TPS, "SSat_PS", 1.0, 7.0},
+           {&ZvThermoInt::TPU, "USat_PU", 1.0, 2800.0},
+           {&ZvThermoInt::TPR, "RSat_PR", 1.0, 3.0},
+           {&ZvThermoInt::PTH, "HSat_TH", 500.0, 2900.0},
+           {&ZvThermoInt::PTS, "SSat_TS", 500.0, 7.0},
+           {&ZvThermoInt::PTU, "USat_TU", 500.0, 2700.0},
+           {&ZvThermoInt::PTR, "RSat_TR", 500.0, 3.0}}) {
+    engine.ClearTraceInfo();
+    ASSERT_EQ((engine.*member)(&value, first, second), 1) << engine.LastError();
+    const ZvFunctionCall* call = engine.diagnostics().root().firstChild();
+    ASSERT_NE(call, nullptr);
+    EXPECT_NE(childOf(*call, routine), nullptr) << routine << "\n" << traceOf(engine);
+  }
+}
+
+TEST_F(TraceMembers, ClearingEmptiesTraceLastErrorAndCustomTexts) {
+  engine.AddCustomTraceTitle("Cell");
+  callThatFails();
+  engine.SetCustomTraceText(0, "A1");
+  EXPECT_EQ(engine.ClearTraceInfo(), 1);
+  EXPECT_EQ(traceOf(engine), "");
+  EXPECT_EQ(engine.LastError(), "");
+  EXPECT_EQ(customText(0), "");
+  EXPECT_EQ(engine.diagnostics().root().columnValues(), std::vector<std::string>{"Cell"});
+}
+
+// The last error
+// ------------------------------------------------------------------------------------------
+
+TEST_F(TraceMembers, ASuccessfulCallDoesNotClearTheLastError) {
+  callThatFails();
+  const std::string error = engine.LastError();
+  EXPECT_NE(error, "");
+  callThatSucceeds();
+  EXPECT_EQ(engine.LastError(), error);
+}
+
+TEST_F(TraceMembers, WarningsDoNotTouchTheLastError) {
+  engine.SetTraceLevel(1);
+  EXPECT_EQ(engine.HPT(&value, 1.0, 1300.0), 1);
+  EXPECT_EQ(engine.LastError(), "");
+}
+
+// Custom columns
+// --------------------------------------------------------------------------------------------
+
+TEST_F(TraceMembers, CustomTextsNeedATitle) {
+  std::string text = "untouched";
+  EXPECT_EQ(engine.SetCustomTraceText(0, "A1"), 0);
+  EXPECT_EQ(engine.GetCustomTraceText(0, &text), 0);
+  EXPECT_EQ(engine.AddCustomTraceTitle("Cell"), 1);
+  EXPECT_EQ(engine.SetCustomTraceText(-1, "A1"), 0);
+  EXPECT_EQ(engine.SetCustomTraceText(1, "A1"), 0);
+  EXPECT_EQ(engine.GetCustomTraceText(1, &text), 0);
+  EXPECT_EQ(engine.GetCustomTraceText(-1, &text), 0);
+  EXPECT_EQ(text, "untouched");
+  EXPECT_EQ(engine.SetCustomTraceText(0, "A1"), 1);
+  EXPECT_EQ(customText(0), "A1");
+}
+
+TEST_F(TraceMembers, CustomTextsGoToTheNextOutermostCallAndAreThenEmptied) {
+  engine.AddCustomTraceTitle("Sheet");
+  engine.AddCustomTraceTitle("Cell");
+  engine.SetCustomTraceText(0, "One");
+  engine.SetCustomTraceText(1, "A1");
+  callThatFails();
+  const ZvFunctionCall* call = engine.diagnostics().root().firstChild();
+  ASSERT_NE(call, nullptr);
+  EXPECT_EQ(call->columnValues(), (std::vector<std::string>{"One", "A1"}));
+  EXPECT_TRUE(call->firstChild()->columnValues().empty());
+  EXPECT_EQ(customText(0), "");
+  EXPECT_EQ(customText(1), "");
+}
+
+TEST_F(TraceMembers, ASuccessfulCallEmptiesCustomTexts) {
+  engine.AddCustomTraceTitle("Cell");
+  engine.SetCustomTraceText(0, "A1");
+  callThatSucceeds();
+  EXPECT_EQ(customText(0), "");
+}
+
+TEST_F(TraceMembers, TracedPutsEmptyCustomTexts) {
+  engine.AddCustomTraceTitle("Cell");
+  const auto emptiedBy = [&](auto put) {
+    engine.SetCustomTraceText(0, "A1");
+    put();
+    return customText(0).empty();
+  };
+  std::string text;
+  EXPECT_TRUE(emptiedBy([&] { engine.SetSolverTol(1e-8); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetSolverIter(300); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetTraceLevel(0); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetSatPolish(1); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetMaxTraceSize(100); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetUserUnit("T", "K"); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.GetUserUnit("T", &text); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.Convert("T", "K", "C", 1.0, &value); }));
+}
+
+TEST_F(TraceMembers, CustomTextsStayWhileTracingIsOff) {
+  engine.AddCustomTraceTitle("Cell");
+  engine.SetCustomTraceText(0, "A1");
+  engine.SetFunctionCallTracing(0);
+  callThatSucceeds();
+  engine.SetSolverTol(1e-8);
+  EXPECT_EQ(customText(0), "A1");
+}
+
+// External errors
+// ---------------------------------------------------------------------------------------------
+
+TEST_F(TraceMembers, ExternalErrorsAreRecordedEvenWithTracingOff) {
+  engine.SetFunctionCallTracing(0);
+  EXPECT_EQ(engine.AddExternalError("Sheet", "It broke."), 1);
+  EXPECT_EQ(engine.LastError(), "It broke.");
+  EXPECT_EQ(traceOf(engine), "external: Sheet\n  external: It broke.\n");
+}
+
+TEST_F(TraceMembers, ExternalErrorsTakeTheCustomTexts) {
+  engine.AddCustomTraceTitle("Cell");
+  engine.SetCustomTraceText(0, "A1");
+  EXPECT_EQ(engine.AddExternalError("Sheet", "It broke."), 1);
+  const ZvFunctionCall* node = engine.diagnostics().root().firstChild();
+  ASSERT_NE(node, nullptr);
+  EXPECT_EQ(node->columnValues(), std::vector<std::string>{"A1"});
+  EXPECT_EQ(customText(0), "");
+}
+
+TEST_F(TraceMembers, ExternalErrorsFailInsideACall) {
+  int answer = -1;
+  engine.call("Outer", [&] {
+    answer = engine.AddExternalError("Sheet", "It broke.");
+    return true;
+  });
+  EXPECT_EQ(answer, 0);
+  EXPECT_EQ(engine.LastError(), "");
+  EXPECT_EQ(traceOf(engine), "");
+}
+
+TEST_F(TraceMembers, ExternalErrorsCountTowardsTheTraceSize) {
+  engine.SetMaxTraceSize(2);
+  for (int i = 0; i < 3; ++i) engine.AddExternalError(fmt::format("E{}", i), "text");
+  EXPECT_EQ(keptCalls(engine), 2);
+  EXPECT_TRUE(traceOf(engine).starts_with("external: E1\n")) << traceOf(engine);
+}
+
+TEST_F(TraceMembers, ExternalErrorTextsAreOwnedByTheTrace) {
+  std::string name(100, 'n');
+  std::string text(100, 't');
+  engine.AddExternalError(name, text);
+  name.assign(100, '-');
+  text.assign(100, '-');
+  const ZvFunctionCall* node = engine.diagnostics().root().firstChild();
+  ASSERT_NE(node, nullptr);
+  EXPECT_EQ(node->text(), std::string(100, 'n'));
+  EXPECT_EQ(node->firstChild()->text(), std::string(100, 't'));
+}
+
+// Cell references
+// -----------------------------------------------------------------------------------------------
+
+TEST_F(TraceMembers, CellReferencesAreWrittenAsTheSpreadsheetDoes) {
+  ASSERT_EQ(engine.SetupExcelTracing(), 1);
+  EXPECT_EQ(engine.diagnostics().root().columnValues(),
+            (std::vector<std::string>{"Book", "Sheet", "Cell"}));
+  ASSERT_EQ(engine.SetCellRef("Book1.xls", "Sheet1", "A1"), 1);
+  EXPECT_EQ(cellReference(), "'[Book1.xls]Sheet1'!A1");
+  callThatSucceeds();
+  EXPECT_EQ(cellReference(), "");
+}
+
+TEST_F(TraceMembers, CellReferencesWithAnEmptyPartAreEmptyAndSucceed) {
+  engine.SetupExcelTracing();
+  EXPECT_EQ(cellReference(), "");
+  for (const auto& [book, sheet, cell] : std::vector<std::array<const char*, 3>>{
+           {"", "Sheet1", "A1"}, {"Book1", "", "A1"}, {"Book1", "Sheet1", ""}}) {
+    ASSERT_EQ(engine.SetCellRef(book, sheet, cell), 1);
+    EXPECT_EQ(cellReference(), "");
+  }
+}
+
+TEST_F(TraceMembers, CellReferencesNeedExactlyThreeColumns) {
+  std::string text = "untouched";
+  EXPECT_EQ(engine.SetCellRef("b", "s", "c"), 0);
+  EXPECT_EQ(engine.GetCellRef(&text), 0);
+  engine.SetupExcelTracing();
+  engine.AddCustomTraceTitle("Fourth");
+  EXPECT_EQ(engine.SetCellRef("b", "s", "c"), 0);
+  EXPECT_EQ(engine.GetCellRef(&text), 0);
+  EXPECT_EQ(text, "untouched");
+}
+
+TEST_F(TraceMembers, SetupReplacesOtherColumns) {
+  engine.AddCustomTraceTitle("Mine");
+  engine.SetCustomTraceText(0, "text");
+  engine.SetupExcelTracing();
+  EXPECT_EQ(engine.diagnostics().root().columnValues().size(), 3U);
+  EXPECT_EQ(customText(0), "");
+  EXPECT_EQ(engine.SetCustomTraceText(3, "x"), 0);
+}
+
+TEST_F(TraceMembers, FailingCallsCarryTheirCell) {
+  engine.SetupExcelTracing();
+  engine.SetCellRef("Book1.xls", "Sheet1", "B7");
+  callThatFails();
+  EXPECT_EQ(engine.diagnostics().root().firstChild()->columnValues(),
+            (std::vector<std::string>{"Book1.xls", "Sheet1", "B7"}));
+  callThatFails();
+  EXPECT_EQ(engine.diagnostics().root().firstChild()->nextSibling()->columnValues(),
+            (std::vector<std::string>{"", "", ""}));
+}
+
+// Alarms
+// -----------------------------------------------------------------------------------------------------------
+
+TEST_F(TraceMembers, AlarmsAreThreeFixedRows) {
+  const ResultArray expected{{std::string("Alarm Name0"), std::string("Alarm Message")},
+                             {std::string("Alarm Name1"), std::string("Alarm Message")},
+                             {std::string("Alarm Name2"), std::string("Alarm Message")}};
+  ResultArray alarms;
+  EXPECT_EQ(engine.GetAlarms(&alarms), 1);
+  EXPECT_EQ(alarms, expected);
+  callThatFails();
+  alarms.assign(9, {1.0});
+  EXPECT_EQ(engine.GetAlarms(&alarms), 1);
+  EXPECT_EQ(alarms, expected);
+}
+
+// Failures travel as messages
+// ----------------------------------------------------------------------------------------
+
+TEST_F(TraceMembers, ASolverFailureIsPostedOnce) {
+  engine.TPH(&value, 0.0, 3000.0);
+  EXPECT_EQ(value, untouched);
+  int errors = 0;
+  const std::string trace = traceOf(engine);
+  for (std::size_t at = trace.find("error: "); at != std::string::npos;
+       at = trace.find("error: ", at + 1)) {
+    ++errors;
+  }
+  EXPECT_EQ(errors, 1) << trace;
+}
+
+TEST_F(TraceMembers, AFailedCallKeepsTheStoredState) {
+  callThatSucceeds();
+  const SteamState before = engine.steam().state();
+  EXPECT_NEAR(before.temperature, 773.15, 1e-6);
+  EXPECT_EQ(engine.HPT(&value, 0.0, 500.0), 0);
+  EXPECT_EQ(engine.HPT(&value, correlatedPSat(450.0), 450.0), 0);
+  EXPECT_EQ(engine.steam().state().temperature, before.temperature);
+  EXPECT_EQ(engine.steam().state().density, before.density);
+}
+
+}  // namespace
+}  // namespace calvex::test
