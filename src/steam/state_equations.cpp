@@ -168,6 +168,7 @@ bool SteamModel::isSolution(int n, const double* f) const {
   for (int i = 1; i < n; ++i) {
     if (!(unknowns_[static_cast<std::size_t>(i)] > 0.0)) return false;
   }
+  const double idealGasPressure = 0.001 * constants::gasConstant * unknowns_[1] * T;  // MPa
   for (int i = 0; i < n; ++i) {
     const Target& target = targets_[static_cast<std::size_t>(i)];
     double allowed = 0.0;
@@ -187,9 +188,14 @@ bool SteamModel::isSolution(int n, const double* f) const {
         allowed = 1e-4;
         break;
       case Equation::pressure:
-      case Equation::saturationCorrelation:
       case Equation::pressureDifference:
-        allowed = 1e-5 * target.value + 1e-6;
+        // The absolute part is for dense fluid, whose density does not resolve a small pressure. A
+        // gas gets it in proportion to its own pressure: (P, s) of steam at 1e-12 MPa and 1000 K
+        // was answered with 485 K.
+        allowed = 1e-5 * target.value + 1e-6 * std::min(1.0, idealGasPressure);
+        break;
+      case Equation::saturationCorrelation:
+        allowed = 1e-5 * target.value;
         break;
     }
     if (!(std::fabs(f[i]) <= allowed)) return false;
