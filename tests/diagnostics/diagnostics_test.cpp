@@ -90,35 +90,28 @@ TEST(Diagnostics, RangeErrorsAreRecordedUnderTheRunningCall) {
             "  error Pressure parameter out of range (Valid range 0.00 to 3000.00 MPa).\n");
 }
 
-struct Level {
-  short level;
-  const char* outline;
-};
-
-class DiagnosticsLevel : public testing::TestWithParam<Level> {};
-
-TEST_P(DiagnosticsLevel, GatesWarningsAtOneAndNotesAtTwoAndNeverErrors) {
-  Diagnostics diagnostics;
-  diagnostics.setLevel(GetParam().level);
-  EXPECT_EQ(diagnostics.level(), GetParam().level);
-  EXPECT_EQ(diagnostics.wantsWarnings(), GetParam().level >= 1);
-  EXPECT_EQ(diagnostics.wantsNotes(), GetParam().level >= 2);
-  {
-    const ZvFuncTrace trace(diagnostics, "call");
-    diagnostics.postError("error");
-    diagnostics.postWarning("warning");
-    diagnostics.postNote("note");
+TEST(Diagnostics, LevelGatesWarningsAtOneAndNotesAtTwoAndNeverErrors) {
+  const std::vector<std::string> outlines = {
+      "call call\n  error error\n",
+      "call call\n  error error\n  warning warning\n",
+      "call call\n  error error\n  warning warning\n  note note\n",
+  };
+  for (short level = 0; level <= 2; ++level) {
+    Diagnostics diagnostics;
+    diagnostics.setLevel(level);
+    EXPECT_EQ(diagnostics.level(), level);
+    EXPECT_EQ(diagnostics.wantsWarnings(), level >= 1);
+    EXPECT_EQ(diagnostics.wantsNotes(), level >= 2);
+    {
+      const ZvFuncTrace trace(diagnostics, "call");
+      diagnostics.postError("error");
+      diagnostics.postWarning("warning");
+      diagnostics.postNote("note");
+    }
+    EXPECT_EQ(outline(diagnostics.root()), outlines.at(static_cast<std::size_t>(level)));
+    EXPECT_EQ(diagnostics.lastError(), "error");
   }
-  EXPECT_EQ(outline(diagnostics.root()), GetParam().outline);
-  EXPECT_EQ(diagnostics.lastError(), "error");
 }
-
-INSTANTIATE_TEST_SUITE_P(Levels, DiagnosticsLevel,
-                         testing::Values(Level{0, "call call\n  error error\n"},
-                                         Level{1, "call call\n  error error\n  warning warning\n"},
-                                         Level{2,
-                                               "call call\n  error error\n  warning warning\n"
-                                               "  note note\n"}));
 
 TEST(Diagnostics, WarningAloneKeepsItsCallAndIsNoError) {
   Diagnostics diagnostics;
