@@ -1,0 +1,192 @@
+#include "call.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <limits>
+
+#include "encoding.h"
+#include "failure.h"
+#include "numbers.h"
+#include "suggestions.h"
+
+namespace calvex::cli {
+
+namespace {
+
+Value parseValue(std::string_view word, ValueType type) {
+  switch (type) {
+    case ValueType::real:
+      return parseNumber(word);
+    case ValueType::shortInteger:
+      return static_cast<short>(parseWholeNumber(word, std::numeric_limits<short>::min(),
+                                                 std::numeric_limits<short>::max()));
+    case ValueType::longInteger:
+      return parseWholeNumber(word, std::numeric_limits<int>::min(),
+                              std::numeric_limits<int>::max());
+    case ValueType::text:
+      if (std::optional<std::string> text = toWindows1252(word)) return *std::move(text);
+      throw UsageError(fmt::format("{} has characters that the engine's texts (Windows-1252) lack",
+                                   inQuotes(word)));
+    case ValueType::array:
+      break;
+  }
+  return {};
+}
+
+Value parseArgument(const Member& member, const Parameter& parameter, std::string_view word,
+                    const UserUnits& units) {
+  try {
+    return parseValue(word, parameter.type);
+  } catch (const UsageError& error) {
+    if (member.isProperty) {
+      throw UsageError(fmt::format("{}: {}", member.name, error.what()));
+    }
+    throw UsageError(fmt::format("{} of {}: {}; {} takes {}", parameter.name, member.name,
+                                 error.what(), member.name, describeInputs(member, units)));
+  }
+}
+
+// The last error is that of an earlier call when this one failed without a word. It is this call's
+// when it changed, or when the newest entry of the trace bears this call's name.
+bool isOwnReason(Client& client, const Call& call, const std::string& before) {
+  const Diagnostics& diagnostics = client.engine().diagnostics();
+  if (!diagnostics.tracing()) return false;
+  if (diagnostics.lastError() != before) return true;
+  const ZvFunctionCall* newest = diagnostics.root().firstChild();
+  while (newest != nullptr && newest->nextSibling() != nullptr) newest = newest->nextSibling();
+  if (newest == nullptr || !newest->contains(ZvFunctionCall::Kind::error)) return false;
+  return newest->text() == call.member->name ||
+         (call.isPut && newest->text() == fmt::format("Set{}", call.member->name));
+}
+
+}  // namespace
+
+const Member& memberNamed(std::string_view name) {
+  if (const Member* member = findMember(name)) return *member;
+  std::vector<std::string> names;
+  for (const Member& member : memberTable()) names.emplace_back(member.name);
+  const std::string suggestion = didYouMean(name, names);
+  throw UsageError(fmt::format("there is no member {}{}", inQuotes(name),
+                               suggestion.empty() ? "; calvex members lists them" : suggestion));
+}
+
+std::vector<const Parameter*> inputs(const Member& member) {
+  std::vector<const Parameter*> found;
+  for (const Parameter& parameter : member.parameters()) {
+    if (parameter.isInput() && parameter.type != ValueType::array) found.push_back(&parameter);
+  }
+  return found;
+}
+
+std::vector<const Parameter*> outputs(const Member& member) {
+  std::vector<const Parameter*> found;
+  for (const Parameter& parameter : member.parameters()) {
+    if (parameter.isOutput()) found.push_back(&parameter);
+  }
+  return found;
+}
+
+std::string_view outputName(const Member& member, const Parameter& parameter) {
+  return member.isProperty || member.style == ReturnStyle::value ? "value" : parameter.name;
+}
+
+std::string_view meaning(const Parameter& parameter) {
+  if (parameter.hasUnit()) return row(UnitGroup(parameter.group)).displayName;
+  switch (parameter.type) {
+    case ValueType::real:
+      return "number";
+    case ValueType::shortInteger:
+    case ValueType::longInteger:
+      return "whole number";
+    case ValueType::text:
+      return "text";
+    case ValueType::array:
+      return "array";
+  }
+  return {};
+}
+
+std::string describeInputs(const Member& member, const UserUnits& units) {
+  std::vector<std::string> descriptions;
+  for (const Parameter* parameter : inputs(member)) {
+    const std::string unit = currentUnit(units, parameter->group);
+    descriptions.push_back(fmt::format("{} ({}{}{})", parameter->name, meaning(*parameter),
+                                       unit.empty() ? "" : ", ", unit));
+  }
+  return fmt::format("{}", fmt::join(descriptions, ", "));
+}
+
+Call prepare(const Member& member, std::span<const std::string> words, const UserUnits& units) {
+  Call call{&member, member.isProperty && !words.empty(), {}};
+  if (call.isPut && member.put == nullptr) {
+    throw UsageError(fmt::format("{} can only be read, so it takes no argument", member.name));
+  }
+  std::vector<const Parameter*> wanted = inputs(member);
+  if (call.isPut) wanted = {&member.parameters().front()};
+  if (words.size() != wanted.size()) {
+    const std::size_t count = wanted.size();
+    throw UsageError(fmt::format(
+        "{} takes {}{}{}, but {} given", member.name,
+        count == 0   ? "no arguments"
+        : count == 1 ? member.isProperty ? "one new value" : "one argument"
+                     : fmt::format("{} arguments", count),
+        count == 0 || member.isProperty ? "" : ": ",
+        member.isProperty ? "" : describeInputs(member, units),
+        words.size() == 1 ? "1 was" : fmt::format("{} were", words.size())));
+  }
+  call.arguments.resize(member.parameters().size());
+  for (std::size_t i = 0; i < words.size(); ++i) {
+    const auto place = static_cast<std::size_t>(wanted[i] - member.parameters().data());
+    call.arguments[place] = parseArgument(member, *wanted[i], words[i], units);
+  }
+  return call;
+}
+
+Outcome perform(Client& client, Call call) {
+  ZvCalvex& object = client.object();
+  const std::string before = client.engine().LastError();
+  const ZvCalvex::Result result = call.isPut ? object.put(*call.member, call.arguments)
+                                             : object.invoke(*call.member, call.arguments);
+  Outcome outcome{std::move(call), result, {}, false, true};
+  if (!outcome.succeeded()) {
+    outcome.lastError = toUtf8(client.engine().LastError());
+    outcome.tracing = client.engine().diagnostics().tracing();
+    outcome.reasonRecorded = isOwnReason(client, outcome.call, before);
+  }
+  return outcome;
+}
+
+std::string failureText(const Outcome& outcome) {
+  const std::string_view name = outcome.call.member->name;
+  if (!outcome.tracing) {
+    return fmt::format("{} failed; tracing is off, so no reason was recorded "
+                       "(FunctionCallTracing 1 turns it on)", name);
+  }
+  if (!outcome.reasonRecorded) return fmt::format("{} failed and gave no reason", name);
+  return fmt::format("{} failed: {}", name, outcome.lastError);
+}
+
+std::string unitHint(const Call& call) {
+  std::optional<UnitGroup> group;
+  const std::span<const Parameter> parameters = call.member->parameters();
+  try {
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+      const std::string_view name = parameters[i].name;
+      const auto* const text = std::get_if<std::string>(&call.arguments[i]);
+      const auto* const index = std::get_if<short>(&call.arguments[i]);
+      if (text != nullptr && (name == "groupStr" || name == "strGroup")) {
+        group = findGroup(toUtf8(*text));
+      } else if (index != nullptr && name == "nGroupID" && isUnitGroup(*index)) {
+        group = UnitGroup(*index);
+      } else if (text != nullptr && group && parameters[i].isInput()) {
+        static_cast<void>(findUnit(*group, toUtf8(*text)));
+      }
+    }
+  } catch (const UsageError& error) {
+    return error.what();
+  }
+  return {};
+}
+
+}  // namespace calvex::cli

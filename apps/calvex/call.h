@@ -1,0 +1,63 @@
+/// \file
+/// One call of a member: from words to arguments, and what came of it.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "client.h"
+
+namespace calvex::cli {
+
+/// A member with its arguments, ready to run.
+struct Call {
+  const Member* member;
+  bool isPut;
+  std::vector<Value> arguments;  ///< one for each parameter
+};
+
+/// What a call answered.
+struct Outcome {
+  Call call;  ///< outputs are written into the arguments
+  ZvCalvex::Result result;
+  std::string lastError;        ///< UTF-8
+  bool reasonRecorded = false;  ///< lastError is this call's
+  bool tracing = true;
+
+  [[nodiscard]] bool succeeded() const noexcept { return result.success != 0; }
+};
+
+/// Throws UsageError with the nearest names.
+[[nodiscard]] const Member& memberNamed(std::string_view name);
+
+/// Parameters for which a caller gives a word: all inputs but arrays, which members fill.
+[[nodiscard]] std::vector<const Parameter*> inputs(const Member& member);
+[[nodiscard]] std::vector<const Parameter*> outputs(const Member& member);
+
+/// How a parameter is told from others in text and JSON: its name, or "value" for the one value of
+/// a setting or of a member that answers its value.
+[[nodiscard]] std::string_view outputName(const Member& member, const Parameter& parameter);
+
+/// The quantity, or what kind of value it is: "Pressure", "text".
+[[nodiscard]] std::string_view meaning(const Parameter& parameter);
+
+/// "P (Pressure, MPa), T (Temperature, K)".
+[[nodiscard]] std::string describeInputs(const Member& member, const UserUnits& units);
+
+/// A setting takes no word (get) or one (put), every other member one word for each input. Throws
+/// UsageError saying what was expected.
+[[nodiscard]] Call prepare(const Member& member, std::span<const std::string> words,
+                           const UserUnits& units);
+
+[[nodiscard]] Outcome perform(Client& client, Call call);
+
+/// "HPT failed: ..." with the reason as far as it is known.
+[[nodiscard]] std::string failureText(const Outcome& outcome);
+
+/// For a call that names a unit group and units of it: what is wrong with the names, with the
+/// nearest ones; empty when nothing is.
+[[nodiscard]] std::string unitHint(const Call& call);
+
+}  // namespace calvex::cli

@@ -1,0 +1,117 @@
+#include "client.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+
+#include "call.h"
+#include "encoding.h"
+#include "failure.h"
+#include "suggestions.h"
+
+namespace calvex::cli {
+
+namespace {
+
+// An option that takes one text and may be given again.
+void addRepeatable(CLI::App& app, const char* name, std::vector<std::string>& target,
+                   const char* form, const char* meaning) {
+  app.add_option(name, target, meaning)->allow_extra_args(false)->type_name(form);
+}
+
+struct Assignment {
+  std::string name, value;
+};
+
+Assignment split(const std::string& text, std::string_view form) {
+  const std::size_t sign = text.find('=');
+  if (sign == std::string::npos || sign == 0) {
+    throw UsageError(fmt::format("{} should read {}", inQuotes(text), form));
+  }
+  return {text.substr(0, sign), text.substr(sign + 1)};
+}
+
+void runOrFail(Client& client, Call call) {
+  const Outcome outcome = perform(client, std::move(call));
+  if (!outcome.succeeded()) throw Failure(ExitStatus::callFailed, failureText(outcome));
+}
+
+}  // namespace
+
+void ClientOptions::addUnitsTo(CLI::App& app) {
+  addRepeatable(app, "-u,--unit", units, "GROUP=UNIT",
+                "Unit for a quantity, such as T=C or Pressure=bara; may be repeated");
+}
+
+void ClientOptions::addSettingsTo(CLI::App& app) {
+  addRepeatable(app, "-s,--set", settings, "SETTING=VALUE",
+                "Setting of the engine, such as SatPolish=0; may be repeated");
+}
+
+void ClientOptions::addOutputTo(CLI::App& app) {
+  app.add_flag("--trace", trace, "Print the tree of traced calls and their messages afterwards");
+  app.add_flag("--json", json, "Print JSON, one object a call");
+}
+
+void ClientOptions::applyTo(Client& client) const {
+  for (const std::string& setting : settings) {
+    const Assignment assignment = split(setting, "SETTING=VALUE, such as SatPolish=0");
+    const Member* member = findMember(assignment.name);
+    if (member == nullptr || !member->isProperty) {
+      std::vector<std::string> names;
+      for (const Member& candidate : memberTable()) {
+        if (candidate.put != nullptr) names.emplace_back(candidate.name);
+      }
+      throw UsageError(fmt::format("{} is not a setting{}\nSettings: {}", inQuotes(assignment.name),
+                                   didYouMean(assignment.name, names), fmt::join(names, ", ")));
+    }
+    const std::string words[] = {assignment.value};
+    runOrFail(client, prepare(*member, words, client.units()));
+  }
+  for (const std::string& choice : units) {
+    const Assignment assignment = split(choice, "GROUP=UNIT, such as T=C");
+    const ZvUomLiteKeyword& unit = findUnit(findGroup(assignment.name), assignment.value);
+    const std::string words[] = {assignment.name, toUtf8(unit.name)};
+    runOrFail(client, prepare(*findMember("SetUserUnit"), words, client.units()));
+  }
+}
+
+const UnitGroupRow& row(UnitGroup group) {
+  return unitGroupTable()[static_cast<std::size_t>(group)];
+}
+
+UnitGroup findGroup(std::string_view keyword) {
+  std::vector<std::string> keywords;
+  std::vector<std::string_view> firsts;
+  for (int group = 0; group < unitGroupCount; ++group) {
+    for (const std::string_view candidate : row(UnitGroup(group)).keywords) {
+      if (candidate == keyword) return UnitGroup(group);
+      keywords.emplace_back(candidate);
+    }
+    firsts.push_back(row(UnitGroup(group)).keywords.front());
+  }
+  throw UsageError(fmt::format("{} is not a unit group{}\nGroups: {} (calvex units explains them)",
+                               inQuotes(keyword), didYouMean(keyword, keywords),
+                               fmt::join(firsts, ", ")));
+}
+
+const ZvUomLiteKeyword& findUnit(UnitGroup group, std::string_view unit) {
+  const std::optional<std::string> name = toWindows1252(unit);
+  std::vector<std::string> names;
+  for (const ZvUomLiteKeyword& candidate : row(group).units) {
+    if (candidate.name == name) return candidate;
+    names.push_back(toUtf8(candidate.name));
+  }
+  throw UsageError(fmt::format("{} is not a unit of {}{}\nUnits: {}", inQuotes(unit),
+                               row(group).displayName, didYouMean(unit, names),
+                               fmt::join(names, ", ")));
+}
+
+std::string currentUnit(const UserUnits& units, int group) {
+  std::string name;
+  short status = 0;
+  return units.getUserUnit(group, name, status) ? toUtf8(name) : std::string();
+}
+
+}  // namespace calvex::cli

@@ -1,0 +1,59 @@
+/// \file
+/// What every command has: the engine's client object, and the options that choose its units and
+/// settings.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <iosfwd>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "server/zv_calvex.h"
+
+namespace calvex::cli {
+
+/// One client object of a module of its own.
+class Client {
+ public:
+  Client() { reset(); }
+
+  /// Releases the object and makes a new one: settings and trace go back to their defaults.
+  void reset() {
+    object_.reset();
+    object_ = std::make_unique<ZvCalvex>(module_);
+  }
+  [[nodiscard]] ZvCalvex& object() { return *object_; }
+  [[nodiscard]] ZvThermoInt& engine() { return module_.engine(); }
+  [[nodiscard]] const UserUnits& units() { return module_.engine().units(); }
+
+ private:
+  Module module_;
+  std::unique_ptr<ZvCalvex> object_;
+};
+
+/// -u, -s, --trace and --json.
+struct ClientOptions {
+  std::vector<std::string> units;     ///< GROUP=UNIT
+  std::vector<std::string> settings;  ///< SETTING=VALUE
+  bool trace = false;
+  bool json = false;
+
+  void addUnitsTo(CLI::App& app);
+  void addSettingsTo(CLI::App& app);
+  void addOutputTo(CLI::App& app);
+  /// Settings first, then units. Throws Failure.
+  void applyTo(Client& client) const;
+};
+
+/// The catalogue's group of a keyword; throws UsageError with the nearest keywords.
+[[nodiscard]] UnitGroup findGroup(std::string_view keyword);
+/// The unit of a group by its name in UTF-8; throws UsageError with the nearest names and the list.
+[[nodiscard]] const ZvUomLiteKeyword& findUnit(UnitGroup group, std::string_view unit);
+
+[[nodiscard]] const UnitGroupRow& row(UnitGroup group);
+/// The unit that the client uses for a group, in UTF-8; empty for group -1.
+[[nodiscard]] std::string currentUnit(const UserUnits& units, int group);
+
+}  // namespace calvex::cli

@@ -1,0 +1,204 @@
+#include "command_line.h"
+
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+
+#include <algorithm>
+#include <array>
+#include <iostream>
+
+#include "call.h"
+#include "encoding.h"
+#include "suggestions.h"
+
+namespace calvex::cli {
+
+namespace {
+
+ExitStatus helpCommand(Words words, Console& console);
+ExitStatus versionCommand(Words words, Console& console);
+
+struct Command {
+  std::string_view name;
+  std::string_view form;
+  std::string_view summary;
+  ExitStatus (*run)(Words words, Console& console);
+};
+
+constexpr std::array<Command, 7> commands = {{
+    {"members", "members [PATTERN]", "List members, or explain one", membersCommand},
+    {"units", "units [GROUP]", "List quantities, or the units of one", unitsCommand},
+    {"convert", "convert GROUP VALUE FROM TO", "Convert a value between units", convertCommand},
+    {"table", "table saturation|isobar", "Print a table over a range", tableCommand},
+    {"run", "run [FILE|-]", "Run a script, one call a line", runCommand},
+    {"help", "help [COMMAND|MEMBER]", "Explain a command or a member", helpCommand},
+    {"version", "version", "Print the version", versionCommand},
+}};
+
+const Command* findCommand(std::string_view name) {
+  const auto* const found = std::ranges::find(commands, name, &Command::name);
+  return found == commands.end() ? nullptr : found;
+}
+
+std::string generalHelp() {
+  std::string text =
+      "Properties of water and steam, in any unit.\n"
+      "\n"
+      "usage: calvex MEMBER ARGUMENT... [-u GROUP=UNIT] [-s SETTING=VALUE] [--trace] [--json]\n"
+      "       calvex COMMAND ...\n"
+      "\n"
+      "A member's name says what it answers and what it takes: HPT is the enthalpy H from the\n"
+      "pressure P and the temperature T; TPS the temperature from pressure and entropy. Pressures\n"
+      "are in MPa and temperatures in K until -u chooses other units.\n"
+      "\n"
+      "Examples:\n"
+      "  calvex HPT 10 773.15                     enthalpy of steam at 10 MPa and 773.15 K\n"
+      "  calvex TSatP 1 -u P=atm -u T=C           boiling point at one atmosphere, in Celsius\n"
+      "  calvex convert P 100 psia bara           100 psia in bara\n"
+      "\n"
+      "Commands:\n";
+  for (const Command& command : commands) {
+    text += fmt::format("  {:<28}  {}\n", command.form, command.summary);
+  }
+  text +=
+      "\n"
+      "'calvex help COMMAND' or 'calvex COMMAND --help' tells more.\n"
+      "Exit status: 0 success, 1 a call failed (the reason is on standard error), 2 usage.\n";
+  return text;
+}
+
+ExitStatus helpCommand(Words words, Console& console) {
+  if (words.empty() || words.front().starts_with('-')) {
+    console.out << generalHelp();
+    return ExitStatus::ok;
+  }
+  if (const Command* command = findCommand(words.front())) {
+    if (command->run == helpCommand || command->run == versionCommand) {
+      fmt::print(console.out, "{}\nusage: calvex {}\n", command->summary, command->form);
+      return ExitStatus::ok;
+    }
+    return command->run({"--help"}, console);
+  }
+  return membersCommand({std::string(memberNamed(words.front()).name)}, console);
+}
+
+ExitStatus versionCommand(Words /*words*/, Console& console) {
+  Client client;
+  fmt::print(console.out, "calvex {}\n", client.engine().VersionStr());
+  return ExitStatus::ok;
+}
+
+// Options may stand before the command or member; this finds the first word that is neither an
+// option nor the value of one.
+std::size_t firstWord(const Words& words) {
+  std::size_t i = 0;
+  for (; i < words.size() && words[i].starts_with('-'); ++i) {
+    const bool takesValue =
+        words[i] == "-u" || words[i] == "-s" || words[i] == "--unit" || words[i] == "--set";
+    if (takesValue) ++i;
+  }
+  return std::min(i, words.size());
+}
+
+ExitStatus dispatch(Words words, Console& console) {
+  const auto first = words.begin() + static_cast<std::ptrdiff_t>(firstWord(words));
+  if (first == words.end()) {
+    const auto asks = [&](const char* option) {
+      return std::ranges::find(words, option) != words.end();
+    };
+    if (asks("-h") || asks("--help")) return helpCommand({}, console);
+    if (asks("--version")) return versionCommand({}, console);
+    throw UsageError("what is to be computed? For example: calvex HPT 10 773.15\n"
+                     "'calvex --help' explains members, commands and options");
+  }
+  std::rotate(words.begin(), first, first + 1);
+  if (const Command* command = findCommand(words.front())) {
+    words.erase(words.begin());
+    return command->run(words, console);
+  }
+  if (findMember(words.front()) == nullptr) {
+    Words names;
+    for (const Member& member : memberTable()) names.emplace_back(member.name);
+    for (const Command& command : commands) names.emplace_back(command.name);
+    const std::string suggestion = didYouMean(words.front(), names);
+    throw UsageError(fmt::format(
+        "there is no member or command {}{}", inQuotes(words.front()),
+        suggestion.empty() ? "\n'calvex members' lists the members, 'calvex --help' the commands"
+                           : suggestion));
+  }
+  return callCommand(words, console);
+}
+
+}  // namespace
+
+ExitStatus runCommandLine(Words words, Console& console) {
+  ExitStatus status = ExitStatus::ok;
+  try {
+    status = dispatch(std::move(words), console);
+  } catch (const Failure& failure) {
+    fmt::print(console.err, "calvex: {}\n", failure.what());
+    status = failure.status();
+  } catch (const std::exception& failure) {
+    fmt::print(console.err, "calvex: {}\n", failure.what());
+    status = ExitStatus::callFailed;
+  }
+  if (!console.out.flush()) {
+    fmt::print(console.err, "calvex: the output cannot be written\n");
+    return ExitStatus::callFailed;
+  }
+  return status;
+}
+
+CommandOptions::CommandOptions(const std::string& name, const std::string& usage,
+                               const std::string& description)
+    : CLI::App(description, name) {
+  class Formatter : public CLI::Formatter {
+   public:
+    explicit Formatter(const std::string& form) : usage_("usage: calvex " + form + "\n") {
+      column_width(30);
+    }
+    std::string make_usage(const CLI::App* /*app*/, std::string /*name*/) const override {
+      return usage_;
+    }
+
+   private:
+    std::string usage_;
+  };
+  formatter(std::make_shared<Formatter>(usage));
+}
+
+bool parse(CommandOptions& app, const Words& words, Console& console) {
+  try {
+    app.parse(Words(words.rbegin(), words.rend()));
+  } catch (const CLI::CallForHelp&) {
+    console.out << app.help();
+    return false;
+  } catch (const CLI::ParseError& error) {
+    throw UsageError(fmt::format("{}\n'{}' explains it", error.what(), app.helpCommand()));
+  }
+  return true;
+}
+
+bool parseAround(CommandOptions& app, Words& words, Console& console) {
+  const auto mark = std::ranges::find(words, "--");
+  const Words literal(mark == words.end() ? mark : mark + 1, words.end());
+  words.erase(mark, words.end());
+  app.allow_extras();
+  if (!parse(app, words, console)) return false;
+  words = app.remaining();
+  for (const std::string& word : words) {
+    // What begins like a number is one, or refused as one with a better reason (-inf).
+    const std::string letters = lowerCase(word).substr(0, 4);
+    const bool number = word.size() > 1 && std::string_view(".0123456789").find(word[1]) !=
+                                               std::string_view::npos;
+    if (word.starts_with('-') && word.size() > 1 && !number && letters != "-inf" &&
+        letters != "-nan") {
+      throw UsageError(fmt::format("there is no option {}\n'{}' lists them", inQuotes(word),
+                                   app.helpCommand()));
+    }
+  }
+  words.insert(words.end(), literal.begin(), literal.end());
+  return true;
+}
+
+}  // namespace calvex::cli

@@ -1,0 +1,57 @@
+/// \file
+/// The command line as a whole, and what its commands share. All texts are UTF-8.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <iosfwd>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "failure.h"
+
+namespace calvex::cli {
+
+struct Console {
+  std::istream& in;
+  std::ostream& out;
+  std::ostream& err;
+  bool outIsTerminal = false;
+};
+
+using Words = std::vector<std::string>;
+
+/// Runs `calvex words...`. No exception comes out.
+ExitStatus runCommandLine(Words words, Console& console);
+
+// The commands; `words` are those after the command's name. They throw Failure.
+
+/// `words` begin with the member's name.
+ExitStatus callCommand(Words words, Console& console);
+ExitStatus membersCommand(Words words, Console& console);
+ExitStatus unitsCommand(Words words, Console& console);
+ExitStatus convertCommand(Words words, Console& console);
+ExitStatus tableCommand(Words words, Console& console);
+ExitStatus runCommand(Words words, Console& console);
+
+/// The words and options of a command.
+class CommandOptions : public CLI::App {
+ public:
+  /// `usage` is what follows "calvex".
+  CommandOptions(const std::string& name, const std::string& usage, const std::string& description);
+
+  /// What a user types to have the command explained.
+  [[nodiscard]] std::string helpCommand() const {
+    return get_name().empty() ? "calvex --help" : "calvex help " + get_name();
+  }
+};
+
+/// False when help was asked for and printed. Throws UsageError.
+bool parse(CommandOptions& app, const Words& words, Console& console);
+
+/// For commands that take negative numbers: has the options among `words` parsed and leaves the rest
+/// in order. Everything behind "--" is left. Answers and throws as above, UsageError also for an
+/// option that does not exist.
+bool parseAround(CommandOptions& app, Words& words, Console& console);
+
+}  // namespace calvex::cli

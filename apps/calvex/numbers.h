@@ -1,0 +1,22 @@
+/// \file
+/// Numbers as they are typed and printed: always with a decimal point, whatever the locale.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace calvex::cli {
+
+/// Throws UsageError for anything but one finite number.
+[[nodiscard]] double parseNumber(std::string_view word);
+
+/// A whole number within the limits; throws UsageError.
+[[nodiscard]] int parseWholeNumber(std::string_view word, int smallest, int largest);
+
+/// The shortest text that reads back to the same bits; "inf", "-inf", "nan".
+[[nodiscard]] std::string shortestText(double value);
+
+/// For people: ten significant digits, more than the formulation deserves.
+[[nodiscard]] std::string readableText(double value, int digits = 10);
+
+}  // namespace calvex::cli

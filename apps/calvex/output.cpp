@@ -1,0 +1,196 @@
+#include "output.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+
+#include "encoding.h"
+#include "json.h"
+#include "numbers.h"
+
+namespace calvex::cli {
+
+namespace {
+
+std::string cellText(const Cell& cell) {
+  if (const auto* number = std::get_if<double>(&cell)) return readableText(*number);
+  return toUtf8(std::get<std::string>(cell));
+}
+
+std::string valueText(const Value& value) {
+  if (const auto* real = std::get_if<double>(&value)) return readableText(*real);
+  if (const auto* small = std::get_if<short>(&value)) return fmt::format("{}", *small);
+  if (const auto* large = std::get_if<int>(&value)) return fmt::format("{}", *large);
+  if (const auto* text = std::get_if<std::string>(&value)) return toUtf8(*text);
+  return {};
+}
+
+std::string cellJson(const Cell& cell) {
+  if (const auto* number = std::get_if<double>(&cell)) return jsonNumber(*number);
+  return jsonString(cellText(cell));
+}
+
+std::string valueJson(const Value& value) {
+  if (const auto* real = std::get_if<double>(&value)) return jsonNumber(*real);
+  if (std::holds_alternative<std::string>(value)) return jsonString(valueText(value));
+  if (const auto* array = std::get_if<ResultArray>(&value)) {
+    JsonArray rows;
+    for (const auto& cells : *array) {
+      JsonArray row;
+      for (const Cell& cell : cells) row.add(cellJson(cell));
+      rows.add(row.text());
+    }
+    return rows.text();
+  }
+  return valueText(value);
+}
+
+bool isWritten(const Value& value) { return !std::holds_alternative<std::monostate>(value); }
+
+// Calls f(parameter, value) for each output that was written.
+template <class F>
+void forEachOutput(const Outcome& outcome, F f) {
+  if (outcome.call.isPut) return;
+  const std::span<const Parameter> parameters = outcome.call.member->parameters();
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    const Value& value = outcome.call.arguments[i];
+    if (parameters[i].isOutput() && isWritten(value)) f(parameters[i], value);
+  }
+}
+
+std::string_view kindName(ZvFunctionCall::Kind kind) {
+  switch (kind) {
+    case ZvFunctionCall::Kind::error:
+      return "error: ";
+    case ZvFunctionCall::Kind::warning:
+      return "warning: ";
+    case ZvFunctionCall::Kind::note:
+      return "note: ";
+    case ZvFunctionCall::Kind::externalError:
+      return "external error: ";
+    case ZvFunctionCall::Kind::root:
+    case ZvFunctionCall::Kind::call:
+      break;
+  }
+  return "";
+}
+
+std::string columnsText(const ZvFunctionCall& node) {
+  if (node.columnValues().empty()) return {};
+  return toUtf8(fmt::format("  [{}]", fmt::join(node.columnValues(), " | ")));
+}
+
+void appendTrace(std::string& text, const ZvFunctionCall& node, std::size_t depth) {
+  for (const auto* child = node.firstChild(); child != nullptr; child = child->nextSibling()) {
+    text += fmt::format("{:{}}{}{}{}\n", "", 2 * depth, kindName(child->kind()),
+                        toUtf8(child->text()), columnsText(*child));
+    appendTrace(text, *child, depth + 1);
+  }
+}
+
+}  // namespace
+
+std::string aligned(const std::vector<std::vector<std::string>>& rows) {
+  std::vector<std::size_t> widths;
+  for (const auto& cells : rows) {
+    widths.resize(std::max(widths.size(), cells.size()));
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      widths[i] = std::max(widths[i], width(cells[i]));
+    }
+  }
+  std::string text;
+  for (const auto& cells : rows) {
+    std::string line;
+    for (std::size_t i = 0; i < cells.size(); ++i) {
+      line += cells[i];
+      line.append(widths[i] - width(cells[i]) + 2, ' ');
+    }
+    line.erase(line.find_last_not_of(' ') + 1);
+    text += line + '\n';
+  }
+  return text;
+}
+
+std::string indented(std::string_view lines) {
+  std::string text;
+  while (!lines.empty()) {
+    const std::string_view line = lines.substr(0, lines.find('\n'));
+    text += fmt::format("  {}\n", line);
+    lines.remove_prefix(std::min(lines.size(), line.size() + 1));
+  }
+  return text;
+}
+
+std::string outcomeText(const Outcome& outcome, const UserUnits& units) {
+  const Member& member = *outcome.call.member;
+  std::vector<std::vector<std::string>> rows;
+  std::string arrays;
+  forEachOutput(outcome, [&](const Parameter& parameter, const Value& value) {
+    if (const auto* array = std::get_if<ResultArray>(&value)) {
+      std::vector<std::vector<std::string>> cells;
+      for (const auto& row : *array) {
+        std::ranges::transform(row, std::back_inserter(cells.emplace_back()), cellText);
+      }
+      arrays += aligned(cells);
+      return;
+    }
+    const bool named = outputName(member, parameter) == parameter.name;
+    rows.push_back({std::string(named ? parameter.name : member.name), valueText(value),
+                    currentUnit(units, parameter.group)});
+  });
+  const std::string text = aligned(rows) + arrays;
+  return text.empty() && outcome.succeeded() ? "done\n" : text;
+}
+
+std::string outcomeJson(const Outcome& outcome, const UserUnits& units,
+                        const ZvFunctionCall* trace) {
+  const Member& member = *outcome.call.member;
+  JsonObject object;
+  object.add("member", jsonString(member.name));
+  object.add("hresult", fmt::format("{}", static_cast<unsigned>(outcome.result.hresult)));
+  if (member.style == ReturnStyle::success) {
+    object.add("pSucc", fmt::format("{}", outcome.result.success));
+  }
+  JsonObject unitNames;
+  forEachOutput(outcome, [&](const Parameter& parameter, const Value& value) {
+    const std::string_view name = outputName(member, parameter);
+    object.add(name, valueJson(value));
+    if (parameter.hasUnit()) {
+      unitNames.add(name, jsonString(currentUnit(units, parameter.group)));
+    }
+  });
+  if (!unitNames.empty()) object.add("units", unitNames.text());
+  if (!outcome.succeeded()) object.add("lastError", jsonString(outcome.lastError));
+  if (trace != nullptr) object.add("trace", traceJson(*trace));
+  return object.text();
+}
+
+std::string errorJson(std::string_view text) {
+  return JsonObject().add("error", jsonString(text)).text();
+}
+
+std::string traceText(const ZvFunctionCall& root) {
+  std::string text;
+  appendTrace(text, root, 0);
+  return text.empty() ? "trace: no call left a message (TraceLevel 1 records warnings too, 2 also "
+                        "notes)\n"
+                      : text;
+}
+
+std::string traceJson(const ZvFunctionCall& node) {
+  JsonArray columns;
+  for (const std::string& value : node.columnValues()) columns.add(jsonString(toUtf8(value)));
+  JsonArray children;
+  for (const auto* child = node.firstChild(); child != nullptr; child = child->nextSibling()) {
+    children.add(traceJson(*child));
+  }
+  return JsonObject()
+      .add("text", jsonString(toUtf8(node.text())))
+      .add("kind", fmt::format("{}", static_cast<int>(node.kind())))
+      .add("columns", columns.text())
+      .add("children", children.text())
+      .text();
+}
+
+}  // namespace calvex::cli

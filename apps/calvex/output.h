@@ -1,0 +1,33 @@
+/// \file
+/// Outcomes and traces as text and as JSON.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "call.h"
+
+namespace calvex::cli {
+
+/// One line an output: name, value and unit in columns. "done" when there is nothing to show.
+[[nodiscard]] std::string outcomeText(const Outcome& outcome, const UserUnits& units);
+
+/// {"member":"HPT","hresult":0,"pSucc":1,"pH":3373.99804895,"units":{"pH":"kJ/kg"}}; an output that
+/// was not written is absent. A trace that is given is added.
+[[nodiscard]] std::string outcomeJson(const Outcome& outcome, const UserUnits& units,
+                                      const ZvFunctionCall* trace = nullptr);
+
+/// {"error":"..."} for what cannot be run.
+[[nodiscard]] std::string errorJson(std::string_view text);
+
+/// The calls below the root, each with its nested calls and messages.
+[[nodiscard]] std::string traceText(const ZvFunctionCall& root);
+/// {"text":"Root","kind":0,"columns":[],"children":[...]}
+[[nodiscard]] std::string traceJson(const ZvFunctionCall& node);
+
+/// Rows of texts in columns, each line ended.
+[[nodiscard]] std::string aligned(const std::vector<std::vector<std::string>>& rows);
+/// The lines of a text, two blanks to the right.
+[[nodiscard]] std::string indented(std::string_view lines);
+
+}  // namespace calvex::cli

@@ -1,0 +1,34 @@
+/// \file
+/// A progress bar for work that takes long.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <iosfwd>
+
+namespace calvex::cli {
+
+/// Draws nothing during the first second; wipes the bar when it goes.
+class Progress {
+ public:
+  using Clock = std::function<std::chrono::steady_clock::time_point()>;
+
+  /// Nothing is drawn unless `shown`.
+  Progress(std::ostream& err, long total, bool shown,
+           Clock now = std::chrono::steady_clock::now);
+  ~Progress();
+  Progress(const Progress&) = delete;
+  Progress& operator=(const Progress&) = delete;
+
+  void at(long done);
+
+ private:
+  std::ostream& err_;
+  long total_;
+  bool shown_;
+  Clock now_;
+  std::chrono::steady_clock::time_point next_;
+  bool drawn_ = false;
+};
+
+}  // namespace calvex::cli

@@ -1,0 +1,196 @@
+#include "script.h"
+
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+#include <istream>
+#include <ostream>
+
+#include "encoding.h"
+#include "output.h"
+#include "suggestions.h"
+
+namespace calvex::cli {
+
+namespace {
+
+constexpr std::size_t longestLine = 65536;
+
+bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
+// The character of \uXXXX, taken off the text behind the u.
+char32_t takeHexadecimal(std::string_view& text) {
+  char32_t character = 0;
+  if (text.size() < 4) throw UsageError("\\u takes four hexadecimal digits");
+  for (const char c : text.substr(0, 4)) {
+    const std::size_t digit = std::string_view("0123456789abcdef").find(lowerCase({&c, 1}));
+    if (digit == std::string_view::npos) throw UsageError("\\u takes four hexadecimal digits");
+    character = character * 16 + static_cast<char32_t>(digit);
+  }
+  if (character >= 0xD800 && character <= 0xDFFF) {
+    throw UsageError("\\u with half of a surrogate pair");
+  }
+  text.remove_prefix(4);
+  return character;
+}
+
+// The text in quotes at the beginning of the line, which is taken off.
+std::string takeQuoted(std::string_view& line) {
+  constexpr std::string_view letters = "\"\\/bfnrt";
+  constexpr std::string_view meanings = "\"\\/\b\f\n\r\t";
+  std::string word;
+  line.remove_prefix(1);
+  while (!line.empty()) {
+    const char c = line.front();
+    line.remove_prefix(1);
+    if (c == '"') {
+      if (!line.empty() && !isBlank(line.front())) {
+        throw UsageError("a blank is missing after a closing quote");
+      }
+      return word;
+    }
+    if (c != '\\') {
+      word += c;
+      continue;
+    }
+    if (line.empty()) break;
+    const char letter = line.front();
+    line.remove_prefix(1);
+    const std::size_t known = letters.find(letter);
+    if (letter == 'u') {
+      appendUtf8(word, takeHexadecimal(line));
+    } else if (known != std::string_view::npos) {
+      word += meanings[known];
+    } else {
+      throw UsageError(fmt::format("unknown escape; known are \\{}",
+                                   fmt::join(std::string_view("\"\\/bfnrt"), " \\")) +
+                       " \\uXXXX");
+    }
+  }
+  throw UsageError("a closing quote is missing");
+}
+
+std::string takeWord(std::string_view& line) {
+  const std::size_t length =
+      std::min(line.size(), static_cast<std::size_t>(std::ranges::find_if(line, isBlank) -
+                                                     line.begin()));
+  const std::string_view word = line.substr(0, length);
+  if (word.find('"') != std::string_view::npos) {
+    throw UsageError(fmt::format("{}: a quote inside a word; quotes stand around the whole text",
+                                 inQuotes(word)));
+  }
+  line.remove_prefix(length);
+  return std::string(word);
+}
+
+// False at the end. Of a line that is too long only the beginning is kept, one byte more than
+// allowed.
+bool readLine(std::istream& in, std::string& line) {
+  line.clear();
+  std::streambuf& buffer = *in.rdbuf();
+  constexpr int end = std::char_traits<char>::eof();
+  int c = buffer.sbumpc();
+  if (c == end) return false;
+  for (; c != end && c != '\n'; c = buffer.sbumpc()) {
+    if (line.size() <= longestLine) line += static_cast<char>(c);
+  }
+  if (line.ends_with('\r')) line.pop_back();
+  return true;
+}
+
+class Interpreter {
+ public:
+  Interpreter(std::ostream& out, std::ostream& err, const ClientOptions& options)
+      : out_(out), err_(err), options_(options) {
+    options.applyTo(client_);
+  }
+
+  void run(std::string_view line) {
+    ++lineNumber_;
+    if (lineNumber_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.remove_prefix(3);
+    try {
+      if (line.size() > longestLine) {
+        throw UsageError(fmt::format("the line is longer than {} bytes", longestLine));
+      }
+      const std::vector<std::string> words = splitLine(line);
+      if (!words.empty()) run(words);
+    } catch (const UsageError& error) {
+      status_ = ExitStatus::usage;
+      if (options_.json) fmt::print(out_, "{}\n", errorJson(error.what()));
+      report(error.what());
+    }
+  }
+
+  void printTrace() {
+    const ZvFunctionCall& root = client_.engine().diagnostics().root();
+    out_ << (options_.json ? traceJson(root) + '\n' : "trace\n" + indented(traceText(root)));
+  }
+
+  [[nodiscard]] ExitStatus status() const noexcept { return status_; }
+
+ private:
+  void run(const std::vector<std::string>& words) {
+    const std::string& name = words.front();
+    const auto arguments = std::span(words).subspan(1);
+    if (name == "trace" || name == "reset") {
+      if (!arguments.empty()) throw UsageError(fmt::format("{} takes no arguments", name));
+      if (name == "trace") {
+        printTrace();
+      } else {
+        client_.reset();
+        if (options_.json) out_ << "{\"member\":\"reset\",\"hresult\":0}\n";
+      }
+      return;
+    }
+    const Outcome outcome =
+        perform(client_, prepare(memberNamed(name), arguments, client_.units()));
+    if (options_.json) {
+      fmt::print(out_, "{}\n", outcomeJson(outcome, client_.units()));
+    } else {
+      out_ << fmt::format("{}\n", fmt::join(words, " "))
+           << indented(outcomeText(outcome, client_.units()));
+    }
+    if (!outcome.succeeded()) {
+      if (status_ == ExitStatus::ok) status_ = ExitStatus::callFailed;
+      report(failureText(outcome));
+    }
+  }
+
+  void report(std::string_view text) {
+    fmt::print(err_, "calvex: line {}: {}\n", lineNumber_, text);
+  }
+
+  std::ostream& out_;
+  std::ostream& err_;
+  const ClientOptions& options_;
+  Client client_;
+  int lineNumber_ = 0;
+  ExitStatus status_ = ExitStatus::ok;
+};
+
+}  // namespace
+
+std::vector<std::string> splitLine(std::string_view line) {
+  std::vector<std::string> words;
+  for (;;) {
+    while (!line.empty() && isBlank(line.front())) line.remove_prefix(1);
+    if (line.empty() || line.front() == '#') return words;
+    words.push_back(line.front() == '"' ? takeQuoted(line) : takeWord(line));
+  }
+}
+
+ExitStatus runScript(std::istream& in, std::ostream& out, std::ostream& err,
+                     const ClientOptions& options) {
+  Interpreter interpreter(out, err, options);
+  std::string line;
+  while (out && readLine(in, line)) {
+    interpreter.run(line);
+    if (in.rdbuf()->in_avail() <= 0) out.flush();
+  }
+  if (options.trace) interpreter.printTrace();
+  return interpreter.status();
+}
+
+}  // namespace calvex::cli

@@ -1,0 +1,72 @@
+#include "suggestions.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+
+namespace calvex::cli {
+
+std::string lowerCase(std::string_view text) {
+  std::string lower(text);
+  for (char& c : lower) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return lower;
+}
+
+// Optimal string alignment; three rows of the table are alive at a time.
+std::size_t editDistance(std::string_view a, std::string_view b) {
+  const std::string from = lowerCase(a);
+  const std::string to = lowerCase(b);
+  std::vector<std::size_t> beforeLast(to.size() + 1), last(to.size() + 1), row(to.size() + 1);
+  for (std::size_t j = 0; j <= to.size(); ++j) last[j] = j;
+  for (std::size_t i = 1; i <= from.size(); ++i) {
+    row[0] = i;
+    for (std::size_t j = 1; j <= to.size(); ++j) {
+      const std::size_t replaced = last[j - 1] + (from[i - 1] == to[j - 1] ? 0 : 1);
+      row[j] = std::min({last[j] + 1, row[j - 1] + 1, replaced});
+      if (i > 1 && j > 1 && from[i - 1] == to[j - 2] && from[i - 2] == to[j - 1]) {
+        row[j] = std::min(row[j], beforeLast[j - 2] + 1);
+      }
+    }
+    std::swap(beforeLast, last);
+    std::swap(last, row);
+  }
+  return last[to.size()];
+}
+
+std::vector<std::string> nearest(std::string_view word, const std::vector<std::string>& names) {
+  constexpr std::size_t longest = 64;  // no name is as long
+  constexpr std::size_t most = 4;
+  if (word.empty() || word.size() > longest) return {};
+  struct Candidate {
+    std::size_t distance;
+    const std::string* name;
+  };
+  std::vector<Candidate> candidates;
+  for (const std::string& name : names) {
+    const bool abbreviated = word.size() > 1 && lowerCase(name).starts_with(lowerCase(word));
+    const std::size_t distance = abbreviated ? 1 : editDistance(word, name);
+    // Half of a name may not be rewritten, or everything short would be near.
+    if (2 * distance <= std::max(word.size(), name.size()) && distance <= 3) {
+      candidates.push_back({distance, &name});
+    }
+  }
+  std::ranges::stable_sort(candidates, {}, &Candidate::distance);
+  // A name one step away leaves no room for those further off.
+  std::vector<std::string> found;
+  for (const Candidate& candidate : candidates) {
+    if (found.size() == most || candidate.distance > candidates.front().distance + 1) break;
+    if (std::ranges::find(found, *candidate.name) == found.end()) found.push_back(*candidate.name);
+  }
+  return found;
+}
+
+std::string didYouMean(std::string_view word, const std::vector<std::string>& names) {
+  const std::vector<std::string> found = nearest(word, names);
+  if (found.empty()) return {};
+  return fmt::format("; did you mean {}?", fmt::join(found, " or "));
+}
+
+}  // namespace calvex::cli

@@ -1,0 +1,67 @@
+// calvex units [GROUP]
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+#include <fmt/ranges.h>
+
+#include <ostream>
+
+#include "command_line.h"
+#include "encoding.h"
+#include "numbers.h"
+#include "output.h"
+#include "suggestions.h"
+
+namespace calvex::cli {
+
+namespace {
+
+using Rows = std::vector<std::vector<std::string>>;
+
+std::string quotedIfSpaced(std::string_view keyword) {
+  return keyword.find(' ') == std::string_view::npos ? std::string(keyword)
+                                                     : fmt::format("\"{}\"", keyword);
+}
+
+std::string listGroups() {
+  Rows rows = {{"no.", "quantity", "default unit", "selected by"}};
+  for (int group = 0; group < unitGroupCount; ++group) {
+    const UnitGroupRow& fixed = row(UnitGroup(group));
+    // Every word stands in the catalogue twice, the second time in small letters.
+    std::vector<std::string> keywords;
+    for (const std::string_view keyword : fixed.keywords) {
+      if (keyword != lowerCase(keyword)) keywords.push_back(quotedIfSpaced(keyword));
+    }
+    rows.push_back({fmt::format("{:3}", group), std::string(fixed.displayName),
+                    toUtf8(fixed.internalUnit), fmt::format("{}", fmt::join(keywords, ", "))});
+  }
+  return aligned(rows) + "\nThe words may also be written in small letters.\n";
+}
+
+std::string listUnits(UnitGroup group) {
+  const UnitGroupRow& fixed = row(group);
+  Rows rows = {{"unit", "factor", "offset"}};
+  for (const ZvUomLiteKeyword& unit : fixed.units) {
+    rows.push_back({toUtf8(unit.name), readableText(unit.factor, 15), readableText(unit.offset, 15)});
+  }
+  return fmt::format("{}; default unit {}\n\n{}\nvalue in {} = (value + offset) x factor\n",
+                     fixed.displayName, toUtf8(fixed.internalUnit), indented(aligned(rows)),
+                     toUtf8(fixed.referenceUnit));
+}
+
+}  // namespace
+
+ExitStatus unitsCommand(Words words, Console& console) {
+  CommandOptions app("units", "units [GROUP]",
+                     "Lists the quantities that have a unit, or the units of one quantity.");
+  app.footer("Examples:\n"
+             "  calvex units\n"
+             "  calvex units Pressure");
+  std::string keyword;
+  app.add_option("GROUP", keyword, "A word that selects the quantity, such as P or Pressure")
+      ->type_name("");
+  if (!parse(app, words, console)) return ExitStatus::ok;
+  console.out << (keyword.empty() ? listGroups() : listUnits(findGroup(keyword)));
+  return ExitStatus::ok;
+}
+
+}  // namespace calvex::cli
