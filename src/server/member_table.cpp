@@ -7,6 +7,9 @@
 #include <unordered_map>
 
 #include "engine/thermo_engine.h"
+#include "equipment/auxiliaries.h"
+#include "equipment/polynomial.h"
+#include "equipment/turbines_compressors.h"
 #include "server/operation.h"
 
 namespace calvex {
@@ -16,6 +19,7 @@ namespace {
 using Engine = ZvThermoInt;
 using detail::action;
 using detail::method;
+using detail::model;
 using detail::setting;
 using detail::value;
 
@@ -172,6 +176,41 @@ constexpr Member members[] = {
     method<&Engine::BPT>(0x87, "BPT", "pB:19 P:1 T:0"),
     method<&Engine::LPT>(0x88, "LPT", "pL:20 P:1 T:0"),
     method<&Engine::XT>(0x89, "XT", "pX:15 T:0"),
+    model<&TurbineA>(0x8a, "TurbineA",
+                     "pPower:22 pTOut:0 pHOut:5 pQOut:7 HIn:5 PIn:1 POut:1 Eff:11 MIn:9"),
+    model<&TurbineB>(0x8b, "TurbineB",
+                     "pMIn:9 pTOut:0 pHOut:5 pQOut:7 HIn:5 PIn:1 POut:1 Eff:11 Power:22"),
+    model<&TurbineA2>(0x8c, "TurbineA2",
+                      "pPower:22 pTOut1:0 pTOut2:0 pHOut1:5 pHOut2:5 pQOut1:7 pQOut2:7 HIn:5 PIn:1 "
+                      "POut1:1 POut2:1 Eff1:11 Eff2:11 MIn:9 MOut1:9"),
+    model<&TurbineB2>(0x8d, "TurbineB2",
+                      "pMOut2:9 pTOut1:0 pTOut2:0 pHOut1:5 pHOut2:5 pQOut1:7 pQOut2:7 HIn:5 PIn:1 "
+                      "POut1:1 POut2:1 Eff1:11 Eff2:11 Power:22 MOut1:9"),
+    model<&TurbineA3>(0x8e, "TurbineA3",
+                      "pPower:22 pTOut1:0 pTOut2:0 pTOut3:0 pHOut1:5 pHOut2:5 pHOut3:5 pQOut1:7 "
+                      "pQOut2:7 pQOut3:7 HIn:5 PIn:1 POut1:1 POut2:1 POut3:1 Eff1:11 Eff2:11 "
+                      "Eff3:11 MIn:9 MOut1:9 MOut2:9"),
+    model<&TurbineB3>(
+        0x8f, "TurbineB3",
+        "pMOut3:9 pTOut1:0 pTOut2:0 pTOut3:0 pHOut1:5 pHOut2:5 pHOut3:5 pQOut1:7 pQOut2:7 pQOut3:7 "
+        "HIn:5 PIn:1 POut1:1 POut2:1 POut3:1 Eff1:11 Eff2:11 Eff3:11 Power:22 MOut1:9 MOut2:9"),
+    model<&CompressorA>(0x90, "CompressorA",
+                        "pPower:22 pTOut:0 pHOut:5 pQOut:7 HIn:5 PIn:1 POut:1 Eff:11 MIn:9"),
+    model<&CompressorB>(0x91, "CompressorB",
+                        "pMIn:9 pTOut:0 pHOut:5 pQOut:7 HIn:5 PIn:1 POut:1 Eff:11 Power:22"),
+    model<&CompressorA2>(0x92, "CompressorA2",
+                         "pPower:22 pTOut1:0 pTOut2:0 pHOut1:5 pHOut2:5 pQOut1:7 pQOut2:7 HIn:5 "
+                         "PIn:1 POut1:1 POut2:1 Eff1:11 Eff2:11 MIn:9 MOut1:9"),
+    model<&CompressorB2>(0x93, "CompressorB2",
+                         "pMOut2:9 pTOut1:0 pTOut2:0 pHOut1:5 pHOut2:5 pQOut1:7 pQOut2:7 HIn:5 "
+                         "PIn:1 POut1:1 POut2:1 Eff1:11 Eff2:11 Power:22 MOut1:9"),
+    method<&DeAerator>(0x94, "DeAerator", "pHd:5 pTd:0 pMw:9 pMs:9 POp:1 Hs:5 Tw:0 Md:9 MRatio:12"),
+    method<&DeSuperHeater>(0x95, "DeSuperHeater", "pHs:5 pMw:9 pMs:9 HIn:5 Hw:5 POp:1 TOp:0 MIn:9"),
+    method<&LetDownValve>(0x96, "LetDownValve", "pTOut:0 pQOut:7 HIn:5 PIn:1 POut:1"),
+    method<&Boiler>(0x97, "Boiler",
+                    "pMBd:9 pDeltaH:10 pHOut:5 pHBd:5 pMIn:9 HIn:5 Mout:9 TOut:0 POut:1 BRatio:12"),
+    method<&FlashVessel>(0x98, "FlashVessel",
+                         "pTOut:0 pMVap:9 pMLiq:9 pHVap:5 pHLiq:5 MIn:9 HIn:5 POp:1"),
     action<&Engine::SetupExcelTracing>(0x99, "SetupExcelTracing"),
     action<&Engine::SetCellRef>(0x9a, "SetCellRef", "strBook strSheet strCell"),
     action<&Engine::GetCellRef>(0x9b, "GetCellRef", "strCellRef"),
@@ -187,8 +226,18 @@ constexpr Member members[] = {
     method<&Engine::QT_PH>(0xc4, "QT_PH", "pQ:7 pT:0 P:1 H:5"),
     method<&Engine::HVLTSat_PQ>(0xc5, "HVLTSat_PQ", "pH:5 pHVap:5 pHLiq:5 pTSat:0 P:1 Q:7"),
     method<&Engine::QTS_PH>(0xc6, "QTS_PH", "pQ:7 pT:0 pS:4 P:1 H:5"),
+    method<&DeSuperHeaterB>(0xc7, "DeSuperHeaterB",
+                            "pHs:5 pMw:9 pMs:9 HIn:5 Hw:5 POp:1 TOp:0 Mout:9"),
+    model<&TurbineE>(
+        0xc9, "TurbineE",
+        "pPower:22 pTOut:0 pHOut:5 pQOut:7 pSOut:4 HIn:5 PIn:1 POut:1 Eff:11 MIn:9 SIn:4"),
     method<&Engine::SetCustomUserUnitIndex>(0xcb, "SetCustomUserUnitIndex",
                                             "nGroupID newVal CFactor COffset"),
+    method<&SolvePoly5>(0xcc, "SolvePoly5", "T2 a b c d e f T1"),
+    method<&WaterPump>(0xcd, "WaterPump", "pHOut:5 pPower:22 HIn:5 PIn:1 POut:1 m:9 Eff:11"),
+    method<&Boiler_B>(0xd1, "Boiler_B",
+                      "pMBd:9 pDuty:10 pHOut:5 pHBd:5 pMIn:9 pQFired:10 HIn:5 Mout:9 TOut:0 POut:1 "
+                      "BRatio:12 Eff:11"),
     method<&Engine::VSatTQ>(0xd3, "VSatTQ", "pV:3 T:0 Q:7"),
     method<&Engine::VSatPQ>(0xd4, "VSatPQ", "pV:3 P:1 Q:7"),
 };

@@ -188,6 +188,32 @@ constexpr Member method(short id, std::string_view name, std::string_view parame
   return member;
 }
 
+/// A model without its flags, the `int` parameters at its end: each is 1.
+template <auto Model, class Indices = void>
+struct FlagsSet;
+template <class... A, int (*Model)(ZvThermoInt&, A...)>
+struct FlagsSet<Model> {
+  static constexpr std::size_t flags = (std::size_t{std::is_same_v<A, int>} + ...);
+  using Kept = std::make_index_sequence<sizeof...(A) - flags>;
+  using Types = std::tuple<A...>;
+};
+template <auto Model, std::size_t... I>
+struct FlagsSet<Model, std::index_sequence<I...>> {
+  using All = FlagsSet<Model>;
+  static int call(ZvThermoInt& engine, std::tuple_element_t<I, typename All::Types>... arguments) {
+    return [&]<std::size_t... Flag>(std::index_sequence<Flag...>) {
+      return Model(engine, arguments..., (static_cast<void>(Flag), 1)...);
+    }
+    (std::make_index_sequence<All::flags>());
+  }
+};
+
+/// A model of which the client wants everything.
+template <auto Model>
+consteval Member model(short id, std::string_view name, std::string_view parameters) {
+  return method<&FlagsSet<Model, typename FlagsSet<Model>::Kept>::call>(id, name, parameters);
+}
+
 /// Answers S_OK or S_FALSE.
 template <auto Op>
 constexpr Member action(short id, std::string_view name, std::string_view parameters = {}) {

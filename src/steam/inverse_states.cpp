@@ -90,6 +90,12 @@ Phases SteamModel::stateFromPT(double P, double T) {
   return Phases::one;
 }
 
+double SteamModel::waterEnthalpy(double P, double T) {
+  const bool liquid = T < criticalTemperature && P > saturation::pressure(T);
+  return propertyAt(Property::enthalpy, T,
+                    densityAt(P, T, liquidDensity, liquid ? Side::liquid : Side::any));
+}
+
 Phases SteamModel::stateFromP(double P, Property second, double value) {
   requirePressure(P);
   requireValue(second, value);

@@ -58,6 +58,9 @@ class SteamModel final : private ZvSolverCallBack {
   /// `second` is enthalpy, entropy, internal energy or density.
   Phases stateFromP(double P, Property second, double value);
   Phases stateFromT(double T, Property second, double value);
+  /// Enthalpy of water at (P, T), liquid as long as there is a liquid, also superheated. The stored
+  /// state is left alone.
+  [[nodiscard]] double waterEnthalpy(double P, double T);
 
   // Saturation line
   // --------------------------------------------------------------------------------
