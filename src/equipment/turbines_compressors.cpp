@@ -109,9 +109,12 @@ struct Stages {
   }
 
   // Writes the outlet enthalpy; dh in kJ/kg.
-  bool expand(double hIn, double sIn, const Outlet& outlet, double& dh) const {
+  bool expand(double pIn, double hIn, double sIn, const Outlet& outlet, double& dh) const {
     double hIsentropic = 0.0;
     if (!engine.HPS(&hIsentropic, outlet.P, sIn)) return false;
+    // At the inlet's own pressure there is no work, not the last digits of two solves. Not so with
+    // the client's entropy, which need not be that of the inlet.
+    if (outlet.P == pIn && inlet.S == nullptr) hIsentropic = hIn;
     const double efficiency = internal(UnitGroup::efficiency, outlet.Eff);
     double hOut = 0.0;
     if (machine == Machine::turbine) {
@@ -137,11 +140,12 @@ struct Stages {
   template <class Balance>
   bool run(Balance&& balance) const {
     if (!valid()) return false;
+    double P = inlet.P;
     double h = inlet.H;
     double s = 0.0;
     if (inlet.S != nullptr) {
       s = *inlet.S;
-    } else if (!engine.SPH(&s, inlet.P, h)) {
+    } else if (!engine.SPH(&s, P, h)) {
       return false;
     }
     std::array<double, maxOutlets> works{};
@@ -149,12 +153,13 @@ struct Stages {
     for (std::size_t k = 0; k < outlets.size(); ++k) {
       const Outlet& outlet = outlets[k];
       const bool last = k + 1 == outlets.size();
-      if (last && entropyAfresh && !engine.SPH(&s, outlets[k - 1].P, h)) return false;
+      if (last && entropyAfresh && !engine.SPH(&s, P, h)) return false;
       double dh = 0.0;
-      if (!expand(h, s, outlet, dh)) return false;
+      if (!expand(P, h, s, outlet, dh)) return false;
+      P = outlet.P;
       h = *outlet.H;
       works[k] = work += dh;
-      if (!last && !engine.QTS_PH(outlet.Q, outlet.T, &s, outlet.P, h)) return false;
+      if (!last && !engine.QTS_PH(outlet.Q, outlet.T, &s, P, h)) return false;
     }
     const std::span<const double> done(works.data(), outlets.size());
     if (outlets.size() == 1) return balance(done) && lastState();

@@ -8,8 +8,10 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "diagnostics/outline.h"
@@ -101,7 +103,7 @@ class Plant {
          node = node->nextSibling()) {
       last = node;
     }
-    for (const auto* node = last->firstChild(); node != nullptr; node = node->nextSibling()) {
+    for (const auto* node = last == nullptr ? nullptr : last->firstChild(); node != nullptr; node = node->nextSibling()) {
       if (node->kind() == ZvFunctionCall::Kind::call) names.emplace_back(node->text());
     }
     return names;
@@ -138,5 +140,36 @@ class Plant {
   Module module_;
   ZvCalvex object_{module_};
 };
+
+/// A member's checks in their order: every input starts wrong, and each message goes when its input
+/// is put right.
+struct Fault {
+  std::string message;
+  std::size_t input;
+  double right;
+};
+inline void expectFaultsInOrder(Plant& plant, std::string_view name, std::vector<double> inputs,
+                                const std::vector<Fault>& faults) {
+  for (const Fault& fault : faults) {
+    const Answer answer = plant.call(name, inputs);
+    EXPECT_EQ(answer.success, 0) << name << ": " << fault.message;
+    EXPECT_EQ(plant.engine().LastError(), fault.message) << name;
+    EXPECT_TRUE(answer.values.empty()) << name << ": " << fault.message;
+    inputs.at(fault.input) = fault.right;
+  }
+  EXPECT_EQ(plant.call(name, inputs).success, 1) << name << ": " << plant.engine().LastError();
+}
+
+/// The range errors of an input by its name.
+inline std::string outOfRange(const std::string& name) { return name + " parameter out of range."; }
+inline std::string badPressure(const std::string& name) {
+  return name + " parameter out of range (Valid range 0.00 to 3000.00 MPa).";
+}
+inline std::string badTemperature(const std::string& name) {
+  return name + " parameter out of range (Valid range 260.00 to 2500.00 K).";
+}
+inline std::string badEfficiency(const std::string& name) {
+  return name + " parameter out of range (Valid range 0.00 to 1.00 Fraction).";
+}
 
 }  // namespace calvex
