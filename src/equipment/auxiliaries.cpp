@@ -51,7 +51,7 @@ bool mixing(ZvThermoInt& engine, double* pHs, double HIn, double Hw, double POp,
   return true;
 }
 
-// Liquid at (P, H); its density in kg/m3. Writes its quality nowhere.
+// The density at (P, H) in kg/m3, or the message when that is not a liquid.
 bool liquidDensity(ZvThermoInt& engine, double P, double H, std::string_view otherwise,
                    double& density) {
   double Q = 0.0;
@@ -209,6 +209,7 @@ int Boiler(ZvThermoInt& engine, double* pMBd, double* pDeltaH, double* pHOut, do
                 nullptr);
 }
 
+// NOLINTNEXTLINE(readability-non-const-parameter): an output, written through the firing
 int Boiler_B(ZvThermoInt& engine, double* pMBd, double* pDuty, double* pHOut, double* pHBd,
              double* pMIn, double* pQFired, double HIn, double Mout, double TOut, double POut,
              double BRatio, double Eff) {

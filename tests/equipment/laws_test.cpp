@@ -3,9 +3,11 @@
 #include <fmt/format.h>
 
 #include <functional>
+#include <ostream>
 #include <random>
 
 #include "equipment/plant.h"
+#include "support/failures.h"
 
 namespace calvex {
 namespace {
@@ -311,18 +313,7 @@ void forPoints(std::size_t dimensions, int randomPoints, unsigned seed,
 
 std::string text(const std::vector<double>& x) { return fmt::format("{}", fmt::join(x, ", ")); }
 
-// Collects what fails and prints the first few with their inputs.
-class Findings {
- public:
-  void add(const std::string& finding) {
-    if (++count_ <= 10) first_ += finding + '\n';
-  }
-  ~Findings() { EXPECT_EQ(count_, 0) << first_; }
-
- private:
-  int count_ = 0;
-  std::string first_;
-};
+void PrintTo(const Law& law, std::ostream* out) { *out << law.name; }
 
 class EveryModel : public testing::TestWithParam<Law> {
  protected:
@@ -335,16 +326,15 @@ TEST_P(EveryModel, BalancesMassAndEnergyAndProducesEntropy) {
   SCOPED_TRACE(fmt::format("seed {}", seed));
   Plant plant;
   ZvThermoInt steam;
-  Findings findings;
+  test::Grid grid(law.name);
   forPoints(law.dimensions, randomPoints, seed, [&](Point at) {
     const std::vector<double> x = law.inputs(at, steam);
     const Answer y = plant(law.name, x);
-    if (y.success != 1) return findings.add(text(x) + ": " + plant.engine().LastError());
+    if (y.success != 1) return grid.holds(false, text(x) + ": " + plant.engine().LastError());
     const Balance b = law.balance(x, y, steam);
-    if (!(std::fabs(b.mass) < 1e-9) || !(std::fabs(b.energy) < 1e-9) || !(b.entropy > -1e-10)) {
-      findings.add(fmt::format("{}: mass {:.1e}, energy {:.1e}, entropy {:.1e}", text(x), b.mass,
-                               b.energy, b.entropy));
-    }
+    grid.holds(std::fabs(b.mass) < 1e-9 && std::fabs(b.energy) < 1e-9 && b.entropy > -1e-10,
+               fmt::format("{}: mass {:.1e}, energy {:.1e}, entropy {:.1e}", text(x), b.mass,
+                           b.energy, b.entropy));
   });
 }
 
@@ -355,19 +345,16 @@ TEST_P(EveryModel, GivesTheSameInMixedUnits) {
   Plant mixed;
   mixed.useMixedUnits();
   ZvThermoInt steam;
-  Findings findings;
+  test::Grid grid(law.name);
   forPoints(law.dimensions, randomPoints, seed, [&](Point at) {
     const std::vector<double> x = law.inputs(at, steam);
     const Answer a = plant(law.name, x);
     const Answer b = mixed(law.name, x);
     if (a.success != 1 || b.success != 1 || a.values.size() != b.values.size()) {
-      return findings.add(text(x) + ": " + mixed.engine().LastError());
+      return grid.holds(false, text(x) + ": " + mixed.engine().LastError());
     }
     for (const auto& [name, value] : a.values) {
-      const double scale = std::max({std::fabs(value), std::fabs(b[name]), 1.0});
-      if (!(std::fabs(value - b[name]) <= 1e-9 * scale)) {
-        findings.add(fmt::format("{}: {} is {} and {}", text(x), name, value, b[name]));
-      }
+      grid.near(b[name], value, 1e-9, std::max(std::fabs(value), 1.0), text(x) + ": " + name);
     }
   });
 }
@@ -403,6 +390,8 @@ Inverse machine(const char* a, const char* b, std::size_t outlets, const char* f
           }};
 }
 
+void PrintTo(const Inverse& inverse, std::ostream* out) { *out << inverse.b; }
+
 class AAndB : public testing::TestWithParam<Inverse> {};
 
 TEST_P(AAndB, InvertEachOther) {
@@ -416,19 +405,17 @@ TEST_P(AAndB, InvertEachOther) {
   for (const bool mixed : {false, true}) {
     Plant plant;
     if (mixed) plant.useMixedUnits();
-    Findings findings;
+    test::Grid grid(inverse.b);
     forPoints(law->dimensions, 300, seed, [&](Point at) {
       const std::vector<double> x = law->inputs(at, steam);
       const Answer y = plant(inverse.a, x);
       const std::vector<double> xb = inverse.inputs(x, y);
       const Answer z = plant(inverse.b, xb);
       if (y.success != 1 || z.success != 1) {
-        return findings.add(text(x) + ": " + plant.engine().LastError());
+        return grid.holds(false, text(x) + ": " + plant.engine().LastError());
       }
       for (const auto& [given, found] : inverse.pairs(x, y, z)) {
-        if (!(std::fabs(given - found) <= 1e-7 * std::max(std::fabs(given), 1e-3))) {
-          findings.add(fmt::format("{}: {} comes back as {}", text(x), given, found));
-        }
+        grid.near(found, given, 1e-7, std::max(std::fabs(given), 1e-3), text(x));
       }
     });
   }

@@ -103,7 +103,8 @@ class Plant {
          node = node->nextSibling()) {
       last = node;
     }
-    for (const auto* node = last == nullptr ? nullptr : last->firstChild(); node != nullptr; node = node->nextSibling()) {
+    for (const auto* node = last == nullptr ? nullptr : last->firstChild(); node != nullptr;
+         node = node->nextSibling()) {
       if (node->kind() == ZvFunctionCall::Kind::call) names.emplace_back(node->text());
     }
     return names;

@@ -58,8 +58,9 @@ TEST(Turbine, DividesByZeroWhenPowerIsAskedForBetweenEqualPressures) {
   for (const char* name : {"TurbineB2", "CompressorB2"}) {
     EXPECT_EQ(plant(name, {3213.0, 4.0, 4.0, 4.0, 0.8, 0.8, 100.0, 1.0})["pMOut2"], inf) << name;
   }
-  EXPECT_EQ(plant("TurbineB3", {3213.0, 4.0, 4.0, 4.0, 4.0, 1.0, 1.0, 1.0, 9.0, 1.0, 1.0})["pMOut3"],
-            inf);
+  EXPECT_EQ(
+      plant("TurbineB3", {3213.0, 4.0, 4.0, 4.0, 4.0, 1.0, 1.0, 1.0, 9.0, 1.0, 1.0})["pMOut3"],
+      inf);
 }
 
 TEST(Turbine, PostsASolutionErrorForAPowerThatIsNotFinite) {
@@ -106,8 +107,8 @@ TEST(Compressor, TakesPositivePower) {
   EXPECT_GT(y["pPower"], 0.0);
   EXPECT_NEAR(y["pPower"], 2.0 * (y["pHOut"] - 2800.0), 1e-9);
   const Answer two = plant("CompressorA2", {2800.0, 0.2, 0.6, 1.5, 0.75, 0.8, 2.0, 3.0});
-  EXPECT_NEAR(two["pPower"],
-              5.0 * (two["pHOut1"] - 2800.0) + 3.0 * (two["pHOut2"] - two["pHOut1"]), 1e-8);
+  EXPECT_NEAR(two["pPower"], 5.0 * (two["pHOut1"] - 2800.0) + 3.0 * (two["pHOut2"] - two["pHOut1"]),
+              1e-8);
 }
 
 TEST(Compressor, DividesTheIdealRiseByTheEfficiency) {
@@ -183,7 +184,8 @@ TEST(Turbine, MakesThesePropertyCalls) {
   EXPECT_EQ(plant.propertyCalls(),
             (Names{"SPH", "HPS", "QTS_PH", "HPS", "QTS_PH", "SPH", "HPS", "QTR_PH"}));
   plant("TurbineB3", three);
-  EXPECT_EQ(plant.propertyCalls(), (Names{"SPH", "HPS", "QTS_PH", "HPS", "QTS_PH", "HPS", "QTR_PH"}));
+  EXPECT_EQ(plant.propertyCalls(),
+            (Names{"SPH", "HPS", "QTS_PH", "HPS", "QTS_PH", "HPS", "QTR_PH"}));
   plant("CompressorA2", {2800.0, 0.2, 0.6, 1.5, 0.75, 0.8, 2.0, 3.0});
   EXPECT_EQ(plant.propertyCalls(), (Names{"SPH", "HPS", "QTS_PH", "HPS", "QTR_PH"}));
 }
@@ -233,8 +235,7 @@ TEST(Turbine, ChecksItsInputsInOrder) {
                          {"Outlet pressure 1 less than outlet pressure 2.", 3, 0.5}});
   }
   for (const char* name : {"TurbineA3", "TurbineB3"}) {
-    expectFaultsInOrder(plant, name,
-                        {-1.0, -1.0, -1.0, -1.0, -1.0, 0.0, 0.0, 0.0, 1.0, 1.0, 1.0},
+    expectFaultsInOrder(plant, name, {-1.0, -1.0, -1.0, -1.0, -1.0, 0.0, 0.0, 0.0, 1.0, 1.0, 1.0},
                         {{outOfRange("Inlet Enthalpy"), 0, 3200.0},
                          {badPressure("Inlet Pressure"), 1, 1.0},
                          {badPressure("Outlet Pressure 1"), 2, 2.0},
