@@ -65,15 +65,10 @@ bool liquidDensity(ZvThermoInt& engine, double P, double H, std::string_view oth
   return true;
 }
 
-// The firing of a boiler, where it is asked for.
-struct Firing {
-  double Eff;
-  double* pQFired;
-};
-
+// Fired with the efficiency, where there is one.
 int boiler(ZvThermoInt& engine, std::string_view name, double* pMBd, double* pDuty, double* pHOut,
            double* pHBd, double* pMIn, double HIn, double Mout, double TOut, double POut,
-           double BRatio, const Firing* firing) {
+           double BRatio, const double* Eff, double* pQFired) {
   return engine.call(name, [&] {
     const UserUnits& units = engine.units();
     const double hIn = units.toInternal(UnitGroup::enthalpy, HIn);
@@ -83,8 +78,7 @@ int boiler(ZvThermoInt& engine, std::string_view name, double* pMBd, double* pDu
         !engine.validPressure("Outlet Pressure", units.toInternal(UnitGroup::pressure, POut))) {
       return false;
     }
-    const double efficiency =
-        firing != nullptr ? units.toInternal(UnitGroup::efficiency, firing->Eff) : 1.0;
+    const double efficiency = Eff != nullptr ? units.toInternal(UnitGroup::efficiency, *Eff) : 1.0;
     if (!validEfficiency(engine, "Firing Efficiency", efficiency)) return false;
 
     const double steam = units.toInternal(UnitGroup::massFlow, Mout);
@@ -100,8 +94,7 @@ int boiler(ZvThermoInt& engine, std::string_view name, double* pMBd, double* pDu
     const double duty = units.toInternal(UnitGroup::enthalpy, *pHBd) * blowdown +
                         units.toInternal(UnitGroup::enthalpy, *pHOut) * steam - feed * hIn;
     return engine.give(pDuty, UnitGroup::heatDuty, duty) &&
-           (firing == nullptr ||
-            engine.give(firing->pQFired, UnitGroup::heatDuty, duty / efficiency));
+           (Eff == nullptr || engine.give(pQFired, UnitGroup::heatDuty, duty / efficiency));
   });
 }
 
@@ -206,16 +199,14 @@ int LetDownValve(ZvThermoInt& engine, double* pTOut, double* pQOut, double HIn, 
 int Boiler(ZvThermoInt& engine, double* pMBd, double* pDeltaH, double* pHOut, double* pHBd,
            double* pMIn, double HIn, double Mout, double TOut, double POut, double BRatio) {
   return boiler(engine, "Boiler", pMBd, pDeltaH, pHOut, pHBd, pMIn, HIn, Mout, TOut, POut, BRatio,
-                nullptr);
+                nullptr, nullptr);
 }
 
-// NOLINTNEXTLINE(readability-non-const-parameter): an output, written through the firing
 int Boiler_B(ZvThermoInt& engine, double* pMBd, double* pDuty, double* pHOut, double* pHBd,
              double* pMIn, double* pQFired, double HIn, double Mout, double TOut, double POut,
              double BRatio, double Eff) {
-  const Firing firing{Eff, pQFired};
   return boiler(engine, "Boiler_B", pMBd, pDuty, pHOut, pHBd, pMIn, HIn, Mout, TOut, POut, BRatio,
-                &firing);
+                &Eff, pQFired);
 }
 
 int FlashVessel(ZvThermoInt& engine, double* pTOut, double* pMVap, double* pMLiq, double* pHVap,
