@@ -1,6 +1,6 @@
 /// \file
-/// What the tests of the equipment models share: engines in mixed units, the trace as text, and
-/// numbers of every kind.
+/// What the tests of the equipment models share: engines in mixed units, numbers of every kind and
+/// the order of the checks.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "engine/thermo_engine.h"
+#include "support/engine.h"
 
 namespace calvex {
 
@@ -39,19 +40,6 @@ inline void chooseMixedUnits(ZvThermoInt& engine) {
     engine.SetUserUnitIndex(static_cast<short>(group), name);
   }
 }
-
-/// The nodes below the root, one a line, indented by two blanks a level; messages in quotes.
-inline std::string traceText(const ZvFunctionCall& node, int level = 0) {
-  std::string text;
-  for (const ZvFunctionCall* x = node.firstChild(); x != nullptr; x = x->nextSibling()) {
-    const bool isCall = x->kind() == ZvFunctionCall::Kind::call;
-    const std::string line = isCall ? std::string(x->text()) : '"' + std::string(x->text()) + '"';
-    text += std::string(static_cast<std::size_t>(2 * level), ' ') + line + '\n';
-    text += traceText(*x, level + 1);
-  }
-  return text;
-}
-inline std::string traceText(ZvThermoInt& engine) { return traceText(engine.diagnostics().root()); }
 
 /// Doubles of every kind: special values, ordinary magnitudes and random bits.
 class ArbitraryDoubles {
@@ -126,7 +114,6 @@ inline void expectSameInMixedUnits(const ModelUnderTest& model, const std::vecto
 inline void expectSanityOnArbitraryDoubles(const ModelUnderTest& model, std::uint64_t seed,
                                            int calls, const std::vector<double>& example) {
   SCOPED_TRACE(std::string(model.name) + ", seed " + std::to_string(seed));
-  constexpr double untouched = -12345.678;
   ArbitraryDoubles any(seed);
   std::mt19937_64 random(seed);
   ZvThermoInt engine;
@@ -135,14 +122,14 @@ inline void expectSanityOnArbitraryDoubles(const ModelUnderTest& model, std::uin
     std::vector<double> in(example);
     const std::uint64_t strange = random() % in.size() + 1;
     for (std::uint64_t i = 0; i < strange; ++i) in[random() % in.size()] = any();
-    std::vector<double> out(model.outputs.size(), untouched);
+    std::vector<double> out(model.outputs.size(), test::untouched);
     engine.ClearTraceInfo();
     const bool succeeded = model.run(engine, out.data(), in.data()) == 1;
     std::string inputs;
     for (const double x : in) inputs += std::to_string(x) + ' ';
     ASSERT_EQ(engine.LastError().empty(), succeeded) << inputs << engine.LastError();
     for (const double x : out) {
-      ASSERT_TRUE(succeeded ? std::isfinite(x) : x == untouched) << inputs;
+      ASSERT_TRUE(succeeded ? std::isfinite(x) : x == test::untouched) << inputs;
     }
   }
 }

@@ -289,10 +289,10 @@ TEST_F(GasTurbine, TraceOfAFailureShowsTheCallThatFailed) {
   in.SteamPress = 30.0;
   in.SteamTemp = 900.0;
   EXPECT_EQ(run(engine, out, in), 0);
-  EXPECT_EQ(traceText(engine),
+  EXPECT_EQ(test::traceOf(engine),
             "GasTurbineA\n"
             "  TSatP\n"
-            "    \"Pressure parameter out of range (Valid range 0.00 to 22.05 MPa).\"\n");
+            "    error: Pressure parameter out of range (Valid range 0.00 to 22.05 MPa).\n");
 }
 
 TEST_F(GasTurbine, AnswersTheSameInMixedUnits) {
