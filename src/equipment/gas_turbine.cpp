@@ -226,8 +226,8 @@ int GasTurbineA(ZvThermoInt& engine, double* pTWhb, double* pDWhbFuel, double* p
                           double O2, double heatLoss, double duty) {
       return giveAll(engine, {{pTWhb, TWhb, UnitGroup::temperature},
                               {pDWhbFuel, fuelDuty, UnitGroup::heatDuty},
-                              {pTDewPtActual, dewPtActual, {}},
-                              {pTDewPtMax, dewPtMax, {}},
+                              {pTDewPtActual, dewPtActual},
+                              {pTDewPtMax, dewPtMax},
                               {pRExhaustO2, O2, UnitGroup::ratio},
                               {pDGTFuel, Qgt, UnitGroup::heatDuty},
                               {pDHeatLoss, heatLoss, UnitGroup::heatDuty},

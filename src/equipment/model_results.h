@@ -10,8 +10,12 @@
 
 namespace calvex {
 
-/// A result in model units of its group; without a group as the client gets it.
+/// A result in model units of its group, or as the client gets it.
 struct ModelResult {
+  ModelResult(double* target, double modelValue, UnitGroup itsGroup)
+      : out(target), value(modelValue), group(itsGroup) {}
+  ModelResult(double* target, double userValue) : out(target), value(userValue) {}
+
   double* out;
   double value;
   std::optional<UnitGroup> group;

@@ -313,8 +313,8 @@ int ThermoCompressorA(ZvThermoInt& engine, double* pDSP, double* pDST, double* p
     if (!unit.findEnthalpies()) return false;
     const std::optional<Discharge> discharge = unit.discharge(R, DSP);
     return discharge &&
-           giveAll(engine, {{pDSP, DSP, {}},
-                            {pDST, discharge->DST, {}},
+           giveAll(engine, {{pDSP, DSP},
+                            {pDST, discharge->DST},
                             {pDSF, flow, UnitGroup::massFlow},
                             {pHXDuty, discharge->dutyPerFlow * flow, UnitGroup::heatDuty}});
   });
@@ -325,7 +325,7 @@ int ThermoCompressorB(ZvThermoInt& engine, double* pDSF, double* pDST, double* p
   return engine.call("ThermoCompressorB", [&] {
     const auto x = atPressure(engine, Given::HXDuty, {MSP, MST, SSP, SST}, DSP, HXDuty);
     return x && giveAll(engine, {{pDSF, x->DSF, UnitGroup::massFlow},
-                                 {pDST, x->DST, {}},
+                                 {pDST, x->DST},
                                  {pMSF, x->MSF, UnitGroup::massFlow},
                                  {pSSF, x->SSF, UnitGroup::massFlow}});
   });
@@ -336,7 +336,7 @@ int ThermoCompressorC(ZvThermoInt& engine, double* pDST, double* pHXDuty, double
                       double DSF) {
   return engine.call("ThermoCompressorC", [&] {
     const auto x = atPressure(engine, Given::DSF, {MSP, MST, SSP, SST}, DSP, DSF);
-    return x && giveAll(engine, {{pDST, x->DST, {}},
+    return x && giveAll(engine, {{pDST, x->DST},
                                  {pHXDuty, x->HXDuty, UnitGroup::heatDuty},
                                  {pMSF, x->MSF, UnitGroup::massFlow},
                                  {pSSF, x->SSF, UnitGroup::massFlow}});
@@ -348,7 +348,7 @@ int ThermoCompressorD(ZvThermoInt& engine, double* pDST, double* pHXDuty, double
                       double SSF) {
   return engine.call("ThermoCompressorD", [&] {
     const auto x = atPressure(engine, Given::SSF, {MSP, MST, SSP, SST}, DSP, SSF);
-    return x && giveAll(engine, {{pDST, x->DST, {}},
+    return x && giveAll(engine, {{pDST, x->DST},
                                  {pHXDuty, x->HXDuty, UnitGroup::heatDuty},
                                  {pDSF, x->DSF, UnitGroup::massFlow},
                                  {pMSF, x->MSF, UnitGroup::massFlow}});
@@ -360,7 +360,7 @@ int ThermoCompressorE(ZvThermoInt& engine, double* pDST, double* pHXDuty, double
                       double MSF) {
   return engine.call("ThermoCompressorE", [&] {
     const auto x = atPressure(engine, Given::MSF, {MSP, MST, SSP, SST}, DSP, MSF);
-    return x && giveAll(engine, {{pDST, x->DST, {}},
+    return x && giveAll(engine, {{pDST, x->DST},
                                  {pHXDuty, x->HXDuty, UnitGroup::heatDuty},
                                  {pDSF, x->DSF, UnitGroup::massFlow},
                                  {pSSF, x->SSF, UnitGroup::massFlow}});
@@ -371,8 +371,8 @@ int ThermoCompressorF(ZvThermoInt& engine, double* pDST, double* pDSP, double* p
                       double MSP, double MST, double SSP, double SST, double SSF, double HXDuty) {
   return engine.call("ThermoCompressorF", [&] {
     const auto x = atDuty(engine, Given::SSF, {MSP, MST, SSP, SST}, SSF, HXDuty);
-    return x && giveAll(engine, {{pDST, x->DST, {}},
-                                 {pDSP, x->DSP, {}},
+    return x && giveAll(engine, {{pDST, x->DST},
+                                 {pDSP, x->DSP},
                                  {pDSF, x->DSF, UnitGroup::massFlow},
                                  {pMSF, x->MSF, UnitGroup::massFlow}});
   });
@@ -382,8 +382,8 @@ int ThermoCompressorG(ZvThermoInt& engine, double* pDST, double* pDSP, double* p
                       double MSP, double MST, double SSP, double SST, double MSF, double HXDuty) {
   return engine.call("ThermoCompressorG", [&] {
     const auto x = atDuty(engine, Given::MSF, {MSP, MST, SSP, SST}, MSF, HXDuty);
-    return x && giveAll(engine, {{pDST, x->DST, {}},
-                                 {pDSP, x->DSP, {}},
+    return x && giveAll(engine, {{pDST, x->DST},
+                                 {pDSP, x->DSP},
                                  {pDSF, x->DSF, UnitGroup::massFlow},
                                  {pSSF, x->SSF, UnitGroup::massFlow}});
   });
