@@ -4,7 +4,10 @@
 ///
 /// MS, SS and DS are motive, suction and discharge steam; P, T and F its pressure, temperature and
 /// flow; HXDuty the heat given up by condensing the discharge to saturated liquid. Values are in
-/// the client's units. Answers 1, or 0 with the reason posted.
+/// the client's units. Answers 1, or 0 with the reason posted and nothing written.
+///
+/// A discharge within 0.01 % of saturated vapour counts as saturated, and a wet one gives up the
+/// duty of saturated vapour.
 #pragma once
 
 namespace calvex {
@@ -36,7 +39,9 @@ int ThermoCompressorE(ZvThermoInt& engine, double* pDST, double* pHXDuty, double
                       double* pSSF, double MSP, double MST, double SSP, double SST, double DSP,
                       double MSF);
 
-/// The discharge pressure at which a suction (F) or motive (G) flow meets the duty.
+/// The discharge pressure at which a suction (F) or motive (G) flow meets the duty, with an
+/// entrainment ratio of 1e-4 to 100. Fails if there is none, also for a duty that the step to a
+/// saturated discharge jumps over (some 0.01 % wide).
 int ThermoCompressorF(ZvThermoInt& engine, double* pDST, double* pDSP, double* pDSF, double* pMSF,
                       double MSP, double MST, double SSP, double SST, double SSF, double HXDuty);
 int ThermoCompressorG(ZvThermoInt& engine, double* pDST, double* pDSP, double* pDSF, double* pSSF,

@@ -67,8 +67,9 @@ double SteamModel::PSatT(double T) {
     return pressureNearCritical(T);
   }
   if (satPolish_ == 0) return saturation::pressure(T);
-  if (const int status = solveEquilibrium({Equation::temperature, T}, T); !converged(status)) {
-    raise(status);
+  if (const int status = solveEquilibrium({Equation::temperature, T}, T);
+      !ZvSolver::converged(status)) {
+    ZvSolver::raise(status);
   }
   return propertyAt(Property::pressure, T, unknowns_[2]);
 }
@@ -82,15 +83,15 @@ double SteamModel::TSatP(double P) {
   };
   const std::array<Target, 1> correlation{Target{Equation::saturationCorrelation, P}};
   unknowns_[0] = saturation::temperatureGuess(P);
-  if (const int status = solve(correlation); !converged(status)) raise(status);
+  if (const int status = solve(correlation); !ZvSolver::converged(status)) ZvSolver::raise(status);
   const double T = onLine(unknowns_[0]);
   if (satPolish_ == 0) return T;
 
   const int status = solveEquilibrium({Equation::pressure, P}, T);
-  if (converged(status)) return onLine(unknowns_[0]);
+  if (ZvSolver::converged(status)) return onLine(unknowns_[0]);
   // Above 22.01 MPa the two phases are too alike to be told apart by their Gibbs energies.
   if (T >= criticalTemperature - criticalRegion) return temperatureNearCritical(P);
-  raise(status);
+  ZvSolver::raise(status);
 }
 
 double SteamModel::mixture(Property property, double P, double T, double Q, double vapourFrom,

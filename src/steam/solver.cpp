@@ -1,8 +1,13 @@
 #include "steam/solver.h"
 
 #include <cminpack.h>
+#include <fmt/printf.h>
 
 #include <algorithm>
+#include <string>
+
+#include "diagnostics/diagnostics.h"
+#include "diagnostics/thermo_exception.h"
 
 namespace calvex {
 
@@ -52,6 +57,31 @@ int ZvSolver::Solve(int m, int n) {
   problem_.evaluate(m, n, x, f, flag);
   if (run.stopped < 0 && status >= 0) status = run.stopped;
   return status;
+}
+
+void ZvSolver::raise(int status) {
+  switch (status) {
+    case notASolution:
+      throw ZvThermoException(std::string(messageText(Message::solutionError)));
+    case 5:
+      throw ZvThermoException(std::string(messageText(Message::maximumIterations)));
+    case -2:
+    case -1:
+    case 0:
+    case 1:
+    case 6:
+    case 7:
+    case 8:
+      throw ZvThermoException(fmt::sprintf(messageText(Message::noSolution), status));
+    default:
+      throw ZvThermoException(std::string(messageText(Message::unknownSolverCode)));
+  }
+}
+
+void ZvSolver::note(Diagnostics& diagnostics, int evaluations, int m, const double* f) {
+  if (!diagnostics.wantsNotes()) return;
+  diagnostics.postNote(fmt::sprintf(messageText(Message::solverNote), evaluations, f[0],
+                                    m > 1 ? f[1] : 0.0, m > 2 ? f[2] : 0.0));
 }
 
 bool ZvSolver::setTolerance(double tolerance) noexcept {

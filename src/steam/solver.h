@@ -5,6 +5,8 @@
 
 namespace calvex {
 
+class Diagnostics;
+
 /// What the solver solves.
 class ZvSolverCallBack {
  public:
@@ -28,6 +30,16 @@ class ZvSolver {
 
   /// MINPACK's status 0..8 (2, 3 and 4: converged), or the negative flag of the callback.
   [[nodiscard]] int Solve(int m, int n);
+
+  /// Beyond MINPACK's own: converged, but to no solution.
+  static constexpr int notASolution = 1000;
+  [[nodiscard]] static bool converged(int status) noexcept {
+    return status == 2 || status == 3 || status == 4;
+  }
+  /// Throws the message of a status that is not converged as ZvThermoException.
+  [[noreturn]] static void raise(int status);
+  /// Posts the evaluations and the m residuals of a solve as a note, if notes are wanted.
+  static void note(Diagnostics& diagnostics, int evaluations, int m, const double* f);
 
   /// Relative step tolerance; accepted within (1e-14, 1e-6).
   bool setTolerance(double tolerance) noexcept;

@@ -1,11 +1,8 @@
 // The engine's equations and how they are solved: residuals, acceptance, starting points.
-#include <fmt/printf.h>
-
 #include <algorithm>
 #include <cmath>
 #include <optional>
 
-#include "diagnostics/thermo_exception.h"
 #include "steam/constants.h"
 #include "steam/saturation_correlations.h"
 #include "steam/starting_points.h"
@@ -18,9 +15,6 @@ namespace {
 using constants::criticalDensity;
 using constants::criticalRegion;
 using constants::criticalTemperature;
-
-// Beyond MINPACK's own: converged, but to no solution.
-constexpr int notASolution = 1000;
 
 }  // namespace
 
@@ -98,10 +92,7 @@ void SteamModel::evaluate(int m, int n, double* x, double* f, int& flag) {
   if (flag == finishFlag) {
     std::copy_n(x, n, unknowns_.begin());
     accepted_ = isSolution(m, f);
-    if (diagnostics_.wantsNotes()) {
-      diagnostics_.postNote(fmt::sprintf(messageText(Message::solverNote), evaluations_, f[0],
-                                         m > 1 ? f[1] : 0.0, m > 2 ? f[2] : 0.0));
-    }
+    ZvSolver::note(diagnostics_, evaluations_, m, f);
     return;
   }
 
@@ -203,32 +194,11 @@ bool SteamModel::isSolution(int n, const double* f) const {
   return true;
 }
 
-bool SteamModel::converged(int status) { return status == 2 || status == 3 || status == 4; }
-
 int SteamModel::solve(std::span<const Target> targets) {
   pose(targets);
   const int n = static_cast<int>(targets.size());
   const int status = solver_.Solve(n, n);
-  return converged(status) && !accepted_ ? notASolution : status;
-}
-
-void SteamModel::raise(int status) {
-  switch (status) {
-    case notASolution:
-      throw ZvThermoException(std::string(messageText(Message::solutionError)));
-    case 5:
-      throw ZvThermoException(std::string(messageText(Message::maximumIterations)));
-    case -2:
-    case -1:
-    case 0:
-    case 1:
-    case 6:
-    case 7:
-    case 8:
-      throw ZvThermoException(fmt::sprintf(messageText(Message::noSolution), status));
-    default:
-      throw ZvThermoException(std::string(messageText(Message::unknownSolverCode)));
-  }
+  return ZvSolver::converged(status) && !accepted_ ? ZvSolver::notASolution : status;
 }
 
 Start SteamModel::solveState(Target first, Target second, Start start, Side side) {
@@ -257,17 +227,17 @@ Start SteamModel::solveState(Target first, Target second, Start start, Side side
   };
 
   const int status = attempt(start);
-  if (converged(status) && isPhase()) return solution();
+  if (ZvSolver::converged(status) && isPhase()) return solution();
   const StartingPoints others =
       first.equation == Equation::temperature
           ? StartingPoints::atTemperature(
                 first.value, second.equation == Equation::pressure ? second.value : 0.0, side)
           : StartingPoints::atPressure(first.value, side);
   for (const Start& other : others) {
-    if (converged(attempt(other)) && isPhase()) return solution();
+    if (ZvSolver::converged(attempt(other)) && isPhase()) return solution();
   }
   if (otherSide) return *otherSide;
-  raise(converged(status) ? notASolution : status);
+  ZvSolver::raise(ZvSolver::converged(status) ? ZvSolver::notASolution : status);
 }
 
 // Density of the root at (P, T) on one side.
@@ -286,14 +256,14 @@ int SteamModel::solveEquilibrium(Target third, double T) {
     // Two equal densities meet both differences and are no equilibrium; next to the critical point
     // nearly equal ones do within the tolerances.
     const bool apart = unknowns_[1] > criticalDensity && unknowns_[2] < criticalDensity;
-    return converged(status) && !apart ? notASolution : status;
+    return ZvSolver::converged(status) && !apart ? ZvSolver::notASolution : status;
   };
 
   const int status = attempt(saturation::liquidDensityGuess(T), saturation::vapourDensityGuess(T));
-  if (converged(status)) return status;
+  if (ZvSolver::converged(status)) return status;
   for (const double halfWidth : {40.0, 60.0, 80.0, 100.0, 20.0, 10.0}) {
     const int other = attempt(criticalDensity + halfWidth, criticalDensity - halfWidth);
-    if (converged(other)) return other;
+    if (ZvSolver::converged(other)) return other;
   }
   return status;
 }

@@ -103,11 +103,9 @@ class SteamModel final : private ZvSolverCallBack {
 
   void pose(std::span<const Target> targets);
   /// Solves for the first `targets.size()` unknowns from where they stand; 2, 3 or 4 for success,
-  /// another MINPACK status, or notASolution.
+  /// another MINPACK status, or ZvSolver::notASolution.
   int solve(std::span<const Target> targets);
-  [[nodiscard]] static bool converged(int status);
   [[nodiscard]] bool isSolution(int n, const double* f) const;
-  [[noreturn]] static void raise(int status);
 
   /// Temperature and density with the two targets, from `start`, else from other points of the
   /// side.
