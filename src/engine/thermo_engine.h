@@ -190,6 +190,9 @@ class ZvThermoInt {
   bool fail(Message message);
   bool fail(std::string_view text);
 
+  /// The name of the unit in which the client has that quantity.
+  [[nodiscard]] std::string unitName(UnitGroup group) const;
+
   /// Writes a result of that group in the client's unit. A value that is not finite is none:
   /// message 104 and false.
   bool give(double* out, UnitGroup group, double value);
@@ -210,7 +213,6 @@ class ZvThermoInt {
   int fromPH(std::string_view name, double* pQ, double* pT, Property third, UnitGroup thirdGroup,
              double* pThird, double P, double H);
   bool isOnLine(double P, double T);
-  std::string unitName(UnitGroup group) const;
   bool failWithServer(short status);
 
   RangeLimits limits_;

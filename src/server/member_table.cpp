@@ -11,6 +11,7 @@
 #include "equipment/polynomial.h"
 #include "equipment/turbines_compressors.h"
 #include "server/operation.h"
+#include "spreadsheet/result_arrays.h"
 
 namespace calvex {
 
@@ -22,6 +23,7 @@ using detail::method;
 using detail::model;
 using detail::setting;
 using detail::value;
+using spreadsheet::XL;
 
 // Answers S_OK and writes nothing.
 constexpr Member hWnd = [] {
@@ -214,9 +216,70 @@ constexpr Member members[] = {
     action<&Engine::SetupExcelTracing>(0x99, "SetupExcelTracing"),
     action<&Engine::SetCellRef>(0x9a, "SetCellRef", "strBook strSheet strCell"),
     action<&Engine::GetCellRef>(0x9b, "GetCellRef", "strCellRef"),
+    method<XL<&TurbineA>>(0x9c, "XLTurbineA",
+                          "HIn:5 PIn:1 POut:1 Eff:11 MIn:9 strTokens pRetArray"),
     setting<&Engine::ReturnModelUnits, &Engine::SetReturnModelUnits>(0x9d, "ReturnModelUnits"),
     setting<&Engine::ReturnThermoUnits, &Engine::SetReturnThermoUnits>(0x9e, "ReturnThermoUnits"),
+    method<XL<&TurbineB>>(0x9f, "XLTurbineB",
+                          "HIn:5 PIn:1 POut:1 Eff:11 Power:22 strTokens pRetArray"),
+    method<XL<&TurbineA2>>(
+        0xa0, "XLTurbineA2",
+        "HIn:5 PIn:1 POut1:1 POut2:1 Eff1:11 Eff2:11 MIn:9 MOut1:9 strTokens pRetArray"),
+    method<XL<&TurbineB2>>(
+        0xa1, "XLTurbineB2",
+        "HIn:5 PIn:1 POut1:1 POut2:1 Eff1:11 Eff2:11 Power:22 MOut1:9 strTokens pRetArray"),
+    method<XL<&TurbineA3>>(0xa2, "XLTurbineA3",
+                           "HIn:5 PIn:1 POut1:1 POut2:1 POut3:1 Eff1:11 Eff2:11 Eff3:11 MIn:9 "
+                           "MOut1:9 MOut2:9 strTokens pRetArray"),
+    method<XL<&TurbineB3>>(0xa3, "XLTurbineB3",
+                           "HIn:5 PIn:1 POut1:1 POut2:1 POut3:1 Eff1:11 Eff2:11 Eff3:11 Power:22 "
+                           "MOut1:9 MOut2:9 strTokens pRetArray"),
+    method<XL<&CompressorA>>(0xa4, "XLCompressorA",
+                             "HIn:5 PIn:1 POut:1 Eff:11 MIn:9 strTokens pRetArray"),
+    method<XL<&CompressorB>>(0xa5, "XLCompressorB",
+                             "HIn:5 PIn:1 POut:1 Eff:11 Power:22 strTokens pRetArray"),
+    method<XL<&CompressorA2>>(
+        0xa6, "XLCompressorA2",
+        "HIn:5 PIn:1 POut1:1 POut2:1 Eff1:11 Eff2:11 MIn:9 MOut1:9 strTokens pRetArray"),
+    method<XL<&CompressorB2>>(
+        0xa7, "XLCompressorB2",
+        "HIn:5 PIn:1 POut1:1 POut2:1 Eff1:11 Eff2:11 Power:22 MOut1:9 strTokens pRetArray"),
+    method<XL<&DeAerator>>(0xa8, "XLDeAerator",
+                           "POp:1 Hs:5 Tw:0 Md:9 MRatio:12 strTokens pRetArray"),
+    method<XL<&DeSuperHeater>>(0xa9, "XLDeSuperHeater",
+                               "HIn:5 Hw:5 POp:1 TOp:0 MIn:9 strTokens pRetArray"),
+    method<XL<&LetDownValve>>(0xaa, "XLLetDownValve", "HIn:5 PIn:1 POut:1 strTokens pRetArray"),
+    method<XL<&Boiler>>(0xab, "XLBoiler",
+                        "HIn:5 Mout:9 TOut:0 POut:1 BRatio:12 strTokens pRetArray"),
+    method<XL<&FlashVessel>>(0xac, "XLFlashVessel", "MIn:9 HIn:5 POp:1 strTokens pRetArray"),
+    method<XL<&GasTurbineA>>(0xad, "XLGasTurbineA",
+                             "GTPower:22 FPRatio AirTemp:0 ExhaustTemp:0 SteamPress:1 SteamTemp:0 "
+                             "BFWTemp:0 SteamDemand:9 DTMin:25 MinO2Stack strTokens pRetArray"),
+    method<XL<&ThermoCompressorA>>(0xae, "XLThermoCompressorA",
+                                   "MSP:1 MST:0 MSF:9 SSP:1 SST:0 SSF:9 strTokens pRetArray"),
+    method<XL<&ThermoCompressorB>>(0xaf, "XLThermoCompressorB",
+                                   "MSP:1 MST:0 SSP:1 SST:0 DSP:1 HXDuty:10 strTokens pRetArray"),
+    method<XL<&ThermoCompressorC>>(0xb0, "XLThermoCompressorC",
+                                   "MSP:1 MST:0 SSP:1 SST:0 DSP:1 DSF:9 strTokens pRetArray"),
+    method<XL<&ThermoCompressorD>>(0xb1, "XLThermoCompressorD",
+                                   "MSP:1 MST:0 SSP:1 SST:0 DSP:1 SSF:9 strTokens pRetArray"),
+    method<XL<&ThermoCompressorE>>(0xb2, "XLThermoCompressorE",
+                                   "MSP:1 MST:0 SSP:1 SST:0 DSP:1 MSF:9 strTokens pRetArray"),
+    method<XL<&ThermoCompressorF>>(0xb3, "XLThermoCompressorF",
+                                   "MSP:1 MST:0 SSP:1 SST:0 SSF:9 HXDuty:10 strTokens pRetArray"),
+    method<XL<&ThermoCompressorG>>(0xb4, "XLThermoCompressorG",
+                                   "MSP:1 MST:0 SSP:1 SST:0 MSF:9 HXDuty:10 strTokens pRetArray"),
     setting<&Engine::AppLevel, &Engine::SetAppLevel>(0xb5, "AppLevel"),
+    method<XL<&HeatExchangerA>>(
+        0xb6, "XLHeatExchangerA",
+        "ColdFlowIn:9 ColdPressureIn:1 ColdDP:26 ColdTempIn:0 ColdTempOut:0 ColdQualityIn:7 "
+        "ColdQualityOut:7 HotPressureIn:1 HotDP:26 HotTempIn:0 HotTempOut:0 HotQualityIn:7 "
+        "HotQualityOut:7 strTokens pRetArray"),
+    method<XL<&HeatExchangerB>>(
+        0xb7, "XLHeatExchangerB",
+        "ColdFlowIn:9 ColdPressureIn:1 ColdDP:26 ColdTempIn:0 HXDuty:10 ColdQualityIn:7 "
+        "ColdQualityOut:7 HotPressureIn:1 HotDP:26 HotTempIn:0 HotTempOut:0 HotQualityIn:7 "
+        "HotQualityOut:7 strTokens pRetArray"),
     setting<&Engine::ReturnModelTokens, &Engine::SetReturnModelTokens>(0xb8, "ReturnModelTokens"),
     action<&Engine::GetAlarms>(0xb9, "GetAlarms", "pAlarmArray"),
     setting<&Engine::AppName, &Engine::SetAppName>(0xbc, "AppName"),
@@ -228,16 +291,28 @@ constexpr Member members[] = {
     method<&Engine::QTS_PH>(0xc6, "QTS_PH", "pQ:7 pT:0 pS:4 P:1 H:5"),
     method<&DeSuperHeaterB>(0xc7, "DeSuperHeaterB",
                             "pHs:5 pMw:9 pMs:9 HIn:5 Hw:5 POp:1 TOp:0 Mout:9"),
+    method<XL<&DeSuperHeaterB>>(0xc8, "XLDeSuperHeaterB",
+                                "HIn:5 Hw:5 POp:1 TOp:0 Mout:9 strTokens pRetArray"),
     model<&TurbineE>(
         0xc9, "TurbineE",
         "pPower:22 pTOut:0 pHOut:5 pQOut:7 pSOut:4 HIn:5 PIn:1 POut:1 Eff:11 MIn:9 SIn:4"),
+    method<XL<&TurbineE>>(0xca, "XLTurbineE",
+                          "HIn:5 PIn:1 POut:1 Eff:11 MIn:9 SIn:4 strTokens pRetArray"),
     method<&Engine::SetCustomUserUnitIndex>(0xcb, "SetCustomUserUnitIndex",
                                             "nGroupID newVal CFactor COffset"),
     method<&SolvePoly5>(0xcc, "SolvePoly5", "T2 a b c d e f T1"),
     method<&WaterPump>(0xcd, "WaterPump", "pHOut:5 pPower:22 HIn:5 PIn:1 POut:1 m:9 Eff:11"),
+    method<XL<&WaterPump>>(0xce, "XLWaterPump",
+                           "HIn:5 PIn:1 POut:1 m:9 Eff:11 strTokens pRetArray"),
+    method<XL<&ThermoCompA>>(0xcf, "XLThermoCompA",
+                             "Hms:5 pMs:1 Hss:5 Pss:1 Pds:1 Rs:12 strTokens pRetArray"),
+    method<XL<&ThermoCompB>>(0xd0, "XLThermoCompB",
+                             "Hms:5 pMs:1 Hss:5 Pss:1 Pds:1 PF:12 strTokens pRetArray"),
     method<&Boiler_B>(0xd1, "Boiler_B",
                       "pMBd:9 pDuty:10 pHOut:5 pHBd:5 pMIn:9 pQFired:10 HIn:5 Mout:9 TOut:0 POut:1 "
                       "BRatio:12 Eff:11"),
+    method<XL<&Boiler_B>>(0xd2, "XLBoiler_B",
+                          "HIn:5 Mout:9 TOut:0 POut:1 BRatio:12 Eff:11 strTokens pRetArray"),
     method<&Engine::VSatTQ>(0xd3, "VSatTQ", "pV:3 T:0 Q:7"),
     method<&Engine::VSatPQ>(0xd4, "VSatPQ", "pV:3 P:1 Q:7"),
 };
