@@ -71,8 +71,8 @@ struct Stages {
   std::span<const Outlet> outlets;
   bool wantsTQ;             // of the last outlet
   double* lastS = nullptr;  // where its entropy is wanted too
-  bool entropyAfresh =
-      false;  // the last stage's from its inlet enthalpy, not from the stage before
+  // The last stage asks for its inlet entropy itself rather than take that of the stage before.
+  bool entropyAfresh = false;
 
   [[nodiscard]] const OutletTexts& texts(std::size_t k) const {
     return outlets.size() == 1 ? onlyOutlet : outletOfSeveral[k];
