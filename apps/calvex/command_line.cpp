@@ -108,8 +108,9 @@ ExitStatus dispatch(Words words, Console& console) {
     };
     if (asks("-h") || asks("--help")) return helpCommand({}, console);
     if (asks("--version")) return versionCommand({}, console);
-    throw UsageError("what is to be computed? For example: calvex HPT 10 773.15\n"
-                     "'calvex --help' explains members, commands and options");
+    throw UsageError(
+        "what is to be computed? For example: calvex HPT 10 773.15\n"
+        "'calvex --help' explains members, commands and options");
   }
   std::rotate(words.begin(), first, first + 1);
   if (const Command* command = findCommand(words.front())) {
@@ -189,12 +190,12 @@ bool parseAround(CommandOptions& app, Words& words, Console& console) {
   for (const std::string& word : words) {
     // What begins like a number is one, or refused as one with a better reason (-inf).
     const std::string letters = lowerCase(word).substr(0, 4);
-    const bool number = word.size() > 1 && std::string_view(".0123456789").find(word[1]) !=
-                                               std::string_view::npos;
+    const bool number =
+        word.size() > 1 && std::string_view(".0123456789").find(word[1]) != std::string_view::npos;
     if (word.starts_with('-') && word.size() > 1 && !number && letters != "-inf" &&
         letters != "-nan") {
-      throw UsageError(fmt::format("there is no option {}\n'{}' lists them", inQuotes(word),
-                                   app.helpCommand()));
+      throw UsageError(
+          fmt::format("there is no option {}\n'{}' lists them", inQuotes(word), app.helpCommand()));
     }
   }
   words.insert(words.end(), literal.begin(), literal.end());

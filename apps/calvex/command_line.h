@@ -49,9 +49,9 @@ class CommandOptions : public CLI::App {
 /// False when help was asked for and printed. Throws UsageError.
 bool parse(CommandOptions& app, const Words& words, Console& console);
 
-/// For commands that take negative numbers: has the options among `words` parsed and leaves the rest
-/// in order. Everything behind "--" is left. Answers and throws as above, UsageError also for an
-/// option that does not exist.
+/// For commands that take negative numbers: has the options among `words` parsed and leaves the
+/// rest in order. Everything behind "--" is left. Answers and throws as above, UsageError also for
+/// an option that does not exist.
 bool parseAround(CommandOptions& app, Words& words, Console& console);
 
 }  // namespace calvex::cli

@@ -14,19 +14,19 @@ namespace calvex::cli {
 ExitStatus convertCommand(Words words, Console& console) {
   CommandOptions app("convert", "convert GROUP VALUE FROM TO [--json]",
                      "Converts a value of a quantity from one unit to another.");
-  app.footer("Examples:\n"
-             "  calvex convert P 100 psia bara\n"
-             "  calvex convert T -40 C F\n"
-             "'calvex units' lists the groups, 'calvex units GROUP' the units of one.");
+  app.footer(
+      "Examples:\n"
+      "  calvex convert P 100 psia bara\n"
+      "  calvex convert T -40 C F\n"
+      "'calvex units' lists the groups, 'calvex units GROUP' the units of one.");
   bool json = false;
   app.add_flag("--json", json, "Print JSON");
   if (!parseAround(app, words, console)) return ExitStatus::ok;
   if (words.size() != 4) {
-    throw UsageError(fmt::format("convert takes GROUP VALUE FROM TO, as in 'calvex convert P 100 "
-                                 "psia bara', but {} given",
-                                 words.size() == 1
-                                     ? "1 argument was"
-                                     : fmt::format("{} arguments were", words.size())));
+    throw UsageError(fmt::format(
+        "convert takes GROUP VALUE FROM TO, as in 'calvex convert P 100 "
+        "psia bara', but {} given",
+        words.size() == 1 ? "1 argument was" : fmt::format("{} arguments were", words.size())));
   }
   const std::string& keyword = words[0];
   const UnitGroup group = findGroup(keyword);
