@@ -126,14 +126,14 @@ Call prepare(const Member& member, std::span<const std::string> words, const Use
   if (call.isPut) wanted = {&member.parameters().front()};
   if (words.size() != wanted.size()) {
     const std::size_t count = wanted.size();
-    throw UsageError(fmt::format(
-        "{} takes {}{}{}, but {} given", member.name,
-        count == 0   ? "no arguments"
-        : count == 1 ? member.isProperty ? "one new value" : "one argument"
-                     : fmt::format("{} arguments", count),
-        count == 0 || member.isProperty ? "" : ": ",
-        member.isProperty ? "" : describeInputs(member, units),
-        words.size() == 1 ? "1 was" : fmt::format("{} were", words.size())));
+    throw UsageError(
+        fmt::format("{} takes {}{}{}, but {} given", member.name,
+                    count == 0   ? "no arguments"
+                    : count == 1 ? member.isProperty ? "one new value" : "one argument"
+                                 : fmt::format("{} arguments", count),
+                    count == 0 || member.isProperty ? "" : ": ",
+                    member.isProperty ? "" : describeInputs(member, units),
+                    words.size() == 1 ? "1 was" : fmt::format("{} were", words.size())));
   }
   call.arguments.resize(member.parameters().size());
   for (std::size_t i = 0; i < words.size(); ++i) {
@@ -160,8 +160,10 @@ Outcome perform(Client& client, Call call) {
 std::string failureText(const Outcome& outcome) {
   const std::string_view name = outcome.call.member->name;
   if (!outcome.tracing) {
-    return fmt::format("{} failed; tracing is off, so no reason was recorded "
-                       "(FunctionCallTracing 1 turns it on)", name);
+    return fmt::format(
+        "{} failed; tracing is off, so no reason was recorded "
+        "(FunctionCallTracing 1 turns it on)",
+        name);
   }
   if (!outcome.reasonRecorded) return fmt::format("{} failed and gave no reason", name);
   return fmt::format("{} failed: {}", name, outcome.lastError);

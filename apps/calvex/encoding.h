@@ -14,8 +14,8 @@ std::optional<char32_t> takeCharacter(std::string_view& utf8);
 
 void appendUtf8(std::string& utf8, char32_t character);
 
-/// The five bytes without a character (81, 8D, 8F, 90, 9D) become the control characters of the same
-/// number, so that every byte survives the way there and back.
+/// The five bytes without a character (81, 8D, 8F, 90, 9D) become the control characters of the
+/// same number, so that every byte survives the way there and back.
 [[nodiscard]] std::string toUtf8(std::string_view windows1252);
 
 /// Nothing when the text is not UTF-8 or has a character that Windows-1252 lacks.

@@ -116,12 +116,12 @@ std::string signature(const Member& member) {
 // need, in internal units. By name where the unit does not tell the quantity.
 double sampleNumber(const Parameter& parameter, bool saturated) {
   const std::map<UnitGroup, double> steam = {
-      {UnitGroup::temperature, 773.15}, {UnitGroup::pressure, 10.0},
-      {UnitGroup::density, 30.5},       {UnitGroup::specificVolume, 0.0328},
-      {UnitGroup::entropy, 6.6},        {UnitGroup::enthalpy, 3374.0},
+      {UnitGroup::temperature, 773.15},    {UnitGroup::pressure, 10.0},
+      {UnitGroup::density, 30.5},          {UnitGroup::specificVolume, 0.0328},
+      {UnitGroup::entropy, 6.6},           {UnitGroup::enthalpy, 3374.0},
       {UnitGroup::internalEnergy, 3046.0}, {UnitGroup::quality, 0.5},
-      {UnitGroup::massFlow, 10.0},      {UnitGroup::heatDuty, 1000.0},
-      {UnitGroup::efficiency, 0.8},     {UnitGroup::ratio, 0.1},
+      {UnitGroup::massFlow, 10.0},         {UnitGroup::heatDuty, 1000.0},
+      {UnitGroup::efficiency, 0.8},        {UnitGroup::ratio, 0.1},
       {UnitGroup::power, 1000.0},
   };
   if (saturated && parameter.group == static_cast<short>(UnitGroup::temperature)) return 500.0;
@@ -170,6 +170,7 @@ std::string describe(const char* title, const Member& member,
                      const std::vector<const Parameter*>& parameters, const UserUnits& units) {
   if (parameters.empty()) return {};
   std::vector<std::vector<std::string>> rows;
+  rows.reserve(parameters.size());
   for (const Parameter* parameter : parameters) {
     rows.push_back({std::string(outputName(member, *parameter)), std::string(meaning(*parameter)),
                     currentUnit(units, parameter->group)});
@@ -195,14 +196,15 @@ std::string explain(const Member& member, const ClientOptions& options) {
 
 }  // namespace
 
-ExitStatus membersCommand(Words words, Console& console) {
+ExitStatus membersCommand(const Words& words, Console& console) {
   CommandOptions app("members", "members [PATTERN] [-u GROUP=UNIT]",
                      "Lists members with what they take and answer, or explains one.");
-  app.footer("Examples:\n"
-             "  calvex members            all\n"
-             "  calvex members 'h*t*'     those whose name matches\n"
-             "  calvex members sat        those with these letters in their name\n"
-             "  calvex members HPT        explains one");
+  app.footer(
+      "Examples:\n"
+      "  calvex members            all\n"
+      "  calvex members 'h*t*'     those whose name matches\n"
+      "  calvex members sat        those with these letters in their name\n"
+      "  calvex members HPT        explains one");
   std::string pattern;
   ClientOptions options;
   app.add_option("PATTERN", pattern,

@@ -22,8 +22,10 @@ double parseNumber(std::string_view word) {
                                  comma ? "; the decimal sign is a point, as in 1013.25" : ""));
   }
   if (error == std::errc::result_out_of_range) {
-    throw UsageError(fmt::format("{} is beyond the numbers that can be computed with "
-                                 "(about 1e-308 to 1e308)", inQuotes(word)));
+    throw UsageError(
+        fmt::format("{} is beyond the numbers that can be computed with "
+                    "(about 1e-308 to 1e308)",
+                    inQuotes(word)));
   }
   if (!std::isfinite(value)) {
     throw UsageError(fmt::format("{} is not a finite number", inQuotes(word)));

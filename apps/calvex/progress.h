@@ -14,8 +14,7 @@ class Progress {
   using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
   /// Nothing is drawn unless `shown`.
-  Progress(std::ostream& err, long total, bool shown,
-           Clock now = std::chrono::steady_clock::now);
+  Progress(std::ostream& err, long total, bool shown, Clock now = std::chrono::steady_clock::now);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;

@@ -1,11 +1,11 @@
 // calvex run [FILE|-]
+#include <fmt/format.h>
+
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <istream>
-
-#include <fmt/format.h>
 
 #include "command_line.h"
 #include "encoding.h"
@@ -13,16 +13,17 @@
 
 namespace calvex::cli {
 
-ExitStatus runCommand(Words words, Console& console) {
+ExitStatus runCommand(const Words& words, Console& console) {
   CommandOptions app("run", "run [FILE|-] [OPTIONS]",
                      "Runs a script with one client object: one call a line.");
-  app.footer("A line is a member and its arguments, or a setting with or without a new value:\n"
-             "  HPT 10 773.15\n"
-             "  SetUserUnit P \"ft H2O\"      # texts with blanks stand in quotes\n"
-             "  TraceLevel 2\n"
-             "Two more words: 'trace' prints the tree of traced calls, 'reset' makes a new client\n"
-             "object. A line that cannot be run is reported and the next one runs.\n"
-             "Exit status: 2 when a line could not be run, else 1 when a call failed, else 0.");
+  app.footer(
+      "A line is a member and its arguments, or a setting with or without a new value:\n"
+      "  HPT 10 773.15\n"
+      "  SetUserUnit P \"ft H2O\"      # texts with blanks stand in quotes\n"
+      "  TraceLevel 2\n"
+      "Two more words: 'trace' prints the tree of traced calls, 'reset' makes a new client\n"
+      "object. A line that cannot be run is reported and the next one runs.\n"
+      "Exit status: 2 when a line could not be run, else 1 when a call failed, else 0.");
   std::string file = "-";
   ClientOptions options;
   app.add_option("FILE", file, "The script; - or nothing: standard input")->type_name("");

@@ -73,9 +73,8 @@ std::string takeQuoted(std::string_view& line) {
 }
 
 std::string takeWord(std::string_view& line) {
-  const std::size_t length =
-      std::min(line.size(), static_cast<std::size_t>(std::ranges::find_if(line, isBlank) -
-                                                     line.begin()));
+  const std::size_t length = std::min(
+      line.size(), static_cast<std::size_t>(std::ranges::find_if(line, isBlank) - line.begin()));
   const std::string_view word = line.substr(0, length);
   if (word.find('"') != std::string_view::npos) {
     throw UsageError(fmt::format("{}: a quote inside a word; quotes stand around the whole text",

@@ -16,9 +16,9 @@ namespace calvex::cli {
 /// where a word could begin starts a comment. Throws UsageError.
 [[nodiscard]] std::vector<std::string> splitLine(std::string_view line);
 
-/// Runs one call a line with one client object; answers of `out`, reasons of failures to `err`, both
-/// flushed whenever no more input is waiting. Any bytes may come in; a line that cannot be run is
-/// reported and the next one runs. Throws Failure only when the options are wrong.
+/// Runs one call a line with one client object; answers of `out`, reasons of failures to `err`,
+/// both flushed whenever no more input is waiting. Any bytes may come in; a line that cannot be run
+/// is reported and the next one runs. Throws Failure only when the options are wrong.
 ///
 /// Answers usage when a line could not be run, else callFailed when a call failed.
 ExitStatus runScript(std::istream& in, std::ostream& out, std::ostream& err,

@@ -8,11 +8,12 @@
 
 namespace calvex::cli {
 
-/// Insertions, deletions, replacements and swaps of neighbours that turn one into the other, whatever
-/// the case.
+/// Insertions, deletions, replacements and swaps of neighbours that turn one into the other,
+/// whatever the case.
 [[nodiscard]] std::size_t editDistance(std::string_view a, std::string_view b);
 
-/// The nearest of these names, best first, and those that the word begins; none when nothing is near.
+/// The nearest of these names, best first, and those that the word begins; none when nothing is
+/// near.
 [[nodiscard]] std::vector<std::string> nearest(std::string_view word,
                                                const std::vector<std::string>& names);
 

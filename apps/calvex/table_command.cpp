@@ -23,18 +23,16 @@ struct Column {
 };
 
 constexpr Column saturationByT[] = {
-    {"P", "PSatT"},         {"v_liq", "VSatTQ", 0}, {"v_vap", "VSatTQ", 1},
-    {"h_liq", "HSatTQ", 0}, {"h_vap", "HSatTQ", 1}, {"s_liq", "SSatTQ", 0},
-    {"s_vap", "SSatTQ", 1},
+    {"P", "PSatT"},         {"v_liq", "VSatTQ", 0}, {"v_vap", "VSatTQ", 1}, {"h_liq", "HSatTQ", 0},
+    {"h_vap", "HSatTQ", 1}, {"s_liq", "SSatTQ", 0}, {"s_vap", "SSatTQ", 1},
 };
 constexpr Column saturationByP[] = {
-    {"T", "TSatP"},         {"v_liq", "VSatPQ", 0}, {"v_vap", "VSatPQ", 1},
-    {"h_liq", "HSatPQ", 0}, {"h_vap", "HSatPQ", 1}, {"s_liq", "SSatPQ", 0},
-    {"s_vap", "SSatPQ", 1},
+    {"T", "TSatP"},         {"v_liq", "VSatPQ", 0}, {"v_vap", "VSatPQ", 1}, {"h_liq", "HSatPQ", 0},
+    {"h_vap", "HSatPQ", 1}, {"s_liq", "SSatPQ", 0}, {"s_vap", "SSatPQ", 1},
 };
 constexpr Column isobar[] = {
-    {"v", "VPT"},  {"rho", "RPT"}, {"h", "HPT"},  {"s", "SPT"},
-    {"u", "UPT"},  {"cp", "CPT"},  {"w", "WPT"},
+    {"v", "VPT"}, {"rho", "RPT"}, {"h", "HPT"}, {"s", "SPT"},
+    {"u", "UPT"}, {"cp", "CPT"},  {"w", "WPT"},
 };
 
 struct Range {
@@ -56,8 +54,8 @@ struct Range {
 
 struct Table {
   std::span<const Column> columns;
-  char key;                   ///< T or P, which the range is about
-  double fixed = 0.0;         ///< the other one, of an isobar
+  char key;            ///< T or P, which the range is about
+  double fixed = 0.0;  ///< the other one, of an isobar
   Range range;
   bool csv;
 };
@@ -128,13 +126,13 @@ ExitStatus print(const Table& table, Client& client, Console& console) {
   Sheet sheet(console.out, table.csv);
 
   std::vector<std::string> titles = {std::string(1, table.key)};
-  std::vector<std::string> units = {
-      currentUnit(client.units(), static_cast<int>(table.key == 'T' ? UnitGroup::temperature
-                                                                    : UnitGroup::pressure))};
+  std::vector<std::string> units = {currentUnit(
+      client.units(),
+      static_cast<int>(table.key == 'T' ? UnitGroup::temperature : UnitGroup::pressure))};
   for (const Column& column : table.columns) {
     titles.emplace_back(column.title);
-    units.push_back(currentUnit(client.units(),
-                                findMember(column.member)->parameters().front().group));
+    units.push_back(
+        currentUnit(client.units(), findMember(column.member)->parameters().front().group));
   }
   if (table.csv) {
     for (std::size_t i = 0; i < titles.size(); ++i) {
@@ -176,47 +174,51 @@ ExitStatus print(const Table& table, Client& client, Console& console) {
 
 }  // namespace
 
-ExitStatus tableCommand(Words words, Console& console) {
+ExitStatus tableCommand(const Words& words, Console& console) {
   CommandOptions app("table",
                      "table saturation [--by T|P] --from X --to X --step X [OPTIONS]\n"
                      "       calvex table isobar PRESSURE --from T --to T --step T [OPTIONS]",
                      "Prints a table of saturated states, or of states at one pressure.");
-  app.footer("Examples:\n"
-             "  calvex table saturation --from 300 --to 640 --step 20\n"
-             "  calvex table saturation --by P --from 1 --to 10 --step 1 -u P=bara -u T=C\n"
-             "  calvex table isobar 10 --from 600 --to 900 --step 50 --csv > isobar.csv\n"
-             "Values are in the chosen units. A line that fails says why, and the exit status is 1.");
+  app.footer(
+      "Examples:\n"
+      "  calvex table saturation --from 300 --to 640 --step 20\n"
+      "  calvex table saturation --by P --from 1 --to 10 --step 1 -u P=bara -u T=C\n"
+      "  calvex table isobar 10 --from 600 --to 900 --step 50 --csv > isobar.csv\n"
+      "Values are in the chosen units. A line that fails says why, and the exit status is 1.");
   std::string by = "T", from, to, step;
   bool csv = false;
   ClientOptions options;
-  app.add_option("--by", by, "What a saturation table runs over (T)")
-      ->type_name("T|P");
+  app.add_option("--by", by, "What a saturation table runs over (T)")->type_name("T|P");
   app.add_option("--from", from, "First value")->required()->type_name("X");
   app.add_option("--to", to, "Last value")->required()->type_name("X");
   app.add_option("--step", step, "Difference between lines")->required()->type_name("X");
   app.add_flag("--csv", csv, "Comma-separated, with all digits");
   options.addUnitsTo(app);
   options.addSettingsTo(app);
-  if (!parseAround(app, words, console)) return ExitStatus::ok;
+  const std::optional<Words> rest = parseAround(app, words, console);
+  if (!rest) return ExitStatus::ok;
+  const Words& operands = *rest;
 
   if (by != "T" && by != "P") {
     throw UsageError(fmt::format("--by takes T or P, not {}", inQuotes(by)));
   }
-  const std::string kind = words.empty() ? std::string() : words.front();
+  const std::string kind = operands.empty() ? std::string() : operands.front();
   Table table{{}, by.front(), 0.0, {parseNumber(from), parseNumber(to), parseNumber(step)}, csv};
-  if (kind == "saturation" && words.size() == 1) {
+  if (kind == "saturation" && operands.size() == 1) {
     table.columns = std::span<const Column>(saturationByT);
     if (table.key == 'P') table.columns = saturationByP;
-  } else if (kind == "isobar" && words.size() == 2) {
+  } else if (kind == "isobar" && operands.size() == 2) {
     if (app.count("--by") != 0) throw UsageError("--by is for saturation tables");
     table.columns = isobar;
-    table.fixed = parseNumber(words[1]);
+    table.fixed = parseNumber(operands[1]);
   } else if (kind == "isobar") {
-    throw UsageError("isobar takes one pressure, as in 'calvex table isobar 10 --from 600 --to 900 "
-                     "--step 50'");
+    throw UsageError(
+        "isobar takes one pressure, as in 'calvex table isobar 10 --from 600 --to 900 "
+        "--step 50'");
   } else {
-    throw UsageError("table takes 'saturation' or 'isobar PRESSURE'\n'calvex help table' explains "
-                     "it");
+    throw UsageError(
+        "table takes 'saturation' or 'isobar PRESSURE'\n'calvex help table' explains "
+        "it");
   }
   Client client;
   options.applyTo(client);

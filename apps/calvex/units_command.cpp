@@ -41,7 +41,8 @@ std::string listUnits(UnitGroup group) {
   const UnitGroupRow& fixed = row(group);
   Rows rows = {{"unit", "factor", "offset"}};
   for (const ZvUomLiteKeyword& unit : fixed.units) {
-    rows.push_back({toUtf8(unit.name), readableText(unit.factor, 15), readableText(unit.offset, 15)});
+    rows.push_back(
+        {toUtf8(unit.name), readableText(unit.factor, 15), readableText(unit.offset, 15)});
   }
   return fmt::format("{}; default unit {}\n\n{}\nvalue in {} = (value + offset) x factor\n",
                      fixed.displayName, toUtf8(fixed.internalUnit), indented(aligned(rows)),
@@ -50,12 +51,13 @@ std::string listUnits(UnitGroup group) {
 
 }  // namespace
 
-ExitStatus unitsCommand(Words words, Console& console) {
+ExitStatus unitsCommand(const Words& words, Console& console) {
   CommandOptions app("units", "units [GROUP]",
                      "Lists the quantities that have a unit, or the units of one quantity.");
-  app.footer("Examples:\n"
-             "  calvex units\n"
-             "  calvex units Pressure");
+  app.footer(
+      "Examples:\n"
+      "  calvex units\n"
+      "  calvex units Pressure");
   std::string keyword;
   app.add_option("GROUP", keyword, "A word that selects the quantity, such as P or Pressure")
       ->type_name("");
