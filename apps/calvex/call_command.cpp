@@ -38,7 +38,7 @@ ExitStatus callMember(const Words& words, const ClientOptions& options, Console&
 
 }  // namespace
 
-ExitStatus callCommand(Words words, Console& console) {
+ExitStatus callCommand(const Words& words, Console& console) {
   CommandOptions app("", "MEMBER ARGUMENT... [OPTIONS]", "Calls a member of the engine.");
   ClientOptions options;
   options.addUnitsTo(app);
@@ -48,10 +48,11 @@ ExitStatus callCommand(Words words, Console& console) {
   app.set_help_flag();
   bool help = false;
   app.add_flag("-h,--help", help, "Explain the member");
-  if (!parseAround(app, words, console)) return ExitStatus::ok;
+  const std::optional<Words> call = parseAround(app, words, console);
+  if (!call) return ExitStatus::ok;
   if (help) return membersCommand({std::string(memberNamed(words.front()).name)}, console);
   try {
-    return callMember(words, options, console);
+    return callMember(*call, options, console);
   } catch (const Failure& failure) {
     if (options.json) fmt::print(console.out, "{}\n", errorJson(failure.what()));
     throw;

@@ -15,14 +15,14 @@ namespace calvex::cli {
 
 namespace {
 
-ExitStatus helpCommand(Words words, Console& console);
-ExitStatus versionCommand(Words words, Console& console);
+ExitStatus helpCommand(const Words& words, Console& console);
+ExitStatus versionCommand(const Words& words, Console& console);
 
 struct Command {
   std::string_view name;
   std::string_view form;
   std::string_view summary;
-  ExitStatus (*run)(Words words, Console& console);
+  ExitStatus (*run)(const Words& words, Console& console);
 };
 
 constexpr std::array<Command, 7> commands = {{
@@ -67,7 +67,7 @@ std::string generalHelp() {
   return text;
 }
 
-ExitStatus helpCommand(Words words, Console& console) {
+ExitStatus helpCommand(const Words& words, Console& console) {
   if (words.empty() || words.front().starts_with('-')) {
     console.out << generalHelp();
     return ExitStatus::ok;
@@ -82,7 +82,7 @@ ExitStatus helpCommand(Words words, Console& console) {
   return membersCommand({std::string(memberNamed(words.front()).name)}, console);
 }
 
-ExitStatus versionCommand(Words /*words*/, Console& console) {
+ExitStatus versionCommand(const Words& /*words*/, Console& console) {
   Client client;
   fmt::print(console.out, "calvex {}\n", client.engine().VersionStr());
   return ExitStatus::ok;
@@ -180,14 +180,12 @@ bool parse(CommandOptions& app, const Words& words, Console& console) {
   return true;
 }
 
-bool parseAround(CommandOptions& app, Words& words, Console& console) {
+std::optional<Words> parseAround(CommandOptions& app, const Words& words, Console& console) {
   const auto mark = std::ranges::find(words, "--");
-  const Words literal(mark == words.end() ? mark : mark + 1, words.end());
-  words.erase(mark, words.end());
   app.allow_extras();
-  if (!parse(app, words, console)) return false;
-  words = app.remaining();
-  for (const std::string& word : words) {
+  if (!parse(app, Words(words.begin(), mark), console)) return std::nullopt;
+  Words rest = app.remaining();
+  for (const std::string& word : rest) {
     // What begins like a number is one, or refused as one with a better reason (-inf).
     const std::string letters = lowerCase(word).substr(0, 4);
     const bool number =
@@ -198,8 +196,8 @@ bool parseAround(CommandOptions& app, Words& words, Console& console) {
           fmt::format("there is no option {}\n'{}' lists them", inQuotes(word), app.helpCommand()));
     }
   }
-  words.insert(words.end(), literal.begin(), literal.end());
-  return true;
+  if (mark != words.end()) rest.insert(rest.end(), mark + 1, words.end());
+  return rest;
 }
 
 }  // namespace calvex::cli

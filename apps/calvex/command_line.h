@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 #include <iosfwd>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,12 +28,12 @@ ExitStatus runCommandLine(Words words, Console& console);
 // The commands; `words` are those after the command's name. They throw Failure.
 
 /// `words` begin with the member's name.
-ExitStatus callCommand(Words words, Console& console);
-ExitStatus membersCommand(Words words, Console& console);
-ExitStatus unitsCommand(Words words, Console& console);
-ExitStatus convertCommand(Words words, Console& console);
-ExitStatus tableCommand(Words words, Console& console);
-ExitStatus runCommand(Words words, Console& console);
+ExitStatus callCommand(const Words& words, Console& console);
+ExitStatus membersCommand(const Words& words, Console& console);
+ExitStatus unitsCommand(const Words& words, Console& console);
+ExitStatus convertCommand(const Words& words, Console& console);
+ExitStatus tableCommand(const Words& words, Console& console);
+ExitStatus runCommand(const Words& words, Console& console);
 
 /// The words and options of a command.
 class CommandOptions : public CLI::App {
@@ -49,9 +50,9 @@ class CommandOptions : public CLI::App {
 /// False when help was asked for and printed. Throws UsageError.
 bool parse(CommandOptions& app, const Words& words, Console& console);
 
-/// For commands that take negative numbers: has the options among `words` parsed and leaves the
-/// rest in order. Everything behind "--" is left. Answers and throws as above, UsageError also for
-/// an option that does not exist.
-bool parseAround(CommandOptions& app, Words& words, Console& console);
+/// For commands that take negative numbers: parses the options among the words and answers the rest
+/// in order, with everything behind "--"; nothing when help was asked for and printed. Throws
+/// UsageError, also for an option that does not exist.
+std::optional<Words> parseAround(CommandOptions& app, const Words& words, Console& console);
 
 }  // namespace calvex::cli

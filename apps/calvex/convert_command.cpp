@@ -11,7 +11,7 @@
 
 namespace calvex::cli {
 
-ExitStatus convertCommand(Words words, Console& console) {
+ExitStatus convertCommand(const Words& words, Console& console) {
   CommandOptions app("convert", "convert GROUP VALUE FROM TO [--json]",
                      "Converts a value of a quantity from one unit to another.");
   app.footer(
@@ -21,21 +21,24 @@ ExitStatus convertCommand(Words words, Console& console) {
       "'calvex units' lists the groups, 'calvex units GROUP' the units of one.");
   bool json = false;
   app.add_flag("--json", json, "Print JSON");
-  if (!parseAround(app, words, console)) return ExitStatus::ok;
-  if (words.size() != 4) {
-    throw UsageError(fmt::format(
-        "convert takes GROUP VALUE FROM TO, as in 'calvex convert P 100 "
-        "psia bara', but {} given",
-        words.size() == 1 ? "1 argument was" : fmt::format("{} arguments were", words.size())));
+  const std::optional<Words> rest = parseAround(app, words, console);
+  if (!rest) return ExitStatus::ok;
+  const Words& operands = *rest;
+  if (operands.size() != 4) {
+    throw UsageError(
+        fmt::format("convert takes GROUP VALUE FROM TO, as in 'calvex convert P 100 "
+                    "psia bara', but {} given",
+                    operands.size() == 1 ? "1 argument was"
+                                         : fmt::format("{} arguments were", operands.size())));
   }
-  const std::string& keyword = words[0];
+  const std::string& keyword = operands[0];
   const UnitGroup group = findGroup(keyword);
-  const double value = parseNumber(words[1]);
-  const std::string from = toUtf8(findUnit(group, words[2]).name);
-  const std::string to = toUtf8(findUnit(group, words[3]).name);
+  const double value = parseNumber(operands[1]);
+  const std::string from = toUtf8(findUnit(group, operands[2]).name);
+  const std::string to = toUtf8(findUnit(group, operands[3]).name);
 
   Client client;
-  const Words arguments = {keyword, from, to, words[1]};
+  const Words arguments = {keyword, from, to, operands[1]};
   const Outcome outcome =
       perform(client, prepare(*findMember("Convert"), arguments, client.units()));
   if (json) {

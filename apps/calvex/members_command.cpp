@@ -170,6 +170,7 @@ std::string describe(const char* title, const Member& member,
                      const std::vector<const Parameter*>& parameters, const UserUnits& units) {
   if (parameters.empty()) return {};
   std::vector<std::vector<std::string>> rows;
+  rows.reserve(parameters.size());
   for (const Parameter* parameter : parameters) {
     rows.push_back({std::string(outputName(member, *parameter)), std::string(meaning(*parameter)),
                     currentUnit(units, parameter->group)});
@@ -195,7 +196,7 @@ std::string explain(const Member& member, const ClientOptions& options) {
 
 }  // namespace
 
-ExitStatus membersCommand(Words words, Console& console) {
+ExitStatus membersCommand(const Words& words, Console& console) {
   CommandOptions app("members", "members [PATTERN] [-u GROUP=UNIT]",
                      "Lists members with what they take and answer, or explains one.");
   app.footer(

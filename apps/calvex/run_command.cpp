@@ -13,7 +13,7 @@
 
 namespace calvex::cli {
 
-ExitStatus runCommand(Words words, Console& console) {
+ExitStatus runCommand(const Words& words, Console& console) {
   CommandOptions app("run", "run [FILE|-] [OPTIONS]",
                      "Runs a script with one client object: one call a line.");
   app.footer(

@@ -39,6 +39,7 @@ std::size_t editDistance(std::string_view a, std::string_view b) {
 std::vector<std::string> nearest(std::string_view word, const std::vector<std::string>& names) {
   constexpr std::size_t longest = 64;  // no name is as long
   constexpr std::size_t most = 4;
+  constexpr std::size_t farthest = 3;
   if (word.empty() || word.size() > longest) return {};
   struct Candidate {
     std::size_t distance;
@@ -47,9 +48,11 @@ std::vector<std::string> nearest(std::string_view word, const std::vector<std::s
   std::vector<Candidate> candidates;
   for (const std::string& name : names) {
     const bool abbreviated = word.size() > 1 && lowerCase(name).starts_with(lowerCase(word));
+    const auto [shorter, longer] = std::minmax({word.size(), name.size()});
+    if (!abbreviated && longer - shorter > farthest) continue;
     const std::size_t distance = abbreviated ? 1 : editDistance(word, name);
     // Half of a name may not be rewritten, or everything short would be near.
-    if (2 * distance <= std::max(word.size(), name.size()) && distance <= 3) {
+    if (2 * distance <= std::max(word.size(), name.size()) && distance <= farthest) {
       candidates.push_back({distance, &name});
     }
   }

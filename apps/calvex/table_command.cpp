@@ -174,7 +174,7 @@ ExitStatus print(const Table& table, Client& client, Console& console) {
 
 }  // namespace
 
-ExitStatus tableCommand(Words words, Console& console) {
+ExitStatus tableCommand(const Words& words, Console& console) {
   CommandOptions app("table",
                      "table saturation [--by T|P] --from X --to X --step X [OPTIONS]\n"
                      "       calvex table isobar PRESSURE --from T --to T --step T [OPTIONS]",
@@ -195,20 +195,22 @@ ExitStatus tableCommand(Words words, Console& console) {
   app.add_flag("--csv", csv, "Comma-separated, with all digits");
   options.addUnitsTo(app);
   options.addSettingsTo(app);
-  if (!parseAround(app, words, console)) return ExitStatus::ok;
+  const std::optional<Words> rest = parseAround(app, words, console);
+  if (!rest) return ExitStatus::ok;
+  const Words& operands = *rest;
 
   if (by != "T" && by != "P") {
     throw UsageError(fmt::format("--by takes T or P, not {}", inQuotes(by)));
   }
-  const std::string kind = words.empty() ? std::string() : words.front();
+  const std::string kind = operands.empty() ? std::string() : operands.front();
   Table table{{}, by.front(), 0.0, {parseNumber(from), parseNumber(to), parseNumber(step)}, csv};
-  if (kind == "saturation" && words.size() == 1) {
+  if (kind == "saturation" && operands.size() == 1) {
     table.columns = std::span<const Column>(saturationByT);
     if (table.key == 'P') table.columns = saturationByP;
-  } else if (kind == "isobar" && words.size() == 2) {
+  } else if (kind == "isobar" && operands.size() == 2) {
     if (app.count("--by") != 0) throw UsageError("--by is for saturation tables");
     table.columns = isobar;
-    table.fixed = parseNumber(words[1]);
+    table.fixed = parseNumber(operands[1]);
   } else if (kind == "isobar") {
     throw UsageError(
         "isobar takes one pressure, as in 'calvex table isobar 10 --from 600 --to 900 "

@@ -51,7 +51,7 @@ std::string listUnits(UnitGroup group) {
 
 }  // namespace
 
-ExitStatus unitsCommand(Words words, Console& console) {
+ExitStatus unitsCommand(const Words& words, Console& console) {
   CommandOptions app("units", "units [GROUP]",
                      "Lists the quantities that have a unit, or the units of one quantity.");
   app.footer(

@@ -1,0 +1,229 @@
+#include <gtest/gtest.h>
+
+#include <bit>
+#include <cstdint>
+
+#include "command_line_harness.h"
+#include "server/zv_calvex.h"
+
+namespace calvex::cli::test {
+namespace {
+
+// Published steam tables: 3373.7 to 3374 kJ/kg.
+constexpr double enthalpyAt10MPa500C = 3373.99804895;
+
+TEST(CallCommand, PrintsNameValueAndUnit) {
+  const Answer answer = calvex({"HPT", "10", "773.15"});
+  EXPECT_EQ(answer.status, 0);
+  EXPECT_EQ(answer.err, "");
+  std::istringstream line(answer.out);
+  std::string name, unit, rest;
+  double value = 0.0;
+  line >> name >> value >> unit;
+  EXPECT_EQ(name, "pH");
+  EXPECT_NEAR(value, enthalpyAt10MPa500C, 1e-9 * enthalpyAt10MPa500C);
+  EXPECT_EQ(unit, "kJ/kg");
+  EXPECT_FALSE(line >> rest) << rest;
+}
+
+TEST(CallCommand, FindsMembersWhateverTheirCase) {
+  EXPECT_EQ(calvex({"hpt", "10", "773.15"}).out, calvex({"HPT", "10", "773.15"}).out);
+}
+
+TEST(CallCommand, AlignsSeveralOutputs) {
+  const Answer answer = calvex({"HVLTSat_PQ", "1", "0.5"});
+  EXPECT_EQ(answer.status, 0);
+  std::istringstream lines(answer.out);
+  std::string line;
+  std::size_t valueColumn = 0;
+  int count = 0;
+  for (; std::getline(lines, line); ++count) {
+    const std::size_t column = line.find_first_of("0123456789");
+    if (count == 0) valueColumn = column;
+    EXPECT_EQ(column, valueColumn) << line;
+  }
+  EXPECT_EQ(count, 4);
+}
+
+TEST(CallCommand, AValueWithoutAUnitStandsAlone) {
+  EXPECT_EQ(calvex({"TraceLevel"}).out, "TraceLevel  0\n");
+  const std::string z = calvex({"ZPT", "0.1", "500"}).out;
+  EXPECT_EQ(z.substr(0, 6), "pZ  0.");
+  EXPECT_EQ(z.find_first_of(' ', 4), std::string::npos) << z;
+}
+
+TEST(CallCommand, TakesUnitsBeforeAndBehindTheMember) {
+  const std::string here = calvex({"HPT", "10", "773.15"}).out;
+  EXPECT_EQ(calvex({"HPT", "100", "500", "-u", "T=C", "-u", "Pressure=bara"}).out, here);
+  EXPECT_EQ(calvex({"-u", "T=C", "--unit=P=bara", "HPT", "100", "500"}).out, here);
+  EXPECT_EQ(calvex({"-u", "T=C", "HPT", "10", "500"}).out, here);
+}
+
+TEST(CallCommand, KnowsUnitsByTheirUtf8Names) {
+  const std::string here = calvex({"HPT", "10", "773.15"}).out;
+  EXPECT_EQ(calvex({"HPT", "10000000", "773.15", "-u", "P=N/m\u00B2"}).out, here);
+  const Answer density = calvex({"RPT", "10", "300", "-u", "R=lb/ft\u00B3"});
+  EXPECT_TRUE(contains(density.out, "lb/ft\u00B3")) << density.out;
+  EXPECT_TRUE(contains(calvex({"RPT", "10", "300", "-u", "R=lb/ft\u00B3", "--json"}).out,
+                       "\"units\":{\"pR\":\"lb/ft\u00B3\"}"));
+}
+
+// The Celsius scale's boiling point of the 1984 formulation at one atmosphere: 99.974 C.
+TEST(CallCommand, BoilsWaterNearOneHundredDegrees) {
+  const Answer answer = calvex({"TSatP", "1", "-u", "P=atm", "-u", "T=C", "--json"});
+  EXPECT_NEAR(numberAt(answer.out, "pT"), 99.974, 0.03);
+}
+
+TEST(CallCommand, ANegativeNumberIsNotAnOption) {
+  for (const char* number : {"-5", "-.5", "-1e3"}) {
+    const Answer answer = calvex({"PSatT", number});
+    EXPECT_EQ(answer.status, 1) << number;
+    EXPECT_TRUE(contains(answer.err, "Temperature parameter out of range")) << answer.err;
+  }
+  EXPECT_EQ(calvex({"PSatT", "--", "-5"}).status, 1);
+  EXPECT_NEAR(numberAt(calvex({"HPT", "10", "-1", "-u", "T=C", "--json"}).out, "pH"), 5.9, 3.0);
+}
+
+TEST(CallCommand, AFailedCallSaysWhyAndWhatTheMemberTakes) {
+  const Answer answer = calvex({"HPT", "10", "99999", "-u", "T=C"});
+  EXPECT_EQ(answer.status, 1);
+  EXPECT_EQ(answer.out, "");
+  EXPECT_EQ(answer.err,
+            "calvex: HPT failed: Temperature parameter out of range (Valid range -13.15 to 2226.85 "
+            "C).\nHPT takes P (Pressure, MPa), T (Temperature, C)\n");
+}
+
+TEST(CallCommand, SaysThatTracingIsOffWhenNoReasonWasRecorded) {
+  const Answer answer = calvex({"HPT", "10", "99999", "-s", "FunctionCallTracing=0"});
+  EXPECT_EQ(answer.status, 1);
+  EXPECT_TRUE(contains(answer.err, "tracing is off")) << answer.err;
+  EXPECT_TRUE(contains(answer.err, "FunctionCallTracing 1")) << answer.err;
+}
+
+TEST(CallCommand, SuggestsTheNearestMembers) {
+  const Answer answer = calvex({"HTP", "10", "773.15"});
+  EXPECT_EQ(answer.status, 2);
+  EXPECT_TRUE(contains(answer.err, "no member or command 'HTP'; did you mean HPT")) << answer.err;
+  EXPECT_TRUE(contains(calvex({"memers"}).err, "did you mean members?"));
+  EXPECT_TRUE(contains(calvex({"xyzzyplugh"}).err, "'calvex members' lists"));
+}
+
+TEST(CallCommand, SaysWhichArgumentsAreExpected) {
+  const Answer few = calvex({"HPT", "10"});
+  EXPECT_EQ(few.status, 2);
+  EXPECT_EQ(few.err,
+            "calvex: HPT takes 2 arguments: P (Pressure, MPa), T (Temperature, K), but 1 was "
+            "given\n");
+  const Answer many = calvex({"CritT", "1", "2", "3"});
+  EXPECT_EQ(many.status, 2);
+  EXPECT_EQ(many.err, "calvex: CritT takes no arguments, but 3 were given\n");
+  EXPECT_EQ(calvex({"VersionStr", "1"}).err,
+            "calvex: VersionStr can only be read, so it takes no argument\n");
+}
+
+TEST(CallCommand, RefusesWhatIsNoFiniteNumber) {
+  for (const char* number : {"nan", "inf", "-inf", "-nan", "Infinity"}) {
+    const Answer answer = calvex({"HPT", "10", number});
+    EXPECT_EQ(answer.status, 2) << number;
+    EXPECT_TRUE(contains(answer.err, "is not a finite number")) << answer.err;
+    EXPECT_EQ(answer.out, "");
+  }
+  const Answer malformed = calvex({"HPT", "1O", "773.15"});
+  EXPECT_EQ(malformed.status, 2);
+  EXPECT_EQ(malformed.err,
+            "calvex: P of HPT: '1O' is not a number; HPT takes P (Pressure, MPa), T (Temperature, "
+            "K)\n");
+}
+
+TEST(CallCommand, SuggestsTheNearestUnitsAndListsAll) {
+  const Answer unit = calvex({"HPT", "10", "773.15", "-u", "P=psi"});
+  EXPECT_EQ(unit.status, 2);
+  EXPECT_TRUE(contains(unit.err, "'psi' is not a unit of Pressure; did you mean psia or psig?"));
+  EXPECT_TRUE(contains(unit.err, "kgf/cm\u00B2")) << unit.err;
+  const Answer group = calvex({"HPT", "10", "773.15", "-u", "Presure=psia"});
+  EXPECT_EQ(group.status, 2);
+  EXPECT_TRUE(contains(group.err, "'Presure' is not a unit group; did you mean Pressure"));
+  EXPECT_TRUE(contains(group.err, "Groups: T, P,")) << group.err;
+  EXPECT_TRUE(contains(calvex({"HPT", "1", "2", "-u", "T"}).err, "should read GROUP=UNIT"));
+}
+
+TEST(CallCommand, ARefusedUnitOfAMemberGetsSuggestionsToo) {
+  const Answer answer = calvex({"SetUserUnit", "P", "bar"});
+  EXPECT_EQ(answer.status, 1);
+  EXPECT_TRUE(contains(answer.err, "bar is not a defined unit of P.")) << answer.err;
+  EXPECT_TRUE(contains(answer.err, "did you mean bara or barg?")) << answer.err;
+}
+
+TEST(CallCommand, ChecksSettings) {
+  const Answer unknown = calvex({"HPT", "10", "773.15", "-s", "SatPolis=0"});
+  EXPECT_EQ(unknown.status, 2);
+  EXPECT_TRUE(contains(unknown.err, "did you mean SatPolish?")) << unknown.err;
+  EXPECT_EQ(calvex({"HPT", "10", "773.15", "-s", "SatPolish=x"}).status, 2);
+  EXPECT_EQ(calvex({"HPT", "10", "773.15", "-s", "LastError=x"}).status, 2);
+  EXPECT_EQ(calvex({"HPT", "10", "773.15", "-s", "HPT=1"}).status, 2);
+  const Answer refused = calvex({"HPT", "10", "773.15", "-s", "SolverTol=1"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_EQ(refused.err, "calvex: SolverTol failed: Invalid solver tolerance specified.\n");
+  EXPECT_EQ(calvex({"TraceLevel", "-s", "TraceLevel=2"}).out, "TraceLevel  2\n");
+}
+
+TEST(CallCommand, UnknownOptionsAreRefused) {
+  const Answer answer = calvex({"HPT", "10", "773.15", "--jsn"});
+  EXPECT_EQ(answer.status, 2);
+  EXPECT_TRUE(contains(answer.err, "there is no option '--jsn'")) << answer.err;
+  EXPECT_EQ(calvex({"HPT", "10", "773.15", "-u"}).status, 2);
+}
+
+TEST(CallCommand, PrintsOneJsonObject) {
+  const Answer answer = calvex({"HPT", "10", "773.15", "--json"});
+  const std::string begin = "{\"member\":\"HPT\",\"hresult\":0,\"pSucc\":1,\"pH\":3373.99804895";
+  EXPECT_EQ(answer.out.substr(0, begin.size()), begin);
+  EXPECT_TRUE(answer.out.ends_with(",\"units\":{\"pH\":\"kJ/kg\"}}\n")) << answer.out;
+}
+
+TEST(CallCommand, JsonNumbersReadBackToTheSameBits) {
+  Module module;
+  double enthalpy = 0.0;
+  ASSERT_EQ(module.engine().HPT(&enthalpy, 10, 773.15), 1);
+  const double printed = numberAt(calvex({"HPT", "10", "773.15", "--json"}).out, "pH");
+  EXPECT_EQ(std::bit_cast<std::uint64_t>(printed), std::bit_cast<std::uint64_t>(enthalpy));
+}
+
+TEST(CallCommand, JsonOfAFailureHasTheReasonAndNoOutput) {
+  const Answer answer = calvex({"HPT", "10", "99999", "--json"});
+  EXPECT_EQ(answer.status, 1);
+  EXPECT_EQ(
+      answer.out,
+      "{\"member\":\"HPT\",\"hresult\":0,\"pSucc\":0,\"lastError\":\"Temperature parameter out "
+      "of range (Valid range 260.00 to 2500.00 K).\"}\n");
+  EXPECT_TRUE(contains(answer.err, "out of range"));
+}
+
+TEST(CallCommand, JsonOfUsageErrorsIsAnError) {
+  const Answer answer = calvex({"HPT", "10", "--json"});
+  EXPECT_EQ(answer.status, 2);
+  EXPECT_EQ(answer.out,
+            "{\"error\":\"HPT takes 2 arguments: P (Pressure, MPa), T (Temperature, K), but 1 was "
+            "given\"}\n");
+}
+
+TEST(CallCommand, TracePrintsTheTree) {
+  const Answer text = calvex({"HPT", "10", "99999", "--trace"});
+  EXPECT_EQ(
+      text.out,
+      "HPT\n  error: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n");
+  const Answer json = calvex({"HPT", "10", "99999", "--trace", "--json"});
+  EXPECT_TRUE(contains(json.out,
+                       "\"trace\":{\"text\":\"Root\",\"kind\":0,\"columns\":[],\"children\":["
+                       "{\"text\":\"HPT\",\"kind\":1,\"columns\":[],\"children\":[{\"text\":"))
+      << json.out;
+  EXPECT_TRUE(contains(calvex({"HPT", "10", "773.15", "--trace"}).out, "no call left a message"));
+}
+
+TEST(CallCommand, HelpOfAMemberExplainsIt) {
+  EXPECT_EQ(calvex({"HPT", "--help"}).out, calvex({"members", "HPT"}).out);
+  EXPECT_EQ(calvex({"help", "HPT"}).out, calvex({"members", "HPT"}).out);
+}
+
+}  // namespace
+}  // namespace calvex::cli::test

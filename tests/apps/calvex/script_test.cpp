@@ -1,0 +1,214 @@
+#include "script.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "command_line_harness.h"
+
+namespace calvex::cli::test {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+/// The lines that `calvex run --json` prints.
+Lines jsonOf(const std::string& script) {
+  std::istringstream out(calvexWithInput(script, {"run", "--json"}).out);
+  Lines lines;
+  for (std::string line; std::getline(out, line);) lines.push_back(line);
+  return lines;
+}
+
+std::string refusal(const std::string& line) {
+  try {
+    static_cast<void>(splitLine(line));
+    return "split";
+  } catch (const UsageError& error) {
+    return error.what();
+  }
+}
+
+TEST(SplitLine, SeparatesWordsByBlanks) {
+  EXPECT_EQ(splitLine("  HPT\t10  773.15 "), (Lines{"HPT", "10", "773.15"}));
+  EXPECT_EQ(splitLine(""), Lines{});
+}
+
+TEST(SplitLine, ACommentBeginsWhereAWordCould) {
+  EXPECT_EQ(splitLine("HPT 10 # 773.15"), (Lines{"HPT", "10"}));
+  EXPECT_EQ(splitLine("# HPT"), Lines{});
+  EXPECT_EQ(splitLine("a#b \"# c\""), (Lines{"a#b", "# c"}));
+}
+
+TEST(SplitLine, QuotedTextsHaveTheEscapesOfJson) {
+  EXPECT_EQ(splitLine(R"(SetUserUnit P "ft H2O")"), (Lines{"SetUserUnit", "P", "ft H2O"}));
+  EXPECT_EQ(splitLine(R"("" "a\"b\\c\/\n\tN/m\u00b2\u00B2")"),
+            (Lines{"", "a\"b\\c/\n\tN/m\u00B2\u00B2"}));
+}
+
+TEST(SplitLine, MalformedQuotesAreRefused) {
+  EXPECT_EQ(refusal("a \"b"), "a closing quote is missing");
+  EXPECT_EQ(refusal("a \"b\\"), "a closing quote is missing");
+  EXPECT_EQ(refusal("\"a\"b"), "a blank is missing after a closing quote");
+  EXPECT_TRUE(contains(refusal("a\"b\""), "a quote inside a word"));
+  EXPECT_TRUE(contains(refusal(R"("\q")"), "unknown escape"));
+  EXPECT_TRUE(contains(refusal(R"("\u12")"), "four hexadecimal digits"));
+  EXPECT_TRUE(contains(refusal(R"("\u00zz")"), "four hexadecimal digits"));
+  EXPECT_TRUE(contains(refusal(R"("\ud800")"), "surrogate"));
+}
+
+TEST(RunCommand, RunsAllLinesWithOneClientObject) {
+  const Lines lines = jsonOf("SetUserUnit T C\nHPT 10 500\nTraceLevel 2\nTraceLevel\n");
+  ASSERT_EQ(lines.size(), 4U);
+  EXPECT_EQ(lines[0], R"({"member":"SetUserUnit","hresult":0,"pSucc":1})");
+  EXPECT_NEAR(numberAt(lines[1], "pH"), 3373.99804895, 1e-9 * 3373.99804895);
+  EXPECT_EQ(lines[2], R"({"member":"TraceLevel","hresult":0})");
+  EXPECT_EQ(lines[3], R"({"member":"TraceLevel","hresult":0,"value":2})");
+}
+
+TEST(RunCommand, ValueMembersAnswerTheirValueWithItsUnit) {
+  const Lines lines = jsonOf("CritT\nMolWeight\nVersionStr\nCritZ\n");
+  ASSERT_EQ(lines.size(), 4U);
+  EXPECT_TRUE(lines[0].starts_with(R"({"member":"CritT","hresult":0,"value":647.)")) << lines[0];
+  EXPECT_TRUE(lines[0].ends_with(R"("units":{"value":"K"}})")) << lines[0];
+  EXPECT_NEAR(numberAt(lines[1], "value"), 18.015, 0.001);
+  EXPECT_EQ(lines[2], R"({"member":"VersionStr","hresult":0,"value":"4.4.8"})");
+  EXPECT_FALSE(contains(lines[3], "units")) << lines[3];
+}
+
+TEST(RunCommand, OutputsThatWereNotWrittenAreAbsent) {
+  EXPECT_EQ(jsonOf("hWnd"), Lines{R"({"member":"hWnd","hresult":0})"});
+  EXPECT_EQ(jsonOf("GetUserUnit nowhere"),
+            Lines{R"({"member":"GetUserUnit","hresult":0,"pSucc":0,)"
+                  R"("lastError":"nowhere is not a defined unit group."})"});
+}
+
+TEST(RunCommand, LastErrorIsGivenWhenAStatusMemberRefuses) {
+  EXPECT_EQ(jsonOf("TraceLevel 7"),
+            Lines{R"({"member":"TraceLevel","hresult":1,"lastError":"Invalid reporting level."})"});
+}
+
+TEST(RunCommand, AnArrayIsAListOfRowsAndTakesNoArgument) {
+  EXPECT_EQ(jsonOf("GetAlarms"),
+            Lines{R"({"member":"GetAlarms","hresult":0,"pAlarmArray":[["Alarm Name0",)"
+                  R"("Alarm Message"],["Alarm Name1","Alarm Message"],["Alarm Name2",)"
+                  R"("Alarm Message"]]})"});
+}
+
+TEST(RunCommand, TextsAreQuotedAndInUtf8) {
+  const Lines lines = jsonOf(
+      "SetUserUnit P \"ft H2O\"\nGetUserUnit P\n"
+      "SetUserUnit P N/m\u00B2\nGetUserUnit P\n"
+      "AppName \"\\\"\u20AC\\n\"\nAppName\n");
+  ASSERT_EQ(lines.size(), 6U);
+  EXPECT_EQ(lines[1], R"({"member":"GetUserUnit","hresult":0,"pSucc":1,"pVal":"ft H2O"})");
+  EXPECT_EQ(lines[3],
+            "{\"member\":\"GetUserUnit\",\"hresult\":0,\"pSucc\":1,\"pVal\":\"N/m\u00B2\"}");
+  EXPECT_EQ(lines[5], "{\"member\":\"AppName\",\"hresult\":0,\"value\":\"\\\"\u20AC\\u000a\"}");
+}
+
+TEST(RunCommand, ALineThatCannotBeRunIsAnErrorAndTheNextOneRuns) {
+  const Lines lines = jsonOf(
+      "HPT 10\nHPT 10 nan\nHTP 10 773.15\nHPT 10 inf\nSatPolish 0.5\n"
+      "AppName \"\u6C34\"\nreset now\nSatPolish\n");
+  ASSERT_EQ(lines.size(), 8U);
+  EXPECT_EQ(lines[0],
+            R"({"error":"HPT takes 2 arguments: P (Pressure, MPa), T (Temperature, K), but 1 was )"
+            R"(given"})");
+  EXPECT_TRUE(contains(lines[1], "'nan' is not a finite number")) << lines[1];
+  EXPECT_TRUE(contains(lines[2], "did you mean HPT")) << lines[2];
+  EXPECT_TRUE(contains(lines[3], "'inf' is not a finite number")) << lines[3];
+  EXPECT_TRUE(contains(lines[4], "'0.5' is not a whole number")) << lines[4];
+  EXPECT_TRUE(contains(lines[5], "Windows-1252")) << lines[5];
+  EXPECT_TRUE(contains(lines[6], "reset takes no arguments")) << lines[6];
+  EXPECT_EQ(lines[7], R"({"member":"SatPolish","hresult":0,"value":1})");
+}
+
+TEST(RunCommand, TheTraceIsNestedFromTheRoot) {
+  const Lines lines = jsonOf(
+      "AddCustomTraceTitle Cell\nSetCustomTraceText 0 A1\nHPT 10 99999\n"
+      "trace\n");
+  ASSERT_EQ(lines.size(), 4U);
+  EXPECT_EQ(lines[3],
+            R"({"text":"Root","kind":0,"columns":["Cell"],"children":[{"text":"HPT","kind":1,)"
+            R"("columns":["A1"],"children":[{"text":"Temperature parameter out of range (Valid )"
+            R"(range 260.00 to 2500.00 K).","kind":2,"columns":[],"children":[]}]}]})");
+}
+
+TEST(RunCommand, ResetMakesANewClientObject) {
+  const Lines lines = jsonOf(
+      "SatPolish 0\nSetUserUnit T C\nHPT 10 99999\nreset\nSatPolish\n"
+      "GetUserUnit T\ntrace\n");
+  ASSERT_EQ(lines.size(), 7U);
+  EXPECT_EQ(lines[4], R"({"member":"SatPolish","hresult":0,"value":1})");
+  EXPECT_TRUE(contains(lines[5], R"("pVal":"C")")) << "the units stay";
+  EXPECT_EQ(lines[6], R"({"text":"Root","kind":0,"columns":[],"children":[]})");
+}
+
+TEST(RunCommand, PrintsReadableTextAndReasonsWithLineNumbers) {
+  const Answer answer =
+      calvexWithInput("# steam\nHPT 10 773.15\n\nHPT 10 99999\nAppLevel 4\ntrace\n", {"run", "-"});
+  EXPECT_EQ(answer.out,
+            "HPT 10 773.15\n  pH  3373.998049  kJ/kg\nHPT 10 99999\nAppLevel 4\ntrace\n  HPT\n"
+            "    error: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n");
+  EXPECT_EQ(answer.err,
+            "calvex: line 4: HPT failed: Temperature parameter out of range (Valid range 260.00 to "
+            "2500.00 K).\ncalvex: line 5: AppLevel failed and gave no reason\n");
+}
+
+TEST(RunCommand, ExitStatusTellsTheWorstLine) {
+  EXPECT_EQ(calvexWithInput("HPT 10 773.15\n", {"run"}).status, 0);
+  EXPECT_EQ(calvexWithInput("", {"run"}).status, 0);
+  EXPECT_EQ(calvexWithInput("HPT 10 99999\nHPT 10 773.15\n", {"run"}).status, 1);
+  EXPECT_EQ(calvexWithInput("HPT 10\nHPT 10 99999\nHPT 10 773.15\n", {"run"}).status, 2);
+}
+
+TEST(RunCommand, TakesUnitsSettingsAndTrace) {
+  const Answer answer = calvexWithInput(
+      "HPT 10 500\nTraceLevel\n", {"run", "-u", "T=C", "-s", "TraceLevel=1", "--json", "--trace"});
+  EXPECT_NEAR(numberAt(answer.out, "pH"), 3373.998, 0.001);
+  EXPECT_TRUE(contains(answer.out, "\"value\":1}\n{\"text\":\"Root\"")) << answer.out;
+  EXPECT_EQ(calvexWithInput("", {"run", "-u", "T=X"}).status, 2);
+}
+
+TEST(RunCommand, ReadsLinesOfOtherSystems) {
+  EXPECT_EQ(calvexWithInput("\xEF\xBB\xBFTraceLevel\r\nSatPolish\r\n", {"run"}).out,
+            "TraceLevel\n  TraceLevel  0\nSatPolish\n  SatPolish  1\n");
+  EXPECT_EQ(calvexWithInput("TraceLevel", {"run"}).out, "TraceLevel\n  TraceLevel  0\n");
+}
+
+TEST(RunCommand, ALineThatIsTooLongIsRefusedAndTheNextOneRuns) {
+  const Answer answer =
+      calvexWithInput("AppName " + std::string(1 << 20, 'x') + "\nTraceLevel\n", {"run", "--json"});
+  EXPECT_EQ(answer.out,
+            "{\"error\":\"the line is longer than 65536 bytes\"}\n"
+            "{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":0}\n");
+}
+
+TEST(RunCommand, FilesThatCannotBeReadAreUsageErrors) {
+  const Answer missing = calvex({"run", "no/such/file"});
+  EXPECT_EQ(missing.status, 2);
+  EXPECT_TRUE(contains(missing.err, "cannot read 'no/such/file': No such file")) << missing.err;
+  EXPECT_EQ(calvex({"run", testing::TempDir()}).status, 2);
+}
+
+// Every line is answered by one object whatever bytes come in.
+TEST(RunCommand, SurvivesAnyBytes) {
+  std::mt19937 random(7);
+  using std::string_literals::operator""s;
+  const std::string alphabet = "HPT 10\"\\u#\t\xFF\xC3\xB2-.e9nif\r\0xSetUserUnit"s;
+  for (int i = 0; i < 200; ++i) {
+    std::string script;
+    for (int j = 0; j < 300; ++j) {
+      script += j % 40 == 39 ? '\n' : alphabet[random() % alphabet.size()];
+    }
+    const Answer answer = calvexWithInput(script, {"run", "--json"});
+    EXPECT_LE(answer.status, 2);
+    std::istringstream lines(answer.out);
+    for (std::string line; std::getline(lines, line);) {
+      EXPECT_TRUE(line.starts_with('{') && line.ends_with('}')) << line;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace calvex::cli::test
