@@ -183,7 +183,7 @@ int ZvThermoInt::HPTQ(double* pH, double P, double T, double Q) {
         !validRange("Quality", q, 0.0, 1.0, UnitGroup::quality)) {
       return false;
     }
-    if (isOnLine(p, t) || steam_.stateFromPT(p, t) == Phases::two) return HSatPQ(pH, P, Q) != 0;
+    if (steam_.stateFromPT(p, t) == Phases::two || isOnLine(p, t)) return HSatPQ(pH, P, Q) != 0;
     return give(pH, UnitGroup::enthalpy, steam_.property(Property::enthalpy));
   });
 }

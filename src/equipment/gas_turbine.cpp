@@ -213,6 +213,7 @@ int GasTurbineA(ZvThermoInt& engine, double* pTWhb, double* pDWhbFuel, double* p
     }
 
     const Exhaust exhaust = turbineExhaust(power, FPRatio, air, exhaustT);
+    if (!std::isfinite(exhaust.flow)) return engine.fail(Message::solutionError);
     const std::optional<Boiler> boiler =
         waterSide(engine, SteamPress, SteamTemp, BFWTemp, approach);
     if (!boiler) return false;
@@ -245,6 +246,7 @@ int GasTurbineA(ZvThermoInt& engine, double* pTWhb, double* pDWhbFuel, double* p
     const double maxFuel = (gas.O2 - gas.total() * MinO2Stack) / (MinO2Stack + 2.0) * molarMassCH4;
     const Gas maxFired = gas.fired(maxFuel / molarMassCH4);
     const Firing firing = supplementaryFiring(*boiler, exhaustT, gas, demand, maxFuel);
+    if (!std::isfinite(firing.duty)) return engine.fail(Message::solutionError);
     double dewPtActual = 0.0;
     double dewPtMax = 0.0;
     if (!dewPoint(engine, &dewPtActual, firing.gas.H2O / firing.gas.total()) ||

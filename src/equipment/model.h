@@ -2,6 +2,7 @@
 /// What the equipment models share beyond the engine.
 #pragma once
 
+#include <cmath>
 #include <limits>
 #include <string_view>
 
@@ -17,11 +18,11 @@ inline bool validEfficiency(ZvThermoInt& engine, std::string_view name, double e
 }
 
 /// Writes a result that was divided by `divisor`. The balances do not guard their divisions: by
-/// zero they give an infinite flow, which tells the client what the machine would need. Any other
-/// value that is not finite is none: message 104 and false.
+/// zero they give an infinite flow, which tells the client what the machine would need. Nothing by
+/// nothing, and any other value that is not finite, is none: message 104 and false.
 inline bool giveQuotient(ZvThermoInt& engine, double* out, UnitGroup group, double value,
                          double divisor) {
-  if (divisor != 0.0) return engine.give(out, group, value);
+  if (divisor != 0.0 || !std::isinf(value)) return engine.give(out, group, value);
   *out = engine.units().toUser(group, value);
   return true;
 }

@@ -133,13 +133,11 @@ SteamModel::SaturatedEnthalpies SteamModel::saturatedEnthalpies(double P) {
 // The vapour's value; the liquid's too when the given value lies below it (a density: always).
 SteamModel::Bracket SteamModel::bracket(Property property, double value, double P, double T) {
   Bracket b{};
-  b.pressure = P;
   b.temperature = T;
   b.vapourDensity = densityAt(P, T, vapourStart, Side::vapour);
   b.vapour = propertyAt(property, T, b.vapourDensity);
   store({T, b.vapourDensity}, state_.quality);
-  b.liquidSolved = property == Property::density || value < b.vapour;
-  if (b.liquidSolved) {
+  if (property == Property::density || value < b.vapour) {
     b.liquidDensity = densityAt(P, T, liquidStart, Side::liquid);
     b.liquid = propertyAt(property, T, b.liquidDensity);
     store({T, b.liquidDensity}, state_.quality);

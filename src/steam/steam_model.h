@@ -81,7 +81,7 @@ class SteamModel final : private ZvSolverCallBack {
   /// What a residual is computed from; the residual is that value minus its target.
   enum class Equation {
     density = 0,
-    specificVolume = 1,
+    specificVolume = 1,  ///< available; a given volume is turned into a density
     temperature = 2,
     entropy = 3,
     enthalpy = 4,
@@ -118,13 +118,11 @@ class SteamModel final : private ZvSolverCallBack {
 
   /// Saturated values around a given one, at (P, T) of the line.
   struct Bracket {
-    double pressure;
     double temperature;
     double vapour;
     double liquid;  ///< solved only when the given value is below `vapour`; density: always
     double vapourDensity;
     double liquidDensity;
-    bool liquidSolved;
   };
   Bracket bracket(Property property, double value, double P, double T);
   Bracket bracketT(Property property, double value, double T);

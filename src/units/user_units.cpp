@@ -4,15 +4,16 @@
 
 namespace calvex {
 
-UserUnits::UserUnits(UnitsServerFactory connect) : connect_(std::move(connect)) { reset(); }
-
-void UserUnits::reset() {
-  server_.reset();
-  mode_ = UnitsMode::catalogue;
+UserUnits::UserUnits(UnitsServerFactory connect) : connect_(std::move(connect)) {
   for (std::size_t group = 0; group < custom_.size(); ++group) {
     const ZvUomLiteKeyword& unit = catalogue_[UnitGroup(group)].internalUnit();
     custom_[group] = {std::string(unit.name), unit.factor, unit.offset};
   }
+}
+
+void UserUnits::reset() {
+  server_.reset();
+  mode_ = UnitsMode::catalogue;
 }
 
 bool UserUnits::setMode(short mode) {

@@ -42,8 +42,8 @@ class UserUnits {
  public:
   explicit UserUnits(UnitsServerFactory connect = {});
 
-  /// Mode 2 and custom units equal to the internal units; releases the server. The units chosen in
-  /// the catalogue stay.
+  /// Mode 2; releases the server. The units that the client chose stay, in the catalogue and in
+  /// mode 3.
   void reset();
 
   [[nodiscard]] UnitsMode mode() const noexcept { return mode_; }

@@ -364,7 +364,7 @@ TEST(CustomMode, KeepsItsUnitsWhileAnotherModeIsOn) {
   EXPECT_EQ(units.toInternal(UnitGroup::massFlow, 2), 100);
 }
 
-TEST(Reset, KeepsTheCataloguesUnitsAndForgetsTheCustomOnes) {
+TEST(Reset, KeepsTheUnitsThatTheClientChose) {
   UserUnits units;
   ASSERT_TRUE(units.setCatalogueUnit(0, "F"));
   ASSERT_TRUE(units.setMode(3));
@@ -373,7 +373,7 @@ TEST(Reset, KeepsTheCataloguesUnitsAndForgetsTheCustomOnes) {
   EXPECT_EQ(units.mode(), UnitsMode::catalogue);
   EXPECT_EQ(userUnit(units, 0), "F");
   ASSERT_TRUE(units.setMode(3));
-  EXPECT_EQ(userUnit(units, 0), "K");
+  EXPECT_EQ(userUnit(units, 0), "half");
 }
 
 }  // namespace
