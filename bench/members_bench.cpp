@@ -4,17 +4,11 @@
 //   calvex_bench                                    the table
 //   calvex_bench --benchmark_filter=HPT             some rows
 //   calvex_bench --benchmark_repetitions=9          the median of more repetitions
-#include <benchmark/benchmark.h>
-#include <fmt/format.h>
-
-#include <algorithm>
 #include <array>
-#include <cmath>
-#include <map>
 #include <string>
-#include <vector>
 
 #include "engine/thermo_engine.h"
+#include "median_table.h"
 #include "steam/solver.h"
 
 namespace {
@@ -121,46 +115,27 @@ void convert(benchmark::State& state, int tracing) {
 
 constexpr const char* untraced = ", untraced";
 
-// Collects the medians and prints them as multiples of the empty solve.
-class RatioReporter final : public benchmark::BenchmarkReporter {
+// Prints the medians as multiples of the empty solve.
+class RatioTable final : public calvex::bench::MedianTable {
  public:
-  bool ReportContext(const Context& /*context*/) override { return true; }
-
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.error_occurred) {
-        fmt::print("{}: {}\n", run.benchmark_name(), run.error_message);
-      } else if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median") {
-        add(run.run_name.function_name, run.GetAdjustedRealTime());
-      } else if (run.run_type == Run::RT_Iteration && run.repetitions == 1) {
-        add(run.run_name.function_name, run.GetAdjustedRealTime());
-      }
-    }
-  }
-
   void Finalize() override {
-    if (!medians_.contains("empty solve")) return;
+    const auto empty = median("empty solve");
+    if (!empty) return;
     fmt::print("{:<20}{:>10}{:>10}{:>12}{:>8}\n", "member", "ns", "multiple", "untraced", "limit");
-    print("empty solve", 0.0);
-    for (const Case& row : cases) print(row.name, row.limit);
-    print("Convert", 0.3);
+    print("empty solve", *empty, 0.0);
+    for (const Case& row : cases) print(row.name, *empty, row.limit);
+    print("Convert", *empty, 0.3);
   }
 
  private:
-  void add(const std::string& name, double time) { medians_.emplace(name, time); }
-
-  void print(const std::string& name, double limit) const {
-    const auto traced = medians_.find(name);
-    if (traced == medians_.end()) return;
-    const double empty = medians_.at("empty solve");
-    const auto quiet = medians_.find(name + untraced);
-    fmt::print("{:<20}{:>10.0f}{:>10.2f}{:>12}{:>8}\n", name, traced->second,
-               traced->second / empty,
-               quiet == medians_.end() ? "" : fmt::format("{:.2f}", quiet->second / empty),
+  void print(const std::string& name, double empty, double limit) const {
+    const auto traced = median(name);
+    if (!traced) return;
+    const auto quiet = median(name + untraced);
+    fmt::print("{:<20}{:>10.0f}{:>10.2f}{:>12}{:>8}\n", name, *traced, *traced / empty,
+               quiet ? fmt::format("{:.2f}", *quiet / empty) : "",
                limit > 0.0 ? fmt::format("{:g}", limit) : "");
   }
-
-  std::map<std::string, double> medians_;
 };
 
 }  // namespace
@@ -177,17 +152,6 @@ int main(int argc, char** argv) {
     benchmark::RegisterBenchmark((std::string("Convert") + (tracing ? "" : untraced)).c_str(),
                                  [tracing](benchmark::State& s) { convert(s, tracing); });
   }
-  // Interleaved repetitions, so that a drift of the machine's speed hits all rows alike.
-  std::vector<char*> arguments(argv, argv + argc);
-  std::string defaults[] = {"--benchmark_enable_random_interleaving=true",
-                            "--benchmark_repetitions=5", "--benchmark_min_time=0.02"};
-  std::vector<char*> all{arguments.front()};
-  for (std::string& option : defaults) all.push_back(option.data());
-  all.insert(all.end(), arguments.begin() + 1, arguments.end());
-  int count = static_cast<int>(all.size());
-  benchmark::Initialize(&count, all.data());
-  if (benchmark::ReportUnrecognizedArguments(count, all.data())) return 2;
-  RatioReporter reporter;
-  benchmark::RunSpecifiedBenchmarks(&reporter);
-  return 0;
+  RatioTable table;
+  return calvex::bench::runInterleaved(argc, argv, table);
 }
