@@ -47,17 +47,19 @@ Value parseArgument(const Member& member, const Parameter& parameter, std::strin
   }
 }
 
-// The last error is that of an earlier call when this one failed without a word. It is this call's
-// when it changed, or when the newest entry of the trace bears this call's name.
-bool isOwnReason(Client& client, const Call& call, const std::string& before) {
-  const Diagnostics& diagnostics = client.engine().diagnostics();
-  if (!diagnostics.tracing()) return false;
-  if (diagnostics.lastError() != before) return true;
+const ZvFunctionCall* newestEntry(const Diagnostics& diagnostics) {
   const ZvFunctionCall* newest = diagnostics.root().firstChild();
   while (newest != nullptr && newest->nextSibling() != nullptr) newest = newest->nextSibling();
-  if (newest == nullptr || !newest->contains(ZvFunctionCall::Kind::error)) return false;
-  return newest->text() == call.member->name ||
-         (call.isPut && newest->text() == fmt::format("Set{}", call.member->name));
+  return newest;
+}
+
+// The last error may be that of an earlier call: a call can fail without a word. It is this call's
+// when the call left an entry with an error. The newest entry before is still there then, so that
+// the new one is not in its place: a full trace keeps two or more and drops the oldest.
+bool leftError(const Diagnostics& diagnostics, const ZvFunctionCall* newestBefore) {
+  const ZvFunctionCall* newest = newestEntry(diagnostics);
+  return newest != nullptr && newest != newestBefore &&
+         newest->contains(ZvFunctionCall::Kind::error);
 }
 
 }  // namespace
@@ -145,14 +147,15 @@ Call prepare(const Member& member, std::span<const std::string> words, const Use
 
 Outcome perform(Client& client, Call call) {
   ZvCalvex& object = client.object();
-  const std::string before = client.engine().LastError();
+  const Diagnostics& diagnostics = client.engine().diagnostics();
+  const ZvFunctionCall* newestBefore = newestEntry(diagnostics);
   const ZvCalvex::Result result = call.isPut ? object.put(*call.member, call.arguments)
                                              : object.invoke(*call.member, call.arguments);
   Outcome outcome{std::move(call), result, {}, false, true};
   if (!outcome.succeeded()) {
     outcome.lastError = toUtf8(client.engine().LastError());
-    outcome.tracing = client.engine().diagnostics().tracing();
-    outcome.reasonRecorded = isOwnReason(client, outcome.call, before);
+    outcome.tracing = diagnostics.tracing();
+    outcome.reasonRecorded = outcome.tracing && leftError(diagnostics, newestBefore);
   }
   return outcome;
 }

@@ -155,6 +155,37 @@ TEST(RunCommand, PrintsReadableTextAndReasonsWithLineNumbers) {
             "2500.00 K).\ncalvex: line 5: AppLevel failed and gave no reason\n");
 }
 
+TEST(RunCommand, ARepeatedFailureGivesItsReasonAgain) {
+  for (const std::string line :
+       {"XLTurbineA 1 10 3374 1 0.8 nonsense", "MaxTraceSize 1", "HPT 10 99999"}) {
+    const Answer answer = calvexWithInput(line + '\n' + line + '\n', {"run"});
+    const std::string second = "calvex: line 2: ";
+    const std::size_t at = answer.err.find(second);
+    ASSERT_NE(at, std::string::npos) << answer.err;
+    const std::string reason = answer.err.substr(at + second.size());
+    EXPECT_TRUE(contains(reason, " failed: ")) << reason;
+    EXPECT_TRUE(contains(answer.err, "calvex: line 1: " + reason)) << answer.err;
+  }
+}
+
+TEST(RunCommand, ARepeatedFailureGivesItsReasonWhenTheTraceIsFull) {
+  const Answer answer = calvexWithInput(
+      "MaxTraceSize 2\nHPT 10 99999\nHPT 10 99999\nHPT 10 99999\nHPT 10 99999\n", {"run"});
+  for (const char* line : {"line 2", "line 3", "line 4", "line 5"}) {
+    EXPECT_TRUE(contains(answer.err, std::string(line) + ": HPT failed: Temperature")) << line;
+  }
+}
+
+TEST(RunCommand, ASilentFailureDoesNotTakeTheReasonOfTheCallBefore) {
+  const Answer answer = calvexWithInput(
+      "MaxTraceSize 2\nHPT 10 99999\nHPT 10 99999\n"
+      "SetCustomUserUnitIndex 0 X 1 0\nAppLevel 4\n",
+      {"run"});
+  EXPECT_TRUE(contains(answer.err, "SetCustomUserUnitIndex failed and gave no reason"))
+      << answer.err;
+  EXPECT_TRUE(contains(answer.err, "AppLevel failed and gave no reason")) << answer.err;
+}
+
 TEST(RunCommand, ExitStatusTellsTheWorstLine) {
   EXPECT_EQ(calvexWithInput("HPT 10 773.15\n", {"run"}).status, 0);
   EXPECT_EQ(calvexWithInput("", {"run"}).status, 0);
