@@ -36,24 +36,37 @@ std::size_t editDistance(std::string_view a, std::string_view b) {
   return last[to.size()];
 }
 
+namespace {
+
+// Some units of temperature have a degree sign before their letter, others have none.
+std::string_view withoutDegreeSign(std::string_view text) {
+  constexpr std::string_view sign = "\u00B0";
+  if (text.starts_with(sign) && text != sign) text.remove_prefix(sign.size());
+  return text;
+}
+
+}  // namespace
+
 std::vector<std::string> nearest(std::string_view word, const std::vector<std::string>& names) {
   constexpr std::size_t longest = 64;  // no name is as long
   constexpr std::size_t most = 4;
   constexpr std::size_t farthest = 3;
   if (word.empty() || word.size() > longest) return {};
+  word = withoutDegreeSign(word);
   struct Candidate {
     std::size_t distance;
     const std::string* name;
   };
   std::vector<Candidate> candidates;
-  for (const std::string& name : names) {
+  for (const std::string& fullName : names) {
+    const std::string_view name = withoutDegreeSign(fullName);
     const bool abbreviated = word.size() > 1 && lowerCase(name).starts_with(lowerCase(word));
     const auto [shorter, longer] = std::minmax({word.size(), name.size()});
     if (!abbreviated && longer - shorter > farthest) continue;
     const std::size_t distance = abbreviated ? 1 : editDistance(word, name);
     // Half of a name may not be rewritten, or everything short would be near.
     if (2 * distance <= std::max(word.size(), name.size()) && distance <= farthest) {
-      candidates.push_back({distance, &name});
+      candidates.push_back({distance, &fullName});
     }
   }
   std::ranges::stable_sort(candidates, {}, &Candidate::distance);

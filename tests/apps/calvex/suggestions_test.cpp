@@ -24,6 +24,12 @@ TEST(Suggestions, AWordThatIsNearNothingGetsNone) {
   EXPECT_EQ(didYouMean(std::string(100000, 'x'), {"bara"}), "");
 }
 
+TEST(Suggestions, ADegreeSignMakesNoDifference) {
+  EXPECT_EQ(didYouMean("\u00B0F", {"K", "C", "F"}), "; did you mean F?");
+  EXPECT_EQ(didYouMean("F", {"K", "\u00B0C", "\u00B0F"}), "; did you mean \u00B0F?");
+  EXPECT_EQ(didYouMean("\u00B0", {"K", "C"}), "");
+}
+
 TEST(Suggestions, TheBeginningOfANameFindsIt) {
   EXPECT_EQ(nearest("Pres", {"Pressure", "P", "Power"}), (std::vector<std::string>{"Pressure"}));
 }
