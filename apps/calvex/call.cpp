@@ -62,6 +62,35 @@ bool leftError(const Diagnostics& diagnostics, const ZvFunctionCall* newestBefor
          newest->contains(ZvFunctionCall::Kind::error);
 }
 
+// For a call that names a unit group and units of it: what is wrong with the names, with the
+// nearest ones; empty when nothing is.
+std::string unitHint(const Call& call) {
+  std::optional<UnitGroup> group;
+  const std::span<const Parameter> parameters = call.member->parameters();
+  try {
+    for (std::size_t i = 0; i < parameters.size(); ++i) {
+      const std::string_view name = parameters[i].name;
+      const auto* const text = std::get_if<std::string>(&call.arguments[i]);
+      const auto* const index = std::get_if<short>(&call.arguments[i]);
+      if (text != nullptr && (name == "groupStr" || name == "strGroup")) {
+        group = findGroup(toUtf8(*text));
+      } else if (index != nullptr && name == "nGroupID" && isUnitGroup(*index)) {
+        group = UnitGroup(*index);
+      } else if (text != nullptr && group && parameters[i].isInput()) {
+        static_cast<void>(findUnit(*group, toUtf8(*text)));
+      }
+    }
+  } catch (const UsageError& error) {
+    return error.what();
+  }
+  return {};
+}
+
+// The messages of the spreadsheet members' tokens.
+bool isTokenError(std::string_view text) {
+  return text == "Invalid Token!" || text == "No return tokens specified!";
+}
+
 }  // namespace
 
 const Member& memberNamed(std::string_view name) {
@@ -87,6 +116,15 @@ std::vector<const Parameter*> outputs(const Member& member) {
     if (parameter.isOutput()) found.push_back(&parameter);
   }
   return found;
+}
+
+std::span<const spreadsheet::Token> tokens(const Member& member) {
+  constexpr std::string_view prefix = "XL";
+  if (!member.name.starts_with(prefix)) return {};
+  for (const spreadsheet::Variant& variant : spreadsheet::variantTable()) {
+    if (variant.name == member.name.substr(prefix.size())) return variant.tokens();
+  }
+  return {};
 }
 
 std::string_view outputName(const Member& member, const Parameter& parameter) {
@@ -172,26 +210,22 @@ std::string failureText(const Outcome& outcome) {
   return fmt::format("{} failed: {}", name, outcome.lastError);
 }
 
-std::string unitHint(const Call& call) {
-  std::optional<UnitGroup> group;
-  const std::span<const Parameter> parameters = call.member->parameters();
-  try {
-    for (std::size_t i = 0; i < parameters.size(); ++i) {
-      const std::string_view name = parameters[i].name;
-      const auto* const text = std::get_if<std::string>(&call.arguments[i]);
-      const auto* const index = std::get_if<short>(&call.arguments[i]);
-      if (text != nullptr && (name == "groupStr" || name == "strGroup")) {
-        group = findGroup(toUtf8(*text));
-      } else if (index != nullptr && name == "nGroupID" && isUnitGroup(*index)) {
-        group = UnitGroup(*index);
-      } else if (text != nullptr && group && parameters[i].isInput()) {
-        static_cast<void>(findUnit(*group, toUtf8(*text)));
-      }
-    }
-  } catch (const UsageError& error) {
-    return error.what();
+std::string hint(const Outcome& outcome) {
+  const Call& call = outcome.call;
+  if (call.member->name == "SetCustomUserUnitIndex") {
+    return fmt::format("custom units need AppLevel 3 and a group number 0 to {}",
+                       unitGroupCount - 1);
   }
-  return {};
+  if (call.isPut && call.member->name == "AppLevel") {
+    return std::get<short>(call.arguments.front()) == 1 ? "there is no units server"
+                                                        : "AppLevel takes 0 to 3";
+  }
+  if (outcome.reasonRecorded && isTokenError(outcome.lastError)) {
+    std::vector<std::string_view> names;
+    for (const spreadsheet::Token& token : tokens(*call.member)) names.push_back(token.text);
+    if (!names.empty()) return fmt::format("Tokens: {}", fmt::join(names, ", "));
+  }
+  return unitHint(call);
 }
 
 }  // namespace calvex::cli

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "client.h"
+#include "spreadsheet/variants.h"
 
 namespace calvex::cli {
 
@@ -36,6 +37,9 @@ struct Outcome {
 [[nodiscard]] std::vector<const Parameter*> inputs(const Member& member);
 [[nodiscard]] std::vector<const Parameter*> outputs(const Member& member);
 
+/// The tokens by which a spreadsheet member is asked for results; none for other members.
+[[nodiscard]] std::span<const spreadsheet::Token> tokens(const Member& member);
+
 /// How a parameter is told from others in text and JSON: its name, or "value" for the one value of
 /// a setting or of a member that answers its value.
 [[nodiscard]] std::string_view outputName(const Member& member, const Parameter& parameter);
@@ -56,8 +60,8 @@ struct Outcome {
 /// "HPT failed: ..." with the reason as far as it is known.
 [[nodiscard]] std::string failureText(const Outcome& outcome);
 
-/// For a call that names a unit group and units of it: what is wrong with the names, with the
-/// nearest ones; empty when nothing is.
-[[nodiscard]] std::string unitHint(const Call& call);
+/// What a failed call would have needed, as far as its arguments tell: the nearest names of units,
+/// the tokens that the member knows, the range of a setting. Empty when there is nothing to say.
+[[nodiscard]] std::string hint(const Outcome& outcome);
 
 }  // namespace calvex::cli

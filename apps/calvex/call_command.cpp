@@ -30,8 +30,8 @@ ExitStatus callMember(const Words& words, const ClientOptions& options, Console&
   if (!member.isProperty && !inputs(member).empty()) {
     fmt::print(console.err, "{} takes {}\n", member.name, describeInputs(member, client.units()));
   }
-  if (const std::string hint = unitHint(outcome.call); !hint.empty()) {
-    fmt::print(console.err, "{}\n", hint);
+  if (const std::string help = hint(outcome); !help.empty()) {
+    fmt::print(console.err, "{}\n", help);
   }
   return ExitStatus::callFailed;
 }

@@ -34,7 +34,10 @@ Assignment split(const std::string& text, std::string_view form) {
 
 void runOrFail(Client& client, Call call) {
   const Outcome outcome = perform(client, std::move(call));
-  if (!outcome.succeeded()) throw Failure(ExitStatus::callFailed, failureText(outcome));
+  if (outcome.succeeded()) return;
+  const std::string help = hint(outcome);
+  throw Failure(ExitStatus::callFailed,
+                fmt::format("{}{}{}", failureText(outcome), help.empty() ? "" : "\n", help));
 }
 
 }  // namespace

@@ -63,13 +63,16 @@ std::string brief(const Member& member, const std::vector<const Parameter*>& par
 std::string list(const std::vector<const Member*>& found, const UserUnits& units) {
   std::vector<std::vector<std::string>> rows;
   for (const Member* member : found) {
-    const std::string answer = brief(*member, outputs(*member), units);
+    // The tokens tell what a spreadsheet member answers, not its array.
+    const std::string answer =
+        tokens(*member).empty() ? brief(*member, outputs(*member), units) : "";
     std::string taken = brief(*member, inputs(*member), units);
     if (member->put != nullptr) taken = "(setting)";
     if (member->isProperty && member->put == nullptr) taken = "(read only)";
     rows.push_back({std::string(member->name), taken, answer.empty() ? "" : "-> " + answer});
   }
-  return aligned(rows);
+  constexpr std::size_t widest = 40;
+  return aligned(rows, widest);
 }
 
 std::string_view typeName(ValueType type) {
@@ -178,6 +181,18 @@ std::string describe(const char* title, const Member& member,
   return fmt::format("\n{}\n{}", title, indented(aligned(rows)));
 }
 
+std::string describeTokens(const Member& member, const UserUnits& units) {
+  if (tokens(member).empty()) return {};
+  std::vector<std::vector<std::string>> rows;
+  for (const spreadsheet::Token& token : tokens(member)) {
+    rows.push_back({std::string(token.text), std::string(token.label),
+                    currentUnit(units, static_cast<int>(token.group))});
+  }
+  return fmt::format("\ntokens (strTokens names one or more, such as {}{})\n{}",
+                     rows.front().front(), rows.size() > 1 ? "," + rows[1].front() : "",
+                     indented(aligned(rows)));
+}
+
 std::string explain(const Member& member, const ClientOptions& options) {
   Client client;
   options.applyTo(client);
@@ -191,6 +206,7 @@ std::string explain(const Member& member, const ClientOptions& options) {
   }
   text += describe("arguments", member, inputs(member), client.units());
   text += describe("answers", member, outputs(member), client.units());
+  text += describeTokens(member, client.units());
   return text + example(member, options);
 }
 

@@ -91,12 +91,12 @@ void appendTrace(std::string& text, const ZvFunctionCall& node, std::size_t dept
 
 }  // namespace
 
-std::string aligned(const std::vector<std::vector<std::string>>& rows) {
+std::string aligned(const std::vector<std::vector<std::string>>& rows, std::size_t widest) {
   std::vector<std::size_t> widths;
   for (const auto& cells : rows) {
     widths.resize(std::max(widths.size(), cells.size()));
     for (std::size_t i = 0; i < cells.size(); ++i) {
-      widths[i] = std::max(widths[i], width(cells[i]));
+      if (width(cells[i]) <= widest) widths[i] = std::max(widths[i], width(cells[i]));
     }
   }
   std::string text;
@@ -104,7 +104,7 @@ std::string aligned(const std::vector<std::vector<std::string>>& rows) {
     std::string line;
     for (std::size_t i = 0; i < cells.size(); ++i) {
       line += cells[i];
-      line.append(widths[i] - width(cells[i]) + 2, ' ');
+      line.append(std::max(widths[i], width(cells[i])) - width(cells[i]) + 2, ' ');
     }
     line.erase(line.find_last_not_of(' ') + 1);
     text += line + '\n';

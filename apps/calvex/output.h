@@ -25,8 +25,10 @@ namespace calvex::cli {
 /// {"text":"Root","kind":0,"columns":[],"children":[...]}
 [[nodiscard]] std::string traceJson(const ZvFunctionCall& node);
 
-/// Rows of texts in columns, each line ended.
-[[nodiscard]] std::string aligned(const std::vector<std::vector<std::string>>& rows);
+/// Rows of texts in columns, each line ended. Texts wider than `widest` do not widen their column:
+/// what follows them in their row is moved to the right.
+[[nodiscard]] std::string aligned(const std::vector<std::vector<std::string>>& rows,
+                                  std::size_t widest = std::string::npos);
 /// The lines of a text, two blanks to the right.
 [[nodiscard]] std::string indented(std::string_view lines);
 

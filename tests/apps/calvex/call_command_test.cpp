@@ -154,6 +154,30 @@ TEST(CallCommand, ARefusedUnitOfAMemberGetsSuggestionsToo) {
   EXPECT_TRUE(contains(answer.err, "did you mean bara or barg?")) << answer.err;
 }
 
+TEST(CallCommand, ARefusedAppLevelSaysWhatIsTaken) {
+  EXPECT_TRUE(contains(calvex({"AppLevel", "1"}).err, "\nthere is no units server\n"));
+  EXPECT_TRUE(contains(calvex({"AppLevel", "4"}).err, "\nAppLevel takes 0 to 3\n"));
+  EXPECT_TRUE(
+      contains(calvex({"TSatP", "1", "-s", "AppLevel=1"}).err, "\nthere is no units server\n"));
+}
+
+TEST(CallCommand, ARefusedCustomUnitSaysWhatItNeeds) {
+  const Answer answer = calvex({"SetCustomUserUnitIndex", "0", "X", "1", "0"});
+  EXPECT_EQ(answer.status, 1);
+  EXPECT_TRUE(contains(answer.err, "\ncustom units need AppLevel 3 and a group number 0 to 26\n"))
+      << answer.err;
+  EXPECT_FALSE(contains(answer.err, "is not a unit of")) << answer.err;
+}
+
+TEST(CallCommand, ARefusedTokenGetsThoseThatTheMemberKnows) {
+  for (const char* text : {"nonsense", ","}) {
+    const Answer answer = calvex({"XLLetDownValve", "3374", "10", "1", text});
+    EXPECT_EQ(answer.status, 1) << text;
+    EXPECT_TRUE(contains(answer.err, "\nTokens: T_Out, Q_Out\n")) << answer.err;
+  }
+  EXPECT_FALSE(contains(calvex({"XLLetDownValve", "3374", "-10", "1", "T_Out"}).err, "Tokens:"));
+}
+
 TEST(CallCommand, ChecksSettings) {
   const Answer unknown = calvex({"HPT", "10", "773.15", "-s", "SatPolis=0"});
   EXPECT_EQ(unknown.status, 2);

@@ -91,6 +91,33 @@ TEST(MembersCommand, ExplainsAMemberInTheCurrentUnits) {
       << answer.out;
 }
 
+TEST(MembersCommand, ALongRowDoesNotWidenTheOthers) {
+  const Answer answer = calvex({"members"});
+  EXPECT_FALSE(contains(answer.out, "pRetArray")) << answer.out;
+  for (const std::string& line : linesOf(answer.out)) {
+    if (line.starts_with("HPT ")) {
+      EXPECT_LE(line.size(), 100U) << line;
+    }
+  }
+  EXPECT_TRUE(contains(answer.out, "\nHPT ")) << answer.out;
+}
+
+TEST(MembersCommand, ListsTheTokensOfASpreadsheetMember) {
+  const Answer answer = calvex({"members", "XLTurbineA", "-u", "T=C"});
+  EXPECT_TRUE(contains(answer.out,
+                       "\n  Pow    Turbine Power       kW\n"
+                       "  T_Out  Outlet Temperature  C\n"
+                       "  H_Out  Outlet Enthalpy     kJ/kg\n"
+                       "  Q_Out  Outlet Quality      Fraction\n"))
+      << answer.out;
+  EXPECT_FALSE(contains(calvex({"members", "TurbineA"}).out, "tokens"));
+  for (const Member& member : memberTable()) {
+    if (!member.name.starts_with("XL")) continue;
+    EXPECT_TRUE(contains(calvex({"members", std::string(member.name)}).out, "\ntokens ("))
+        << member.name;
+  }
+}
+
 TEST(MembersCommand, ExamplesOfPropertyMembersRun) {
   int examples = 0;
   for (const Member& member : memberTable()) {
