@@ -18,7 +18,9 @@ namespace {
 
 constexpr std::size_t longestLine = 65536;
 
-bool isBlank(char c) { return c == ' ' || c == '\t'; }
+constexpr std::string_view blanks = " \t";
+
+bool isBlank(char c) { return blanks.find(c) != std::string_view::npos; }
 
 // The character of \uXXXX, taken off the text behind the u.
 char32_t takeHexadecimal(std::string_view& text) {
@@ -113,8 +115,8 @@ class Interpreter {
       if (line.size() > longestLine) {
         throw UsageError(fmt::format("the line is longer than {} bytes", longestLine));
       }
-      const std::vector<std::string> words = splitLine(line);
-      if (!words.empty()) run(words);
+      const ScriptLine split = splitLine(line);
+      if (!split.words.empty()) run(split);
     } catch (const UsageError& error) {
       status_ = ExitStatus::usage;
       if (options_.json) fmt::print(out_, "{}\n", errorJson(error.what()));
@@ -130,9 +132,9 @@ class Interpreter {
   [[nodiscard]] ExitStatus status() const noexcept { return status_; }
 
  private:
-  void run(const std::vector<std::string>& words) {
-    const std::string& name = words.front();
-    const auto arguments = std::span(words).subspan(1);
+  void run(const ScriptLine& line) {
+    const std::string& name = line.words.front();
+    const auto arguments = std::span(line.words).subspan(1);
     if (name == "trace" || name == "reset") {
       if (!arguments.empty()) throw UsageError(fmt::format("{} takes no arguments", name));
       if (name == "trace") {
@@ -148,12 +150,14 @@ class Interpreter {
     if (options_.json) {
       fmt::print(out_, "{}\n", outcomeJson(outcome, client_.units()));
     } else {
-      out_ << fmt::format("{}\n", fmt::join(words, " "))
-           << indented(outcomeText(outcome, client_.units()));
+      out_ << line.source << '\n' << indented(outcomeText(outcome, client_.units()));
     }
     if (!outcome.succeeded()) {
       if (status_ == ExitStatus::ok) status_ = ExitStatus::callFailed;
       report(failureText(outcome));
+      if (const std::string help = hint(outcome); !help.empty()) {
+        fmt::print(err_, "{}", indented(help));
+      }
     }
   }
 
@@ -171,13 +175,20 @@ class Interpreter {
 
 }  // namespace
 
-std::vector<std::string> splitLine(std::string_view line) {
-  std::vector<std::string> words;
-  for (;;) {
-    while (!line.empty() && isBlank(line.front())) line.remove_prefix(1);
-    if (line.empty() || line.front() == '#') return words;
-    words.push_back(line.front() == '"' ? takeQuoted(line) : takeWord(line));
+ScriptLine splitLine(std::string_view line) {
+  const auto skipBlanks = [&] {
+    line.remove_prefix(std::min(line.size(), line.find_first_not_of(blanks)));
+  };
+  skipBlanks();
+  ScriptLine split{{}, line};
+  std::size_t length = 0;
+  while (!line.empty() && line.front() != '#') {
+    split.words.push_back(line.front() == '"' ? takeQuoted(line) : takeWord(line));
+    length = split.source.size() - line.size();
+    skipBlanks();
   }
+  split.source = split.source.substr(0, length);
+  return split;
 }
 
 ExitStatus runScript(std::istream& in, std::ostream& out, std::ostream& err,

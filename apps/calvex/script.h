@@ -12,9 +12,14 @@
 
 namespace calvex::cli {
 
+struct ScriptLine {
+  std::vector<std::string> words;
+  std::string_view source;  ///< the words as they stand in the line, with their quotes
+};
+
 /// Words of a line: separated by blanks and tabs, or in double quotes with the escapes of JSON; `#`
 /// where a word could begin starts a comment. Throws UsageError.
-[[nodiscard]] std::vector<std::string> splitLine(std::string_view line);
+[[nodiscard]] ScriptLine splitLine(std::string_view line);
 
 /// Runs one call a line with one client object; answers of `out`, reasons of failures to `err`,
 /// both flushed whenever no more input is waiting. Any bytes may come in; a line that cannot be run

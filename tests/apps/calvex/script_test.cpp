@@ -29,20 +29,27 @@ std::string refusal(const std::string& line) {
 }
 
 TEST(SplitLine, SeparatesWordsByBlanks) {
-  EXPECT_EQ(splitLine("  HPT\t10  773.15 "), (Lines{"HPT", "10", "773.15"}));
-  EXPECT_EQ(splitLine(""), Lines{});
+  EXPECT_EQ(splitLine("  HPT\t10  773.15 ").words, (Lines{"HPT", "10", "773.15"}));
+  EXPECT_EQ(splitLine("").words, Lines{});
 }
 
 TEST(SplitLine, ACommentBeginsWhereAWordCould) {
-  EXPECT_EQ(splitLine("HPT 10 # 773.15"), (Lines{"HPT", "10"}));
-  EXPECT_EQ(splitLine("# HPT"), Lines{});
-  EXPECT_EQ(splitLine("a#b \"# c\""), (Lines{"a#b", "# c"}));
+  EXPECT_EQ(splitLine("HPT 10 # 773.15").words, (Lines{"HPT", "10"}));
+  EXPECT_EQ(splitLine("# HPT").words, Lines{});
+  EXPECT_EQ(splitLine("a#b \"# c\"").words, (Lines{"a#b", "# c"}));
 }
 
 TEST(SplitLine, QuotedTextsHaveTheEscapesOfJson) {
-  EXPECT_EQ(splitLine(R"(SetUserUnit P "ft H2O")"), (Lines{"SetUserUnit", "P", "ft H2O"}));
-  EXPECT_EQ(splitLine(R"("" "a\"b\\c\/\n\tN/m\u00b2\u00B2")"),
+  EXPECT_EQ(splitLine(R"(SetUserUnit P "ft H2O")").words, (Lines{"SetUserUnit", "P", "ft H2O"}));
+  EXPECT_EQ(splitLine(R"("" "a\"b\\c\/\n\tN/m\u00b2\u00B2")").words,
             (Lines{"", "a\"b\\c/\n\tN/m\u00B2\u00B2"}));
+}
+
+TEST(SplitLine, KeepsTheSourceOfTheWordsWithoutBlanksAndComment) {
+  EXPECT_EQ(splitLine("\t SetUserUnit  P \"ft # H2O\" \t# water column").source,
+            "SetUserUnit  P \"ft # H2O\"");
+  EXPECT_EQ(splitLine("  # HPT").source, "");
+  EXPECT_EQ(splitLine("HPT").source, "HPT");
 }
 
 TEST(SplitLine, MalformedQuotesAreRefused) {
@@ -152,12 +159,13 @@ TEST(RunCommand, PrintsReadableTextAndReasonsWithLineNumbers) {
             "    error: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n");
   EXPECT_EQ(answer.err,
             "calvex: line 4: HPT failed: Temperature parameter out of range (Valid range 260.00 to "
-            "2500.00 K).\ncalvex: line 5: AppLevel failed and gave no reason\n");
+            "2500.00 K).\ncalvex: line 5: AppLevel failed and gave no reason\n"
+            "  AppLevel takes 0 to 3\n");
 }
 
 TEST(RunCommand, ARepeatedFailureGivesItsReasonAgain) {
   for (const std::string line :
-       {"XLTurbineA 1 10 3374 1 0.8 nonsense", "MaxTraceSize 1", "HPT 10 99999"}) {
+       {"XLTurbineA 3374 10 1 0.8 10 nonsense", "MaxTraceSize 1", "HPT 10 99999"}) {
     const Answer answer = calvexWithInput(line + '\n' + line + '\n', {"run"});
     const std::string second = "calvex: line 2: ";
     const std::size_t at = answer.err.find(second);
@@ -184,6 +192,11 @@ TEST(RunCommand, ASilentFailureDoesNotTakeTheReasonOfTheCallBefore) {
   EXPECT_TRUE(contains(answer.err, "SetCustomUserUnitIndex failed and gave no reason"))
       << answer.err;
   EXPECT_TRUE(contains(answer.err, "AppLevel failed and gave no reason")) << answer.err;
+}
+
+TEST(RunCommand, ALineIsPrintedSoThatItCanBeRunAgain) {
+  EXPECT_EQ(calvexWithInput(" SetUserUnit P \"ft H2O\"  # water column\n", {"run"}).out,
+            "SetUserUnit P \"ft H2O\"\n  done\n");
 }
 
 TEST(RunCommand, ExitStatusTellsTheWorstLine) {
