@@ -163,9 +163,8 @@ bool Diagnostics::getCellReference(std::string& reference) const {
   return true;
 }
 
-void Diagnostics::takeColumnValues(const ZvFunctionCall& call) {
+void Diagnostics::takeColumnValues(std::span<const std::string> values) {
   // A call that is older than the last added column has fewer values than there are columns.
-  const std::vector<std::string>& values = call.columnValues();
   for (std::size_t i = 0; i < customTexts_.size(); ++i) {
     customTexts_[i] = i < values.size() ? values[i] : std::string();
   }

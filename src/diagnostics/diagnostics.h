@@ -3,6 +3,7 @@
 /// the custom columns (the spreadsheet cell) of the next call.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -75,7 +76,7 @@ class Diagnostics {
   /// "'[book]sheet'!cell", or empty when any of the three is empty.
   bool getCellReference(std::string& reference) const;
   /// The column values of a listed call become those of the next call (the dialog's actions).
-  void takeColumnValues(const ZvFunctionCall& call);
+  void takeColumnValues(std::span<const std::string> values);
 
  private:
   void record(ZvFunctionCall::Kind kind, std::string_view text);

@@ -7,8 +7,8 @@
 
 namespace calvex {
 
-ZvThermoInt::ZvThermoInt(UnitsServerFactory unitsServer)
-    : units_(std::move(unitsServer)), steam_(diagnostics_) {
+ZvThermoInt::ZvThermoInt(UnitsServerFactory unitsServer, std::unique_ptr<Dialogs> dialogs)
+    : units_(std::move(unitsServer)), steam_(diagnostics_), dialogs_(std::move(dialogs)) {
   Reset();
 }
 

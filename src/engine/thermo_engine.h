@@ -3,10 +3,12 @@
 /// call.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "diagnostics/diagnostics.h"
+#include "engine/dialogs.h"
 #include "engine/property_members.h"
 #include "engine/result_array.h"
 #include "steam/steam_model.h"
@@ -33,7 +35,8 @@ struct RangeLimits {
 /// One engine serves one thread at a time; engines share nothing.
 class ZvThermoInt {
  public:
-  explicit ZvThermoInt(UnitsServerFactory unitsServer = {});
+  explicit ZvThermoInt(UnitsServerFactory unitsServer = {},
+                       std::unique_ptr<Dialogs> dialogs = {});
 
   /// All settings, the trace and the last error back to their defaults. The units that the client
   /// chose stay.
@@ -115,7 +118,7 @@ class ZvThermoInt {
   int GetCellRef(std::string* strCellRef);
   int GetAlarms(ResultArray* pAlarmArray);
 
-  // Dialogs: 2, the value of a cancelled dialog, where none are built
+  // Dialogs: the DialogResult as a number; 2, cancelled, where the platform gave none
   // ----------------------------------
   short ShowTraceDlg();
   short ShowSelectUomDlg();
@@ -214,11 +217,14 @@ class ZvThermoInt {
              double* pThird, double P, double H);
   bool isOnLine(double P, double T);
   bool failWithServer(short status);
+  template <class Show>
+  short show(Show&& dialog);
 
   RangeLimits limits_;
   Diagnostics diagnostics_;
   UserUnits units_;
   SteamModel steam_;
+  std::unique_ptr<Dialogs> dialogs_;
   std::string appName_;
   std::string appHelpFile_;
   int uomHelpContext_ = 0;

@@ -1,4 +1,4 @@
-// The members of the diagnostic record, and the dialogs where none are built.
+// The members of the diagnostic record, and the dialogs.
 #include "engine/thermo_engine.h"
 
 namespace calvex {
@@ -49,18 +49,23 @@ int ZvThermoInt::GetAlarms(ResultArray* pAlarmArray) {
   return 1;
 }
 
-namespace {
-constexpr short cancelled = 2;
+template <class Show>
+short ZvThermoInt::show(Show&& dialog) {
+  if (!dialogs_) return static_cast<short>(DialogResult::cancel);
+  return static_cast<short>(dialog(ClientApplication{appName_, appHelpFile_, uomHelpContext_}));
 }
 
-short ZvThermoInt::ShowTraceDlg() { return cancelled; }
+short ZvThermoInt::ShowTraceDlg() {
+  return show([&](const auto& client) { return dialogs_->showTrace(diagnostics_, client); });
+}
 
 // In units mode 1 the units server shows its own.
 short ZvThermoInt::ShowSelectUomDlg() {
   if (UnitsServer* server = units_.server()) return server->showDialog() ? 1 : 0;
-  return cancelled;
+  return show([&](const auto& client) { return dialogs_->selectUnits(units_, client); });
 }
 
-short ZvThermoInt::ShowOptionsDlg() { return cancelled; }
+// The options are the settings; there is no dialog of them.
+short ZvThermoInt::ShowOptionsDlg() { return static_cast<short>(DialogResult::cancel); }
 
 }  // namespace calvex

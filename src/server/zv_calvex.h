@@ -21,7 +21,8 @@ enum class HResult : unsigned {
 /// What is loaded once: the one engine that all automation objects share.
 class Module {
  public:
-  explicit Module(UnitsServerFactory unitsServer = {}) : engine_(std::move(unitsServer)) {}
+  explicit Module(UnitsServerFactory unitsServer = {}, std::unique_ptr<Dialogs> dialogs = {})
+      : engine_(std::move(unitsServer), std::move(dialogs)) {}
   Module(const Module&) = delete;
   Module& operator=(const Module&) = delete;
 

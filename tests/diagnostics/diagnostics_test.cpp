@@ -261,7 +261,7 @@ TEST(Diagnostics, ValuesOfAListedCallBecomeThoseOfTheNextCall) {
   failingCall(diagnostics, "listed");
   diagnostics.addColumn("Plant");
   ASSERT_TRUE(diagnostics.setColumnText(3, "North"));
-  diagnostics.takeColumnValues(*diagnostics.root().firstChild());
+  diagnostics.takeColumnValues(diagnostics.root().firstChild()->columnValues());
   EXPECT_EQ(columnText(diagnostics, 0), "Book1.xls");
   EXPECT_EQ(columnText(diagnostics, 1), "Sheet1");
   EXPECT_EQ(columnText(diagnostics, 2), "A1");
