@@ -35,8 +35,7 @@ struct RangeLimits {
 /// One engine serves one thread at a time; engines share nothing.
 class ZvThermoInt {
  public:
-  explicit ZvThermoInt(UnitsServerFactory unitsServer = {},
-                       std::unique_ptr<Dialogs> dialogs = {});
+  explicit ZvThermoInt(UnitsServerFactory unitsServer = {}, std::unique_ptr<Dialogs> dialogs = {});
 
   /// All settings, the trace and the last error back to their defaults. The units that the client
   /// chose stay.
