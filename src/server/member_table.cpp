@@ -22,22 +22,9 @@ using detail::action;
 using detail::method;
 using detail::model;
 using detail::setting;
+using detail::silentSetting;
 using detail::value;
 using spreadsheet::XL;
-
-// Answers S_OK and writes nothing.
-constexpr Member hWnd = [] {
-  Member member{0xbe,
-                "hWnd",
-                ReturnStyle::status,
-                true,
-                [](ZvThermoInt&, std::span<Value>) { return 1; },
-                nullptr,
-                {},
-                1};
-  member.parameterStore[0] = {"pVal", ValueType::longInteger, Direction::retval, -1};
-  return member;
-}();
 
 // Outputs first, then inputs, each with the number of its unit group.
 constexpr Member members[] = {
@@ -284,7 +271,7 @@ constexpr Member members[] = {
     action<&Engine::GetAlarms>(0xb9, "GetAlarms", "pAlarmArray"),
     setting<&Engine::AppName, &Engine::SetAppName>(0xbc, "AppName"),
     setting<&Engine::AppHelpFile, &Engine::SetAppHelpFile>(0xbd, "AppHelpFile"),
-    hWnd,
+    silentSetting(0xbe, "hWnd", ValueType::longInteger),
     setting<&Engine::UomHelpContext, &Engine::SetUomHelpContext>(0xbf, "UomHelpContext"),
     method<&Engine::QT_PH>(0xc4, "QT_PH", "pQ:7 pT:0 P:1 H:5"),
     method<&Engine::HVLTSat_PQ>(0xc5, "HVLTSat_PQ", "pH:5 pHVap:5 pHLiq:5 pTSat:0 P:1 Q:7"),

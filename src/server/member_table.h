@@ -40,6 +40,10 @@ enum class ReturnStyle : unsigned char {
 /// theirs. Answers the success flag (1 for members whose result is the value).
 using Operation = int (*)(ZvThermoInt& engine, std::span<Value> arguments);
 
+/// Answers the address of a member's function in the dual interface. A function of each signature
+/// has a type of its own, which a table cannot hold.
+using EntryPoint = const void* (*)();
+
 /// The longest list of parameters (`TurbineA3`).
 inline constexpr int maxParameters = 21;
 
@@ -53,6 +57,8 @@ struct Member {
   /// Call order, without `pSucc`; of a setting or value member the one value.
   std::array<Parameter, maxParameters> parameterStore;
   int parameterCount;
+  EntryPoint entry = nullptr;  ///< null on a platform without the object model
+  EntryPoint putEntry = nullptr;
 
   [[nodiscard]] std::span<const Parameter> parameters() const noexcept {
     return {parameterStore.data(), static_cast<std::size_t>(parameterCount)};

@@ -10,6 +10,10 @@
 #include <utility>
 
 #include "server/member_table.h"
+#include "server/signature.h"
+#ifdef _WIN32
+#include "server/windows/forwarder.h"
+#endif
 
 namespace calvex::detail {
 
@@ -107,35 +111,22 @@ Value returned(const T& result) {
   }
 }
 
-/// The signature of an operation: a member function of the engine or a function over it.
-template <class F>
-struct Signature;
-template <class R, class... A>
-struct Signature<R (ZvThermoInt::*)(A...)> {
-  using Result = std::remove_cvref_t<R>;
-  using Arguments = std::tuple<Argument<A>...>;
+template <class Types>
+struct ArgumentList;
+template <class... A>
+struct ArgumentList<std::tuple<A...>> {
+  using Type = std::tuple<Argument<A>...>;
 };
-template <class R, class... A>
-struct Signature<R (ZvThermoInt::*)(A...) const> : Signature<R (ZvThermoInt::*)(A...)> {};
-template <class R, class... A>
-struct Signature<R (*)(ZvThermoInt&, A...)> : Signature<R (ZvThermoInt::*)(A...)> {};
-
 template <auto Op>
-using SignatureOf = Signature<decltype(Op)>;
+using ArgumentsOf = typename ArgumentList<typename SignatureOf<Op>::Types>::Type;
 
 /// Runs an operation that answers a success flag.
 template <auto Op>
 int run(ZvThermoInt& engine, std::span<Value> values) {
-  using Arguments = typename SignatureOf<Op>::Arguments;
+  using Arguments = ArgumentsOf<Op>;
   return [&]<std::size_t... I>(std::index_sequence<I...>) {
     [[maybe_unused]] Arguments arguments(values[I]...);
-    const int success = [&] {
-      if constexpr (std::is_member_function_pointer_v<decltype(Op)>) {
-        return (engine.*Op)(std::get<I>(arguments).pass()...);
-      } else {
-        return Op(engine, std::get<I>(arguments).pass()...);
-      }
-    }();
+    const int success = apply<Op>(engine, std::get<I>(arguments).pass()...);
     (std::get<I>(arguments).writeBack(success != 0), ...);
     return success;
   }
@@ -149,10 +140,23 @@ int get(ZvThermoInt& engine, std::span<Value> values) {
   return 1;
 }
 
+#ifdef _WIN32
+template <auto Op, ReturnStyle Style>
+inline constexpr EntryPoint entryOf =
+    [] { return reinterpret_cast<const void*>(&com::Forwarder<Op, Style>::call); };
+inline constexpr EntryPoint silentEntry = [] {
+  return reinterpret_cast<const void*>(&com::writeNothing);
+};
+#else
+template <auto Op, ReturnStyle Style>
+inline constexpr EntryPoint entryOf = nullptr;
+inline constexpr EntryPoint silentEntry = nullptr;
+#endif
+
 /// Lays names and unit groups, written "pH:5 P:1 T:0", over the parameters of an operation.
 template <auto Op>
 constexpr int describe(std::array<Parameter, maxParameters>& parameters, std::string_view names) {
-  using Arguments = typename SignatureOf<Op>::Arguments;
+  using Arguments = ArgumentsOf<Op>;
   constexpr std::size_t count = std::tuple_size_v<Arguments>;
   static_assert(count <= maxParameters);
   [&]<std::size_t... I>(std::index_sequence<I...>) {
@@ -185,6 +189,7 @@ template <auto Op>
 constexpr Member method(short id, std::string_view name, std::string_view parameters) {
   Member member{id, name, ReturnStyle::success, false, &run<Op>, nullptr, {}, 0};
   member.parameterCount = describe<Op>(member.parameterStore, parameters);
+  member.entry = entryOf<Op, ReturnStyle::success>;
   return member;
 }
 
@@ -219,6 +224,7 @@ template <auto Op>
 constexpr Member action(short id, std::string_view name, std::string_view parameters = {}) {
   Member member = method<Op>(id, name, parameters);
   member.style = ReturnStyle::status;
+  member.entry = entryOf<Op, ReturnStyle::status>;
   return member;
 }
 
@@ -229,6 +235,7 @@ constexpr Member value(short id, std::string_view name, std::string_view returnN
   Member member{id, name, ReturnStyle::value, false, &get<Op>, nullptr, {}, 1};
   member.parameterStore[0] = {returnName, returnedType<typename SignatureOf<Op>::Result>(),
                               Direction::retval, group};
+  member.entry = entryOf<Op, ReturnStyle::value>;
   return member;
 }
 
@@ -245,6 +252,22 @@ template <auto Get, auto Put>
 constexpr Member setting(short id, std::string_view name) {
   Member member = setting<Get>(id, name);
   member.put = &run<Put>;
+  member.putEntry = entryOf<Put, ReturnStyle::status>;
+  return member;
+}
+
+/// A property that answers S_OK and writes nothing.
+constexpr Member silentSetting(short id, std::string_view name, ValueType type) {
+  Member member{id,
+                name,
+                ReturnStyle::status,
+                true,
+                [](ZvThermoInt&, std::span<Value>) { return 1; },
+                nullptr,
+                {},
+                1};
+  member.parameterStore[0] = {"pVal", type, Direction::retval, -1};
+  member.entry = silentEntry;
   return member;
 }
 

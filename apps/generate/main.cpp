@@ -1,0 +1,17 @@
+// Prints the texts that are made from the product's tables; see scripts/update-generated.
+#include <iostream>
+#include <string_view>
+
+#include "server/generated_texts.h"
+
+int main(int count, char** arguments) {
+  const std::string_view what = count == 2 ? arguments[1] : "";
+  if (what == "interface") {
+    std::cout << calvex::interfaceDefinition();
+  } else if (what == "strings") {
+    std::cout << calvex::stringResources();
+  } else {
+    std::cerr << "usage: generate interface|strings\n";
+    return 2;
+  }
+}

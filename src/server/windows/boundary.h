@@ -1,0 +1,70 @@
+/// \file
+/// Where calls enter and leave the module. Nothing of the inside shows outside: no exception, and
+/// no trace in the floating-point unit.
+#pragma once
+
+#include <xmmintrin.h>
+
+#include <new>
+
+#include "server/windows/automation.h"
+
+namespace calvex {
+class ZvThermoInt;
+}
+
+namespace calvex::com {
+
+/// The one engine of the loaded module: the binary interface has no other way to it.
+[[nodiscard]] ZvThermoInt& engine() noexcept;
+void setEngine(ZvThermoInt* engine) noexcept;
+
+/// The engine's arithmetic runs with the exceptions masked and the rounding to nearest, whatever
+/// the client had set (some hosts unmask them), and leaves no status flag behind.
+class FloatingPointScope {
+ public:
+  FloatingPointScope() noexcept : clients_(_mm_getcsr()) { _mm_setcsr(masked); }
+  ~FloatingPointScope() {
+    _mm_setcsr(clients_);
+#ifdef __i386__
+    __asm__ __volatile__("fnclex\n\tfldcw %0" : : "m"(clientsX87_));
+#endif
+  }
+  FloatingPointScope(const FloatingPointScope&) = delete;
+  FloatingPointScope& operator=(const FloatingPointScope&) = delete;
+
+ private:
+  static constexpr unsigned masked = 0x1F80;
+  unsigned clients_;
+#ifdef __i386__
+  // The C runtime's functions use the x87 unit there.
+  unsigned short clientsX87_ = [] {
+    unsigned short control;
+    __asm__ __volatile__("fnstcw %0" : "=m"(control));
+    const unsigned short all = 0x037F;
+    __asm__ __volatile__("fnclex\n\tfldcw %0" : : "m"(all));
+    return control;
+  }();
+#endif
+};
+
+/// Leaves a description of the failure for clients that ask for one, and answers the result.
+HRESULT report(HRESULT result, const wchar_t* description) noexcept;
+
+/// E_POINTER.
+HRESULT noPlaceForResult() noexcept;
+
+/// Runs the body of a function that a client called.
+template <class Body>
+HRESULT atBoundary(Body&& body) noexcept {
+  const FloatingPointScope arithmetic;
+  try {
+    return body();
+  } catch (const std::bad_alloc&) {
+    return report(E_OUTOFMEMORY, L"There is not enough memory for this call.");
+  } catch (...) {
+    return report(E_UNEXPECTED, L"The call ended in an internal error.");
+  }
+}
+
+}  // namespace calvex::com

@@ -1,0 +1,62 @@
+#include "server/windows/server.h"
+
+#include "server/windows/boundary.h"
+#include "server/windows/guids.h"
+#include "server/windows/units_server.h"
+#if __has_include("ui/windows/dialogs.h")
+#include "ui/windows/dialogs.h"
+#else
+namespace calvex {
+static std::unique_ptr<Dialogs> makeDialogs(HINSTANCE) { return {}; }
+}  // namespace calvex
+#endif
+
+namespace calvex::com {
+
+Server::Server(HINSTANCE instance)
+    : instance_(instance), module_(connectUnitsServer, makeDialogs(instance)) {
+  setEngine(&module_.engine());
+}
+
+// The last object has gone before; what it left is released here.
+Server::~Server() {
+  setEngine(nullptr);
+  if (ITypeLib* library = typeLibrary_.exchange(nullptr)) library->Release();
+}
+
+std::wstring Server::path() const {
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length =
+        GetModuleFileNameW(instance_, path.data(), static_cast<DWORD>(path.size()));
+    if (length < path.size()) {
+      path.resize(length);
+      return path;
+    }
+    path.resize(2 * path.size());
+  }
+}
+
+// The type library belongs to the object model's runtime, which may go before the module does: it
+// is given back with the last object.
+void Server::unlock() noexcept {
+  if (--locks_ != 0) return;
+  if (ITypeLib* library = typeLibrary_.exchange(nullptr)) library->Release();
+}
+
+HRESULT Server::typeInformation(REFGUID id, ITypeInfo** information) {
+  ITypeLib* library = typeLibrary_;
+  if (library == nullptr) {
+    // The first is resource 1; a registered library of the same name could be another version's.
+    const HRESULT loaded = LoadTypeLibEx(path().c_str(), REGKIND_NONE, &library);
+    if (FAILED(loaded)) return loaded;
+    ITypeLib* other = nullptr;
+    if (!typeLibrary_.compare_exchange_strong(other, library)) {
+      library->Release();
+      library = other;
+    }
+  }
+  return library->GetTypeInfoOfGuid(id, information);
+}
+
+}  // namespace calvex::com

@@ -1,0 +1,246 @@
+#include "server/windows/variants.h"
+
+#include <dispex.h>
+
+#include <memory>
+#include <new>
+
+namespace calvex::com {
+
+namespace {
+
+constexpr UINT windows1252 = 1252;
+
+/// A variant that frees what it holds.
+struct Variant : VARIANT {
+  Variant() { VariantInit(this); }
+  ~Variant() { VariantClear(this); }
+  Variant(const Variant&) = delete;
+  Variant& operator=(const Variant&) = delete;
+
+  void setText(std::string_view text) {
+    bstrVal = toBstr(text);
+    vt = VT_BSTR;
+  }
+  void setRows(const ResultArray& rows);
+  void set(const Value& value);
+  /// Hands the content over.
+  VARIANT release() {
+    const VARIANT content = *this;
+    vt = VT_EMPTY;
+    return content;
+  }
+};
+
+// Elements lie with the row running fastest.
+void Variant::setRows(const ResultArray& rows) {
+  const ULONG columns = rows.empty() ? 0 : static_cast<ULONG>(rows[0].size());
+  SAFEARRAYBOUND bounds[] = {{static_cast<ULONG>(rows.size()), 0}, {columns, 0}};
+  parray = SafeArrayCreate(VT_VARIANT, 2, bounds);
+  if (parray == nullptr) throw std::bad_alloc();
+  vt = VT_ARRAY | VT_VARIANT;  // from here on destroyed with the elements that it has
+  void* data = nullptr;
+  if (FAILED(SafeArrayAccessData(parray, &data))) throw std::bad_alloc();
+  const auto unlock = [](SAFEARRAY* array) { SafeArrayUnaccessData(array); };
+  const std::unique_ptr<SAFEARRAY, decltype(unlock)> access(parray, unlock);
+  auto* elements = static_cast<VARIANT*>(data);
+  for (std::size_t column = 0; column < columns; ++column) {
+    for (const auto& row : rows) {
+      const Cell& cell = row[column];
+      if (const auto* text = std::get_if<std::string>(&cell)) {
+        elements->bstrVal = toBstr(*text);
+        elements->vt = VT_BSTR;
+      } else {
+        elements->dblVal = std::get<double>(cell);
+        elements->vt = VT_R8;
+      }
+      ++elements;
+    }
+  }
+}
+
+void Variant::set(const Value& value) {
+  if (const auto* real = std::get_if<double>(&value)) {
+    dblVal = *real;
+    vt = VT_R8;
+  } else if (const auto* small = std::get_if<short>(&value)) {
+    iVal = *small;
+    vt = VT_I2;
+  } else if (const auto* large = std::get_if<int>(&value)) {
+    lVal = *large;
+    vt = VT_I4;
+  } else if (const auto* text = std::get_if<std::string>(&value)) {
+    setText(*text);
+  } else if (const auto* rows = std::get_if<ResultArray>(&value)) {
+    setRows(*rows);
+  }
+}
+
+void assign(VARIANT& target, Variant& content) {
+  VariantClear(&target);
+  target = content.release();
+}
+
+constexpr VARTYPE variantType(ValueType type) {
+  switch (type) {
+    case ValueType::real:
+      return VT_R8;
+    case ValueType::shortInteger:
+      return VT_I2;
+    case ValueType::longInteger:
+      return VT_I4;
+    case ValueType::text:
+      return VT_BSTR;
+    case ValueType::array:
+      return VT_ARRAY | VT_VARIANT;
+  }
+  return VT_EMPTY;
+}
+
+/// A variable of a script arrives as a reference to a variant, through procedures to another one.
+const VARIANT& follow(const VARIANT& argument) {
+  const VARIANT* variable = &argument;
+  while (variable->vt == (VT_BYREF | VT_VARIANT)) variable = variable->pvarVal;
+  return *variable;
+}
+
+HRESULT giveTyped(const VARIANT& reference, const Variant& content) {
+  switch (content.vt) {
+    case VT_R8:
+      *reference.pdblVal = content.dblVal;
+      break;
+    case VT_I2:
+      *reference.piVal = content.iVal;
+      break;
+    case VT_I4:
+      *reference.plVal = content.lVal;
+      break;
+    default:
+      return DISP_E_TYPEMISMATCH;
+  }
+  return S_OK;
+}
+
+HRESULT putProperty(IDispatch& object, DISPID id, Variant& content) {
+  DISPID put = DISPID_PROPERTYPUT;
+  DISPPARAMS parameters{&content, &put, 1, 1};
+  return object.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYPUT, &parameters,
+                       nullptr, nullptr, nullptr);
+}
+
+HRESULT giveObject(IDispatch& object, Variant& content) {
+  IDispatchEx* script = nullptr;
+  if (SUCCEEDED(object.QueryInterface(__uuidof(IDispatchEx), reinterpret_cast<void**>(&script)))) {
+    DISPID id = DISPID_UNKNOWN;
+    const BSTR name = SysAllocString(L"value");
+    HRESULT result = script->GetDispID(name, fdexNameEnsure | fdexNameCaseSensitive, &id);
+    SysFreeString(name);
+    if (SUCCEEDED(result)) result = putProperty(*script, id, content);
+    script->Release();
+    if (SUCCEEDED(result)) return result;
+  }
+  return putProperty(object, DISPID_VALUE, content);
+}
+
+}  // namespace
+
+std::string toText(BSTR text) {
+  const int length = static_cast<int>(SysStringLen(text));
+  if (length == 0) return {};
+  std::string bytes(static_cast<std::size_t>(length), '\0');
+  // Each character becomes one byte; no look-alikes, which could turn one unit's name into another.
+  WideCharToMultiByte(windows1252, WC_NO_BEST_FIT_CHARS, text, length, bytes.data(), length, "?",
+                      nullptr);
+  return bytes;
+}
+
+BSTR toBstr(std::string_view text) {
+  const int length = static_cast<int>(text.size());
+  const BSTR wide = SysAllocStringLen(nullptr, static_cast<UINT>(length));
+  if (wide == nullptr) throw std::bad_alloc();
+  if (length != 0) MultiByteToWideChar(windows1252, 0, text.data(), length, wide, length);
+  return wide;
+}
+
+void replace(BSTR& target, std::string_view text) {
+  const BSTR content = toBstr(text);
+  SysFreeString(target);
+  target = content;
+}
+
+void replace(VARIANT& target, const ResultArray& rows) {
+  Variant content;
+  content.setRows(rows);
+  assign(target, content);
+}
+
+void replace(VARIANT& target, const Value& value) {
+  Variant content;
+  content.set(value);
+  assign(target, content);
+}
+
+HRESULT read(const VARIANT& argument, ValueType type, LCID locale, Value& value) {
+  const VARIANT& given = follow(argument);
+  if (type == ValueType::array) return S_OK;  // what it held is replaced
+  const VARTYPE wanted = variantType(type);
+  Variant coerced;
+  const VARIANT* content = &given;
+  if (given.vt == VT_ERROR && given.scode == DISP_E_PARAMNOTFOUND) return DISP_E_PARAMNOTOPTIONAL;
+  if (given.vt != wanted) {
+    // The declaration lacks a const.
+    auto* source = const_cast<VARIANT*>(&given);
+    const HRESULT result = VariantChangeTypeEx(&coerced, source, locale, 0, wanted);
+    if (FAILED(result)) return result == DISP_E_OVERFLOW ? result : DISP_E_TYPEMISMATCH;
+    content = &coerced;
+  }
+  switch (type) {
+    case ValueType::real:
+      value = content->dblVal;
+      break;
+    case ValueType::shortInteger:
+      value = content->iVal;
+      break;
+    case ValueType::longInteger:
+      value = static_cast<int>(content->lVal);
+      break;
+    default:
+      value = toText(content->bstrVal);
+  }
+  return S_OK;
+}
+
+HRESULT checkOutput(const VARIANT& argument, ValueType type) {
+  const VARIANT& place = follow(argument);
+  const bool typed = (place.vt & VT_BYREF) != 0;
+  return !typed || place.vt == (VT_BYREF | variantType(type)) ? S_OK : DISP_E_TYPEMISMATCH;
+}
+
+HRESULT give(const VARIANT& argument, const Value& value) {
+  const VARIANT& place = follow(argument);
+  Variant content;
+  content.set(value);
+  if (place.vt == (VT_BYREF | VT_BSTR)) {
+    SysFreeString(*place.pbstrVal);
+    *place.pbstrVal = content.release().bstrVal;
+    return S_OK;
+  }
+  if (place.vt == (VT_BYREF | VT_ARRAY | VT_VARIANT)) {
+    if (*place.pparray != nullptr && FAILED(SafeArrayDestroy(*place.pparray))) {
+      return DISP_E_ARRAYISLOCKED;
+    }
+    *place.pparray = content.release().parray;
+    return S_OK;
+  }
+  if ((place.vt & VT_BYREF) != 0) return giveTyped(place, content);
+  if (argument.vt == (VT_BYREF | VT_VARIANT)) {
+    assign(const_cast<VARIANT&>(place), content);  // the client's variable
+    return S_OK;
+  }
+  if (place.vt == VT_DISPATCH && place.pdispVal != nullptr) {
+    return giveObject(*place.pdispVal, content);
+  }
+  return S_OK;
+}
+
+}  // namespace calvex::com

@@ -1,0 +1,36 @@
+/// \file
+/// Between the automation types and those of the member table.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "server/value.h"
+#include "server/windows/automation.h"
+
+namespace calvex::com {
+
+/// Texts are Windows-1252 inside. What has no place there becomes a question mark; an absent BSTR
+/// is an empty text.
+[[nodiscard]] std::string toText(BSTR text);
+/// Throws std::bad_alloc.
+[[nodiscard]] BSTR toBstr(std::string_view text);
+
+/// The client's variable takes the new content and frees its old. Throw std::bad_alloc, and leave
+/// the variable alone, without memory.
+void replace(BSTR& target, std::string_view text);
+void replace(VARIANT& target, const ResultArray& rows);
+void replace(VARIANT& target, const Value& value);
+
+/// Reads an argument as a parameter of that type, coerced as automation does, in the client's
+/// locale. S_OK, DISP_E_TYPEMISMATCH, DISP_E_OVERFLOW or DISP_E_PARAMNOTOPTIONAL.
+HRESULT read(const VARIANT& argument, ValueType type, LCID locale, Value& value);
+
+/// Hands an output to the argument that the client gave for it: a variable of the parameter's own
+/// type, a variant (takes that type), an object (its property `value` where the object is a
+/// script's, else its default property). An argument by value has no place for an output, which is
+/// then lost; checking beforehand tells whether there is a way at all.
+HRESULT checkOutput(const VARIANT& argument, ValueType type);
+HRESULT give(const VARIANT& argument, const Value& value);
+
+}  // namespace calvex::com
