@@ -287,8 +287,7 @@ class FakeServer : public UnitsServer {
     status = 45;
     return value != log_.refusedValue;
   }
-  bool toInternal(std::string_view group, double value, double& result,
-                  short& status) override {
+  bool toInternal(std::string_view group, double value, double& result, short& status) override {
     result = group == "Temperature" ? value + 273.15 : value;
     status = 44;
     return value != log_.refusedValue;
