@@ -10,8 +10,10 @@ int main(int count, char** arguments) {
     std::cout << calvex::interfaceDefinition();
   } else if (what == "strings") {
     std::cout << calvex::stringResources();
+  } else if (what == "worksheet") {
+    std::cout << calvex::worksheetFunctions();
   } else {
-    std::cerr << "usage: generate interface|strings\n";
+    std::cerr << "usage: generate interface|strings|worksheet\n";
     return 2;
   }
 }

@@ -1,7 +1,7 @@
 /// \file
 /// Texts for other compilers, made from the tables: the interface definition and the string
-/// resources of the Windows module. They are kept in server/windows and made anew by
-/// scripts/update-generated.
+/// resources of the Windows module, kept in server/windows, and the worksheet functions, kept in
+/// packaging/windows. scripts/update-generated makes them anew.
 #pragma once
 
 #include <string>
@@ -15,5 +15,9 @@ namespace calvex {
 /// The string table for the resource compiler: the messages, and the names and internal units of
 /// the unit groups.
 [[nodiscard]] std::string stringResources();
+
+/// A worksheet function for every member that answers numbers, and one that finds them by name, in
+/// Visual Basic: the end of the macro module, whose beginning is written by hand.
+[[nodiscard]] std::string worksheetFunctions();
 
 }  // namespace calvex

@@ -11,7 +11,7 @@ namespace calvex {
 namespace {
 
 std::string kept(const std::string& name) {
-  std::ifstream file(std::string(CALVEX_TEST_DATA) + "/../../src/server/windows/" + name);
+  std::ifstream file(std::string(CALVEX_TEST_DATA) + "/../../" + name);
   EXPECT_TRUE(file) << name;
   std::ostringstream text;
   text << file.rdbuf();
@@ -19,11 +19,27 @@ std::string kept(const std::string& name) {
 }
 
 TEST(GeneratedTexts, TheKeptInterfaceDefinitionIsCurrent) {
-  EXPECT_EQ(kept("calvex.idl"), interfaceDefinition()) << "run scripts/update-generated";
+  EXPECT_EQ(kept("src/server/windows/calvex.idl"), interfaceDefinition())
+      << "run scripts/update-generated";
 }
 
 TEST(GeneratedTexts, TheKeptStringTableIsCurrent) {
-  EXPECT_EQ(kept("strings.rc"), stringResources()) << "run scripts/update-generated";
+  EXPECT_EQ(kept("src/server/windows/strings.rc"), stringResources())
+      << "run scripts/update-generated";
+}
+
+// The part of the macro module above the generated one is written by hand.
+TEST(GeneratedTexts, TheKeptWorksheetFunctionsAreCurrent) {
+  const std::string text = kept("packaging/windows/calvex.bas");
+  const std::size_t generated = text.find("' From here on: ");
+  ASSERT_NE(generated, std::string::npos);
+  EXPECT_EQ(text.substr(generated), worksheetFunctions()) << "run scripts/update-generated";
+}
+
+// Visual Basic reads lines of up to 1023 characters.
+TEST(GeneratedTexts, NoWorksheetFunctionHasALineTooLong) {
+  std::istringstream text(worksheetFunctions());
+  for (std::string line; std::getline(text, line);) EXPECT_LE(line.size(), 1000U) << line;
 }
 
 // The numbers are fixed: clients and translations know the texts by them.
