@@ -70,7 +70,7 @@ void expectEverythingFits(HWND dialog) {
     const int count = static_cast<int>(SendMessageW(control, CB_GETCOUNT, 0, 0));
     EXPECT_GT(count, 0);
     for (int entry = 0; entry < count; ++entry) {
-      expectFit(control, entryOf(control, entry), GetSystemMetrics(SM_CXVSCROLL) + 8, height);
+      expectFit(control, entryOf(control, entry), GetSystemMetrics(SM_CXVSCROLL) + 5, height);
     }
   }
 }
@@ -78,8 +78,12 @@ void expectEverythingFits(HWND dialog) {
 void takePicture(HWND window, const std::string& name) {
   const char* folder = std::getenv("CALVEX_PICTURES");
   if (folder == nullptr) return;
-  RedrawWindow(window, nullptr, nullptr,
-               RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+  SetForegroundWindow(window);
+  // What is drawn reaches the screen with a delay.
+  for (const ULONGLONG end = GetTickCount64() + 1000; GetTickCount64() < end; Sleep(10)) {
+    MSG message;
+    while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+  }
   const RECT place = screenRectangle(window);
   const int width = place.right - place.left, height = place.bottom - place.top;
   const HDC screen = GetDC(nullptr);
