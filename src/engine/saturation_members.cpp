@@ -1,4 +1,7 @@
 // The members of the saturation line, and the constants.
+#include <exception>
+#include <limits>
+
 #include "engine/thermo_engine.h"
 #include "steam/constants.h"
 
@@ -82,30 +85,39 @@ int ZvThermoInt::HVLTSat_PQ(double* pH, double* pHVap, double* pHLiq, double* pT
   });
 }
 
+// A constant has no flag to tell a failure by: when the units server refuses, it has no number.
+double ZvThermoInt::constant(UnitGroup group, double value) const {
+  try {
+    return units_.toUser(group, value);
+  } catch (const std::exception&) {
+    return std::numeric_limits<double>::quiet_NaN();
+  }
+}
+
 double ZvThermoInt::MolWeight() const {
-  return units_.toUser(UnitGroup::molecularWeight, constants::molecularWeight);
+  return constant(UnitGroup::molecularWeight, constants::molecularWeight);
 }
 double ZvThermoInt::CritT() const {
-  return units_.toUser(UnitGroup::temperature, constants::criticalTemperature);
+  return constant(UnitGroup::temperature, constants::criticalTemperature);
 }
 double ZvThermoInt::CritP() const {
-  return units_.toUser(UnitGroup::pressure, constants::criticalPressure);
+  return constant(UnitGroup::pressure, constants::criticalPressure);
 }
 double ZvThermoInt::CritV() const {
-  return units_.toUser(UnitGroup::specificVolume, 1.0 / constants::criticalDensity);
+  return constant(UnitGroup::specificVolume, 1.0 / constants::criticalDensity);
 }
 double ZvThermoInt::CritR() const {
-  return units_.toUser(UnitGroup::density, constants::criticalDensity);
+  return constant(UnitGroup::density, constants::criticalDensity);
 }
 double ZvThermoInt::CritZ() const {
   return 1000.0 * constants::criticalPressure /
          (constants::criticalDensity * constants::gasConstant * constants::criticalTemperature);
 }
 double ZvThermoInt::TripleT() const {
-  return units_.toUser(UnitGroup::temperature, constants::triplePointTemperature);
+  return constant(UnitGroup::temperature, constants::triplePointTemperature);
 }
 double ZvThermoInt::TripleP() const {
-  return units_.toUser(UnitGroup::pressure, constants::triplePointPressure);
+  return constant(UnitGroup::pressure, constants::triplePointPressure);
 }
 
 }  // namespace calvex

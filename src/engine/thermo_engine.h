@@ -83,7 +83,7 @@ class ZvThermoInt {
   /// Mixture, saturated vapour and saturated liquid enthalpy and the saturation temperature.
   int HVLTSat_PQ(double* pH, double* pHVap, double* pHLiq, double* pTSat, double P, double Q);
 
-  // Constants (the value itself is returned)
+  // Constants (the value itself is returned; none, a NaN, when the units server refuses)
   // --------------------------------------------------------
   double MolWeight() const;
   double CritT() const;
@@ -214,6 +214,7 @@ class ZvThermoInt {
                  double* out, double first, double Q);
   int fromPH(std::string_view name, double* pQ, double* pT, Property third, UnitGroup thirdGroup,
              double* pThird, double P, double H);
+  [[nodiscard]] double constant(UnitGroup group, double value) const;
   bool isOnLine(double P, double T);
   bool failWithServer(short status);
   template <class Show>

@@ -1,5 +1,6 @@
 #include "units/user_units.h"
 
+#include <stdexcept>
 #include <utility>
 
 namespace calvex {
@@ -37,9 +38,10 @@ double UserUnits::convertByServer(ServerConversion conversion, UnitGroup group,
                                   double value) const {
   double result = value;
   short status = 0;
-  const bool converted =
-      ((*server_).*conversion)(catalogue_[group].row().displayName, value, result, status);
-  return converted ? result : value;
+  if (!((*server_).*conversion)(catalogue_[group].row().displayName, value, result, status)) {
+    throw std::runtime_error(server_->errorText(status));
+  }
+  return result;
 }
 
 bool UserUnits::setCatalogueUnit(int group, std::string_view unit) {

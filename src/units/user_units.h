@@ -52,8 +52,8 @@ class UserUnits {
   bool setMode(short mode);
 
   /// User unit to internal unit, and back. Exactly the identity while a group's user unit is its
-  /// internal unit (modes 0 and 2). A value that the server refuses to convert comes back
-  /// unchanged.
+  /// internal unit (modes 0 and 2). Throw std::runtime_error with the server's text when it
+  /// refuses.
   [[nodiscard]] double toInternal(UnitGroup group, double value) const;
   [[nodiscard]] double toUser(UnitGroup group, double value) const;
 

@@ -252,6 +252,7 @@ struct ServerLog {
   int connections = 0;
   int releases = 0;
   std::map<std::string, std::string> units;
+  double refusedValue = std::numeric_limits<double>::quiet_NaN();
 };
 
 class FakeServer : public UnitsServer {
@@ -281,14 +282,15 @@ class FakeServer : public UnitsServer {
     result = 10.0 * value;
     return true;
   }
-  bool toUser(std::string_view group, double value, double& result, short& /*status*/) override {
+  bool toUser(std::string_view group, double value, double& result, short& status) override {
     result = group == "Temperature" ? value - 273.15 : value;
-    return true;
+    status = 45;
+    return value != log_.refusedValue;
   }
-  bool toInternal(std::string_view group, double value, double& result,
-                  short& /*status*/) override {
+  bool toInternal(std::string_view group, double value, double& result, short& status) override {
     result = group == "Temperature" ? value + 273.15 : value;
-    return true;
+    status = 44;
+    return value != log_.refusedValue;
   }
   bool showDialog() override { return true; }
   std::string errorText(short status) override { return "server status " + std::to_string(status); }
@@ -321,6 +323,15 @@ TEST_F(UnitsServerMode, ConversionsGoThroughTheServer) {
   EXPECT_EQ(errorOf(engine, &ZvThermoInt::HPT, 1.0, -20.0),
             "Temperature parameter out of range (Valid range -13.15 to 2226.85 server "
             "Temperature).");
+}
+
+TEST_F(UnitsServerMode, ACallFailsWithTheServersTextWhenItRefusesToConvert) {
+  ASSERT_EQ(engine.SetAppLevel(1), 1);
+  log.refusedValue = 10.0;
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::HPT, 10.0, 500.0), "server status 44");
+  log.refusedValue = engine.CritT() + 273.15;
+  EXPECT_TRUE(std::isnan(engine.CritT()));
+  EXPECT_FALSE(std::isnan(engine.CritP()));
 }
 
 TEST_F(UnitsServerMode, UnitMembersAskTheServerAndReportItsErrors) {

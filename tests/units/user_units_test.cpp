@@ -261,13 +261,18 @@ TEST(ServerMode, ConvertsThroughTheServerUnderTheDisplayName) {
   EXPECT_EQ(script.lastGroup, "Joule-Thomson Coefficient");
 }
 
-TEST(ServerMode, ReturnsTheValueUnchangedWhenTheServerRefuses) {
+TEST(ServerMode, ThrowsTheServersTextWhenItRefusesToConvert) {
   ServerScript script;
   UserUnits units(serverOf(script));
   ASSERT_TRUE(units.setMode(1));
   script.answers = false;
-  EXPECT_EQ(units.toInternal(UnitGroup::pressure, 21), 21);
-  EXPECT_EQ(units.toUser(UnitGroup::pressure, 21), 21);
+  for (const auto convert : {&UserUnits::toInternal, &UserUnits::toUser}) {
+    try {
+      ADD_FAILURE() << "answered " << (units.*convert)(UnitGroup::pressure, 21);
+    } catch (const std::runtime_error& refusal) {
+      EXPECT_STREQ(refusal.what(), "refused");
+    }
+  }
 }
 
 TEST(ServerMode, GivesTheStatusAndNoUnitWhenTheServerRefuses) {

@@ -27,7 +27,7 @@ class FloatingPointScope {
   ~FloatingPointScope() {
     _mm_setcsr(clients_);
 #ifdef __i386__
-    __asm__ __volatile__("fnclex\n\tfldcw %0" : : "m"(clientsX87_));
+    __asm__ __volatile__("fnclex\n\tfldenv %0" : : "m"(clientsX87_));
 #endif
   }
   FloatingPointScope(const FloatingPointScope&) = delete;
@@ -37,13 +37,17 @@ class FloatingPointScope {
   static constexpr unsigned masked = 0x1F80;
   unsigned clients_;
 #ifdef __i386__
-  // The C runtime's functions use the x87 unit there.
-  unsigned short clientsX87_ = [] {
-    unsigned short control;
-    __asm__ __volatile__("fnstcw %0" : "=m"(control));
-    const unsigned short all = 0x037F;
-    __asm__ __volatile__("fnclex\n\tfldcw %0" : : "m"(all));
-    return control;
+  // The C runtime's functions use the x87 unit there. Storing its environment masks the exceptions.
+  struct X87Environment {
+    unsigned words[7];
+  };
+  X87Environment clientsX87_ = [] {
+    X87Environment environment{};
+    constexpr unsigned short extendedPrecision = 0x037F;
+    __asm__ __volatile__("fnstenv %0\n\tfnclex\n\tfldcw %1"
+                         : "=m"(environment)
+                         : "m"(extendedPrecision));
+    return environment;
   }();
 #endif
 };

@@ -3,13 +3,7 @@
 #include "server/windows/boundary.h"
 #include "server/windows/guids.h"
 #include "server/windows/units_server.h"
-#if __has_include("ui/windows/dialogs.h")
 #include "ui/windows/dialogs.h"
-#else
-namespace calvex {
-static std::unique_ptr<Dialogs> makeDialogs(HINSTANCE) { return {}; }
-}  // namespace calvex
-#endif
 
 namespace calvex::com {
 
