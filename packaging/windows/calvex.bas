@@ -2,7 +2,8 @@ Attribute VB_Name = "Calvex"
 ' Calvex in Excel: properties of water and steam as worksheet functions.
 '
 ' Import this file in the Visual Basic editor (Alt+F11; File, Import File). The server must have
-' been registered; see windows.md. A cell whose function fails shows the reason, "#Calvex: ...".
+' been registered; docs\windows.md says how. A cell whose function fails shows the reason,
+' "#Calvex: ...".
 Option Explicit
 
 Private Const Mark As String = "#Calvex: "
