@@ -45,8 +45,9 @@ class DialogUser {
   }
 
   static void CALLBACK act(HWND, UINT, UINT_PTR timer, DWORD) {
-    KillTimer(nullptr, timer);
     const HWND dialog = GetActiveWindow();
+    if (!IsWindowVisible(dialog)) return;  // still opening: again at the next tick
+    KillTimer(nullptr, timer);
     const std::size_t turn = current->turn_++;
     if (turn < current->turns_.size()) current->turns_[turn](dialog);
     PostMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
