@@ -1,7 +1,6 @@
 #include "server/windows/registration.h"
 
-#include <array>
-#include <string_view>
+#include <initializer_list>
 #include <vector>
 
 #include "server/windows/guids.h"
@@ -82,13 +81,12 @@ HRESULT removeKey(HKEY root, const std::wstring& key) {
   return status == ERROR_FILE_NOT_FOUND ? S_OK : HRESULT_FROM_WIN32(static_cast<DWORD>(status));
 }
 
-// The class goes first: where both views show one key, the other server is not registered apart.
 HRESULT removeFrom(HKEY root) {
   HRESULT result = removeKey(root, L"CLSID\\" + braced(identity::classId));
+  // Asked when the own key is gone: where the word lengths share their classes it is the same key.
   if (otherWordLengthIsRegistered(root)) return result;
-  for (const std::string_view id :
-       std::array{identity::programId, identity::versionIndependentProgramId}) {
-    const HRESULT removed = removeKey(root, wide(id));
+  for (const auto program : {identity::programId, identity::versionIndependentProgramId}) {
+    const HRESULT removed = removeKey(root, wide(program));
     if (SUCCEEDED(result)) result = removed;
   }
   return result;
