@@ -36,7 +36,7 @@ struct ExpectedToken {
 inline const std::vector<ExpectedToken>& expectedTokens() {
   static const std::vector<ExpectedToken> tokens = [] {
     std::vector<ExpectedToken> list;
-    for (const std::vector<std::string>& row : readTable("tokens.csv")) {
+    for (const std::vector<std::string>& row : readCells("tokens.csv")) {
       list.push_back(
           {row.at(0), row.at(1), row.at(2), static_cast<short>(std::stoi(row.at(3))), row.at(4)});
     }

@@ -41,7 +41,7 @@ TEST_F(Tokens, AreTriedWhereNoTwoOutputsAreEqual) {
 
 TEST_F(Tokens, GiveLabelValueAndUnitAsTheFlagsAsk) {
   std::map<short, std::string> modelUnits;
-  for (const std::vector<std::string>& row : readTable("unit-groups.csv")) {
+  for (const std::vector<std::string>& row : readCells("unit-groups.csv")) {
     modelUnits[static_cast<short>(std::stoi(row.at(0)))] = row.at(2);
   }
   for (const int withUnits : {0, 1, -1}) {

@@ -40,7 +40,7 @@ double converted(int group, double value, std::string_view from, std::string_vie
 }
 
 TEST(UnitTables, EveryUnitHasItsTabulatedFactorAndOffsetInCatalogueOrder) {
-  const auto expected = test::readTable("unit-tables.csv");
+  const auto expected = test::readCells("unit-tables.csv");
   ASSERT_EQ(expected.size(), 297U);
   auto line = expected.begin();
   for (int group = 0; group < unitGroupCount; ++group) {
@@ -59,7 +59,7 @@ TEST(UnitTables, EveryUnitHasItsTabulatedFactorAndOffsetInCatalogueOrder) {
 
 TEST(UnitTables, EveryUnitIsFoundByItsName) {
   const ZvUomLite catalogue;
-  for (const auto& line : test::readTable("unit-tables.csv")) {
+  for (const auto& line : test::readCells("unit-tables.csv")) {
     double factor = 0, offset = 1;
     ASSERT_TRUE(catalogue.getFactors(std::stoi(line[0]), line[1], factor, offset)) << line[1];
     EXPECT_EQ(factor, std::stod(line[2])) << line[1];
@@ -68,7 +68,7 @@ TEST(UnitTables, EveryUnitIsFoundByItsName) {
 }
 
 TEST(UnitTables, EveryGroupHasItsNamesUnitsAndKeywords) {
-  const auto expected = test::readTable("unit-groups.csv");
+  const auto expected = test::readCells("unit-groups.csv");
   ASSERT_EQ(expected.size(), 27U);
   const ZvUomLite catalogue;
   std::size_t keywords = 0;

@@ -25,7 +25,7 @@ inline std::vector<std::string> split(const std::string& text, char separator) {
 }
 
 /// The rows of a data file below its heading, in Windows-1252.
-inline std::vector<std::vector<std::string>> readTable(const std::string& name) {
+inline std::vector<std::vector<std::string>> readCells(const std::string& name) {
   std::ifstream in(CALVEX_TEST_DATA "/" + name);
   EXPECT_TRUE(in) << "cannot read " << name;
   std::vector<std::vector<std::string>> rows;

@@ -15,7 +15,9 @@ struct InterfaceParameter {
   std::string direction;  ///< in, out, inout, retval
   VARTYPE type;           ///< of the value; VT_VARIANT for arrays
   std::string name;
+  int group = -1;  ///< of the value's unit, or -1
 
+  [[nodiscard]] bool isInput() const { return direction == "in"; }
   [[nodiscard]] bool isOutput() const { return direction != "in"; }
 };
 
@@ -51,7 +53,9 @@ inline const std::vector<InterfaceEntry>& interfaceEntries() {
         if (!text.empty() && text.front() == ' ') text.erase(0, 1);
         if (text.empty()) continue;
         const std::vector<std::string> words = cellsOf(text, ' ');
-        parameters.push_back({words.at(0), typeNamed(words.at(1)), cellsOf(words.at(2), ':')[0]});
+        const std::vector<std::string> name = cellsOf(words.at(2), ':');
+        parameters.push_back({words.at(0), typeNamed(words.at(1)), name[0],
+                              name.size() > 1 ? std::stoi(name[1]) : -1});
       }
       const std::string& name = row.text("name");
       const std::string& kind = row.text("kind");
