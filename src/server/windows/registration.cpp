@@ -76,18 +76,18 @@ bool otherWordLengthIsRegistered(HKEY root) {
   return true;
 }
 
+HRESULT removeKey(HKEY root, const std::wstring& key) {
+  const LSTATUS status = RegDeleteTreeW(root, (classes + key).c_str());
+  return status == ERROR_FILE_NOT_FOUND ? S_OK : HRESULT_FROM_WIN32(static_cast<DWORD>(status));
+}
+
 HRESULT removeFrom(HKEY root) {
-  std::vector<std::wstring> keys{L"CLSID\\" + braced(identity::classId)};
-  if (!otherWordLengthIsRegistered(root)) {
-    keys.push_back(wide(identity::programId));
-    keys.push_back(wide(identity::versionIndependentProgramId));
-  }
-  HRESULT result = S_OK;
-  for (const std::wstring& key : keys) {
-    const LSTATUS status = RegDeleteTreeW(root, (classes + key).c_str());
-    if (status != ERROR_SUCCESS && status != ERROR_FILE_NOT_FOUND && SUCCEEDED(result)) {
-      result = HRESULT_FROM_WIN32(static_cast<DWORD>(status));
-    }
+  HRESULT result = removeKey(root, L"CLSID\\" + braced(identity::classId));
+  // Asked when the own key is gone: where the word lengths share their classes it is the same key.
+  if (otherWordLengthIsRegistered(root)) return result;
+  for (const auto program : {identity::programId, identity::versionIndependentProgramId}) {
+    const HRESULT removed = removeKey(root, wide(program));
+    if (SUCCEEDED(result)) result = removed;
   }
   return result;
 }
