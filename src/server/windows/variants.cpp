@@ -2,6 +2,7 @@
 
 #include <dispex.h>
 
+#include <algorithm>
 #include <memory>
 #include <new>
 
@@ -144,10 +145,16 @@ HRESULT giveObject(IDispatch& object, Variant& content) {
 
 }  // namespace
 
+// Nearly all texts are ASCII, which needs no table of the system's.
 std::string toText(BSTR text) {
-  const int length = static_cast<int>(SysStringLen(text));
-  if (length == 0) return {};
-  std::string bytes(static_cast<std::size_t>(length), '\0');
+  const std::wstring_view wide(text, SysStringLen(text));
+  std::string bytes(wide.size(), '\0');
+  if (std::all_of(wide.begin(), wide.end(), [](wchar_t c) { return c < 0x80; })) {
+    std::transform(wide.begin(), wide.end(), bytes.begin(),
+                   [](wchar_t c) { return static_cast<char>(c); });
+    return bytes;
+  }
+  const int length = static_cast<int>(wide.size());
   // Each character becomes one byte; no look-alikes, which could turn one unit's name into another.
   WideCharToMultiByte(windows1252, WC_NO_BEST_FIT_CHARS, text, length, bytes.data(), length, "?",
                       nullptr);
@@ -158,7 +165,12 @@ BSTR toBstr(std::string_view text) {
   const int length = static_cast<int>(text.size());
   const BSTR wide = SysAllocStringLen(nullptr, static_cast<UINT>(length));
   if (wide == nullptr) throw std::bad_alloc();
-  if (length != 0) MultiByteToWideChar(windows1252, 0, text.data(), length, wide, length);
+  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  if (std::all_of(text.begin(), text.end(), isAscii)) {
+    std::copy(text.begin(), text.end(), wide);
+  } else {
+    MultiByteToWideChar(windows1252, 0, text.data(), length, wide, length);
+  }
   return wide;
 }
 
