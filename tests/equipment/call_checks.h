@@ -120,8 +120,11 @@ inline void expectSanityOnArbitraryDoubles(const ModelUnderTest& model, std::uin
   for (int call = 0; call < calls; ++call) {
     // From one strange input to all of them.
     std::vector<double> in(example);
-    const std::uint64_t strange = random() % in.size() + 1;
-    for (std::uint64_t i = 0; i < strange; ++i) in[random() % in.size()] = any();
+    const auto below = [&](std::size_t count) {
+      return static_cast<std::size_t>(random() % count);
+    };
+    const std::size_t strange = below(in.size()) + 1;
+    for (std::size_t i = 0; i < strange; ++i) in[below(in.size())] = any();
     std::vector<double> out(model.outputs.size(), test::untouched);
     engine.ClearTraceInfo();
     const bool succeeded = model.run(engine, out.data(), in.data()) == 1;

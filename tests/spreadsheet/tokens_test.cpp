@@ -50,9 +50,8 @@ TEST_F(Tokens, GiveLabelValueAndUnitAsTheFlagsAsk) {
       engine_.SetReturnModelTokens(withLabels);
       for (const ExpectedToken& token : expectedTokens()) {
         const Sample& sample = sampleOf(token.member);
-        std::vector<Cell> expected;
-        if (withLabels != 0) expected.emplace_back(token.label);
-        expected.emplace_back(sample.result(engine_, token.output));
+        std::vector<Cell> expected{sample.result(engine_, token.output)};
+        if (withLabels != 0) expected.insert(expected.begin(), token.label);
         if (withUnits != 0) expected.emplace_back(modelUnits.at(token.group));
         EXPECT_EQ(resultsOf(client_, sample, token.text), ResultArray{expected})
             << token.member << ' ' << token.text << " units " << withUnits << " labels "

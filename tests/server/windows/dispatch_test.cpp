@@ -528,6 +528,7 @@ TEST_F(Dispatch, LeavesADescriptionOfANullPointer) {
 
 // Every entry, by signature: whichever pointer is null, the call is refused or does not need it.
 TEST_F(Dispatch, SurvivesNullPointersInEveryEntry) {
+  constexpr VARTYPE pointer = sizeof(void*) == 8 ? VT_I8 : VT_I4;
   for (const InterfaceEntry& entry : interfaceEntries()) {
     std::vector<VARTYPE> types;
     std::vector<Variant> arguments(entry.parameters.size());
@@ -536,7 +537,7 @@ TEST_F(Dispatch, SurvivesNullPointersInEveryEntry) {
     for (std::size_t i = 0; i < arguments.size(); ++i) {
       const InterfaceParameter& parameter = entry.parameters[i];
       takesResult = takesResult || parameter.isOutput();
-      arguments[i].vt = parameter.isOutput() ? VARTYPE{VT_I8} : parameter.type;  // zero, null
+      arguments[i].vt = parameter.isOutput() ? pointer : parameter.type;  // zero, null
       arguments[i].llVal = 0;
       if (parameter.isInput() && parameter.type == VT_I2) arguments[i].iVal = -1;
       types.push_back(arguments[i].vt);

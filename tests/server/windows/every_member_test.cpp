@@ -17,7 +17,7 @@
 namespace calvex::test {
 namespace {
 
-// One call of a session, as a line of the command line's scripts has it.
+// One call of a sequence, as a line of the command line's scripts has it.
 struct Line {
   const InterfaceEntry* entry;
   std::vector<std::string> words;  ///< inputs in call order, UTF-8
@@ -144,17 +144,17 @@ std::string quoted(const std::string& word) {
   return text;
 }
 
-Answers answersOfCommandLine(const std::vector<Line>& session) {
+Answers answersOfCommandLine(const std::vector<Line>& sequence) {
   std::string script;
-  for (const Line& line : session) {
+  for (const Line& line : sequence) {
     script += line.entry->name;
     for (const std::string& word : line.words) script += fmt::format(" {}", quoted(word));
     script += "\n";
   }
   const std::vector<std::string> lines = runCommandLine(script);
   Answers answers;
-  for (std::size_t i = 0; i < session.size() && i < lines.size(); ++i) {
-    answers.push_back(answerOf(session[i], lines[i]));
+  for (std::size_t i = 0; i < sequence.size() && i < lines.size(); ++i) {
+    answers.push_back(answerOf(sequence[i], lines[i]));
   }
   return answers;
 }
@@ -337,7 +337,7 @@ std::string callByName(IZvCalvex& steam, const Line& line) {
   });
 }
 
-// Sessions -------------------------------------------------------------------------------------
+// Sequences -------------------------------------------------------------------------------------
 
 struct State {
   double P, T, H, S, U, R, V, Q;
@@ -377,10 +377,10 @@ double valueAt(const State& state, const InterfaceParameter& parameter) {
   }
 }
 
-class Session {
+class Sequence {
  public:
-  /// The session's units; SetUserUnitIndex of all groups comes first.
-  explicit Session(const std::vector<std::string>& unitNames) {
+  /// The sequence's units; SetUserUnitIndex of all groups comes first.
+  explicit Sequence(const std::vector<std::string>& unitNames) {
     for (std::size_t group = 0; group < unitNames.size(); ++group) {
       EXPECT_TRUE(units_.setCatalogueUnit(static_cast<int>(group), windows1252(unitNames[group])));
       call("SetUserUnitIndex", {std::to_string(group), unitNames[group]});
@@ -561,9 +561,9 @@ std::vector<std::string> internalUnits() {
   return names;
 }
 
-/// Runs a session three times; answers the members that succeeded.
-std::set<std::string> compare(const Session& session) {
-  const std::vector<Line>& lines = session.lines;
+/// Runs a sequence three times; answers the members that succeeded.
+std::set<std::string> compare(const Sequence& sequence) {
+  const std::vector<Line>& lines = sequence.lines;
   const Answers expected = answersOfCommandLine(lines);
   EXPECT_EQ(expected.size(), lines.size());
   std::set<std::string> succeeded;
@@ -588,61 +588,61 @@ std::set<std::string> compare(const Session& session) {
 
 TEST(EveryMember, AnswersAsTheCommandLineInInternalUnits) {
   const Apartment apartment;
-  Session session(internalUnits());
-  session.settings();
-  session.constants();
-  session.diagnostics();
-  session.unitMembers();
-  session.properties();
-  session.models();
-  session.useCustomUnits();
+  Sequence sequence(internalUnits());
+  sequence.settings();
+  sequence.constants();
+  sequence.diagnostics();
+  sequence.unitMembers();
+  sequence.properties();
+  sequence.models();
+  sequence.useCustomUnits();
   std::set<std::string> expected, called;
   for (const InterfaceEntry& entry : interfaceEntries()) expected.insert(entry.name);
   // These two show dialogs, and wait.
   expected.erase("ShowTraceDlg");
   expected.erase("ShowSelectUomDlg");
   EXPECT_EQ(expected.size(), 203U);
-  for (const Line& line : session.lines) called.insert(line.entry->name);
+  for (const Line& line : sequence.lines) called.insert(line.entry->name);
   EXPECT_EQ(called, expected);
   std::set<std::string> neverSucceeded = expected;
-  for (const std::string& name : compare(session)) neverSucceeded.erase(name);
+  for (const std::string& name : compare(sequence)) neverSucceeded.erase(name);
   EXPECT_EQ(neverSucceeded, std::set<std::string>());
 }
 
 TEST(EveryMember, AnswersAsTheCommandLineInOtherUnits) {
   const Apartment apartment;
   for (const bool last : {false, true}) {
-    Session session(tabulatedUnits(last));
-    session.constants();
-    session.unitMembers();
-    session.properties();
-    session.models();
-    EXPECT_GE(compare(session).size(), 170U);
+    Sequence sequence(tabulatedUnits(last));
+    sequence.constants();
+    sequence.unitMembers();
+    sequence.properties();
+    sequence.models();
+    EXPECT_GE(compare(sequence).size(), 170U);
   }
 }
 
 TEST(EveryMember, AnswersAsTheCommandLineInUnitsOfTheClientsOwn) {
   const Apartment apartment;
-  Session session(internalUnits());
-  session.useCustomUnits();
-  session.constants();
-  session.unitMembers();
-  session.properties();
-  session.models();
-  EXPECT_GE(compare(session).size(), 170U);
+  Sequence sequence(internalUnits());
+  sequence.useCustomUnits();
+  sequence.constants();
+  sequence.unitMembers();
+  sequence.properties();
+  sequence.models();
+  EXPECT_GE(compare(sequence).size(), 170U);
 }
 
 TEST(EveryMember, AnswersAsTheCommandLineWithOtherSettings) {
   const Apartment apartment;
-  Session session(internalUnits());
-  session.put("SatPolish", "0");
-  session.put("TraceLevel", "2");
-  session.put("SolverTol", "1e-7");
-  session.put("ReturnModelTokens", "0");
-  session.put("ReturnModelUnits", "0");
-  session.properties();
-  session.models();
-  EXPECT_GE(compare(session).size(), 165U);
+  Sequence sequence(internalUnits());
+  sequence.put("SatPolish", "0");
+  sequence.put("TraceLevel", "2");
+  sequence.put("SolverTol", "1e-7");
+  sequence.put("ReturnModelTokens", "0");
+  sequence.put("ReturnModelUnits", "0");
+  sequence.properties();
+  sequence.models();
+  EXPECT_GE(compare(sequence).size(), 165U);
 }
 
 }  // namespace
