@@ -23,7 +23,10 @@ End Function
 Private Function Asked() As Object
   Dim cell As Object
   Set Asked = SteamServer()
-  If Not IsObject(Application.Caller) Then Exit Function
+  If Not IsObject(Application.Caller) Then  ' a macro: the cell of an earlier call is not its own
+    theServer.SetCellRef "", "", ""
+    Exit Function
+  End If
   Set cell = Application.Caller
   ' A quote in a name is doubled where the name itself stands in quotes, as it does in GetCellRef.
   theServer.SetCellRef Replace(cell.Worksheet.Parent.Name, "'", "''"), _
@@ -44,7 +47,7 @@ Private Function Number(value, name)
       Err.Raise vbObjectError + 513, "Calvex", Mid(given, Len(Mark) + 1)
     End If
   End If
-  If IsEmpty(given) Or Not IsNumeric(given) Then
+  If IsEmpty(given) Or VarType(given) = vbBoolean Or Not IsNumeric(given) Then
     Err.Raise vbObjectError + 513, "Calvex", name & " is not a number."
   End If
   Number = CDbl(given)
@@ -75,7 +78,11 @@ End Function
 Public Function SteamNumber(Value)
   Dim given
   given = Content(Value)
-  If IsEmpty(given) Or Not IsNumeric(given) Then SteamNumber = CVErr(2042) Else SteamNumber = given
+  If IsEmpty(given) Or VarType(given) = vbBoolean Or Not IsNumeric(given) Then
+    SteamNumber = CVErr(2042)
+  Else
+    SteamNumber = CDbl(given)
+  End If
 End Function
 
 ' --- Units. They hold for all cells; a cell that was calculated before keeps its number until it is

@@ -38,8 +38,10 @@ double UserUnits::convertByServer(ServerConversion conversion, UnitGroup group,
                                   double value) const {
   double result = value;
   short status = 0;
-  if (!((*server_).*conversion)(catalogue_[group].row().displayName, value, result, status)) {
-    throw std::runtime_error(server_->errorText(status));
+  // Held: a server of another process lets the client in, which may leave the mode meanwhile.
+  const std::shared_ptr<UnitsServer> server = server_;
+  if (!((*server).*conversion)(catalogue_[group].row().displayName, value, result, status)) {
+    throw std::runtime_error(server->errorText(status));
   }
   return result;
 }

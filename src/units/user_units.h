@@ -79,7 +79,7 @@ class UserUnits {
   };
 
   UnitsServerFactory connect_;
-  std::unique_ptr<UnitsServer> server_;
+  std::shared_ptr<UnitsServer> server_;
   UnitsMode mode_ = UnitsMode::catalogue;
   ZvUomLite catalogue_;
   std::array<CustomUnit, unitGroupCount> custom_;

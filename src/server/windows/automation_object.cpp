@@ -49,7 +49,8 @@ struct AutomationObject::DualTable {
   }
 
   static const void* const* table() {
-    static const std::vector<const void*> functions = [] {
+    // Never deleted: clients may release their objects at the very end of the process.
+    static const auto& functions = *new std::vector<const void*>([] {
       std::vector<const void*> all{reinterpret_cast<const void*>(&queryInterface),
                                    reinterpret_cast<const void*>(&addRef),
                                    reinterpret_cast<const void*>(&release),
@@ -62,7 +63,7 @@ struct AutomationObject::DualTable {
         if (member.put != nullptr) all.push_back(member.putEntry());
       }
       return all;
-    }();
+    }());
     return functions.data();
   }
 };

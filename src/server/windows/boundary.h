@@ -55,6 +55,12 @@ class FloatingPointScope {
 /// Leaves a description of the failure for clients that ask for one, and answers the result.
 HRESULT report(HRESULT result, const wchar_t* description) noexcept;
 
+/// Thrown inside to answer a failing result; the description is a literal.
+struct Failure {
+  HRESULT result;
+  const wchar_t* description;
+};
+
 /// E_POINTER.
 HRESULT noPlaceForResult() noexcept;
 
@@ -64,6 +70,8 @@ HRESULT atBoundary(Body&& body) noexcept {
   const FloatingPointScope arithmetic;
   try {
     return body();
+  } catch (const Failure& failure) {
+    return report(failure.result, failure.description);
   } catch (const std::bad_alloc&) {
     return report(E_OUTOFMEMORY, L"There is not enough memory for this call.");
   } catch (...) {

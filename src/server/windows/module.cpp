@@ -1,7 +1,6 @@
 // The module's entry points.
 #include <cwchar>
 #include <exception>
-#include <memory>
 
 #include "server/windows/boundary.h"
 #include "server/windows/class_factory.h"
@@ -11,7 +10,7 @@
 
 namespace {
 
-std::unique_ptr<calvex::com::Server> theServer;
+calvex::com::Server* theServer = nullptr;
 
 }  // namespace
 
@@ -22,17 +21,14 @@ extern "C" {
 BOOL WINAPI DllMain(HINSTANCE instance, DWORD reason, LPVOID processEnds) {
   if (reason == DLL_PROCESS_ATTACH) {
     try {
-      theServer = std::make_unique<calvex::com::Server>(instance);
+      theServer = new calvex::com::Server(instance);
     } catch (const std::exception&) {
       return FALSE;  // without its engine the module does not load
     }
   } else if (reason == DLL_PROCESS_DETACH) {
-    if (processEnds == nullptr) {
-      theServer.reset();
-    } else {
-      // The system takes everything back; other modules may already be gone.
-      static_cast<void>(theServer.release());
-    }
+    // At the end of the process the system takes everything back: other modules may already be
+    // gone, and one that goes later may still release its objects.
+    if (processEnds == nullptr) delete theServer;
   }
   return TRUE;
 }

@@ -131,7 +131,10 @@ bool isRefusal(HRESULT result) {
 
 HRESULT registerServer(const std::wstring& modulePath, bool forUser) {
   if (!forUser) {
+    // Entries of the user's own would hide those for all.
+    unregisterTypeLibrary(true);
     const HRESULT result = registerIn(HKEY_LOCAL_MACHINE, modulePath, false);
+    if (SUCCEEDED(result)) removeFrom(HKEY_CURRENT_USER);
     if (!isRefusal(result)) return result;
   }
   return registerIn(HKEY_CURRENT_USER, modulePath, true);

@@ -12,11 +12,7 @@ Server::Server(HINSTANCE instance)
   setEngine(&module_.engine());
 }
 
-// The last object has gone before; what it left is released here.
-Server::~Server() {
-  setEngine(nullptr);
-  if (ITypeLib* library = typeLibrary_.exchange(nullptr)) library->Release();
-}
+Server::~Server() { setEngine(nullptr); }
 
 std::wstring Server::path() const {
   std::wstring path(MAX_PATH, L'\0');
@@ -35,22 +31,19 @@ std::wstring Server::path() const {
 // is given back with the last object.
 void Server::unlock() noexcept {
   if (--locks_ != 0) return;
-  if (ITypeLib* library = typeLibrary_.exchange(nullptr)) library->Release();
+  const std::lock_guard alone(typeLibraryMutex_);
+  if (typeLibrary_ != nullptr) typeLibrary_->Release();
+  typeLibrary_ = nullptr;
 }
 
 HRESULT Server::typeInformation(REFGUID id, ITypeInfo** information) {
-  ITypeLib* library = typeLibrary_;
-  if (library == nullptr) {
+  const std::lock_guard alone(typeLibraryMutex_);
+  if (typeLibrary_ == nullptr) {
     // The first is resource 1; a registered library of the same name could be another version's.
-    const HRESULT loaded = LoadTypeLibEx(path().c_str(), REGKIND_NONE, &library);
+    const HRESULT loaded = LoadTypeLibEx(path().c_str(), REGKIND_NONE, &typeLibrary_);
     if (FAILED(loaded)) return loaded;
-    ITypeLib* other = nullptr;
-    if (!typeLibrary_.compare_exchange_strong(other, library)) {
-      library->Release();
-      library = other;
-    }
   }
-  return library->GetTypeInfoOfGuid(id, information);
+  return typeLibrary_->GetTypeInfoOfGuid(id, information);
 }
 
 }  // namespace calvex::com

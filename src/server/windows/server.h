@@ -3,6 +3,7 @@
 #pragma once
 
 #include <atomic>
+#include <mutex>
 #include <string>
 
 #include "server/windows/automation.h"
@@ -35,7 +36,8 @@ class Server {
   HINSTANCE instance_;
   Module module_;
   std::atomic<long> locks_ = 0;
-  std::atomic<ITypeLib*> typeLibrary_ = nullptr;
+  std::mutex typeLibraryMutex_;
+  ITypeLib* typeLibrary_ = nullptr;
 };
 
 /// From the module's start-up to its shut-down.

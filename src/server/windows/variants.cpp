@@ -6,6 +6,8 @@
 #include <memory>
 #include <new>
 
+#include "server/windows/boundary.h"
+
 namespace calvex::com {
 
 namespace {
@@ -155,9 +157,10 @@ std::string toText(BSTR text) {
     return bytes;
   }
   const int length = static_cast<int>(wide.size());
-  // Each character becomes one byte; no look-alikes, which could turn one unit's name into another.
-  WideCharToMultiByte(windows1252, WC_NO_BEST_FIT_CHARS, text, length, bytes.data(), length, "?",
-                      nullptr);
+  // At most a byte a character; no look-alikes, which could turn one unit's name into another.
+  const int written = WideCharToMultiByte(windows1252, WC_NO_BEST_FIT_CHARS, text, length,
+                                          bytes.data(), length, "?", nullptr);
+  bytes.resize(static_cast<std::size_t>(written));
   return bytes;
 }
 
@@ -181,6 +184,12 @@ void replace(BSTR& target, std::string_view text) {
 }
 
 void replace(VARIANT& target, const ResultArray& rows) {
+  if ((target.vt & VT_BYREF) != 0) {  // the variable is elsewhere
+    HRESULT taken = checkOutput(target, ValueType::array);
+    if (SUCCEEDED(taken)) taken = give(target, Value(rows));
+    if (FAILED(taken)) throw Failure{taken, L"The argument cannot take an array of results."};
+    return;
+  }
   Variant content;
   content.setRows(rows);
   assign(target, content);
@@ -224,6 +233,12 @@ HRESULT read(const VARIANT& argument, ValueType type, LCID locale, Value& value)
 
 HRESULT checkOutput(const VARIANT& argument, ValueType type) {
   const VARIANT& place = follow(argument);
+  if (place.vt == (VT_BYREF | VT_ARRAY | VT_VARIANT) && *place.pparray != nullptr) {
+    // An array of fixed size cannot become one of another.
+    constexpr USHORT fixed = FADF_AUTO | FADF_STATIC | FADF_EMBEDDED | FADF_FIXEDSIZE;
+    if (((*place.pparray)->fFeatures & fixed) != 0) return DISP_E_TYPEMISMATCH;
+    if ((*place.pparray)->cLocks != 0) return DISP_E_ARRAYISLOCKED;
+  }
   const bool typed = (place.vt & VT_BYREF) != 0;
   return !typed || place.vt == (VT_BYREF | variantType(type)) ? S_OK : DISP_E_TYPEMISMATCH;
 }

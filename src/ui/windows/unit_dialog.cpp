@@ -29,7 +29,7 @@ bool openHelp(HWND owner, const std::wstring& file, DWORD context) {
     return WinHelpW(owner, file.c_str(), context == 0 ? HELP_FINDER : HELP_CONTEXT, context) !=
            FALSE;
   }
-  // Never freed: the help window outlives the dialog.
+  // Never freed: a help window may still be open.
   const HMODULE viewer = LoadLibraryW(L"hhctrl.ocx");
   if (viewer == nullptr) return false;
   using Show = HWND(WINAPI*)(HWND, LPCWSTR, UINT, DWORD_PTR);

@@ -566,6 +566,38 @@ TEST_F(Dispatch, TakesANullTextAsAnEmptyOne) {
   EXPECT_EQ(lastError(*steam), " is not a defined unit group.");
 }
 
+// An array that the client holds elsewhere -------------------------------------------------------
+
+TEST_F(Dispatch, AnEarlyBoundArrayReachesTheVariableThatTheVariantRefersTo) {
+  Variant variable;
+  VARIANT reference;
+  reference.vt = VT_BYREF | VT_VARIANT;
+  reference.pvarVal = &variable;
+  EXPECT_EQ(steam->GetAlarms(&reference), S_OK);
+  EXPECT_EQ(reference.vt, VT_BYREF | VT_VARIANT);
+  ASSERT_EQ(variable.vt, VT_ARRAY | VT_VARIANT);
+  EXPECT_EQ(SafeArrayGetDim(variable.parray), 2U);
+}
+
+TEST_F(Dispatch, AnArrayOfFixedSizeIsRefused) {
+  SAFEARRAYBOUND bounds[] = {{1, 0}, {1, 0}};
+  SAFEARRAY* array = SafeArrayCreate(VT_VARIANT, 2, bounds);
+  array->fFeatures |= FADF_FIXEDSIZE;
+  Variant argument;
+  argument.vt = VT_BYREF | VT_ARRAY | VT_VARIANT;
+  argument.pparray = &array;
+  const LateCall late = callMethod(*steam, L"GetAlarms", {argument});
+  EXPECT_EQ(late.result, DISP_E_TYPEMISMATCH);
+  EXPECT_EQ(late.wrongArgument, 0U);
+  EXPECT_EQ(steam->GetAlarms(&argument), DISP_E_TYPEMISMATCH);
+  array->fFeatures = static_cast<USHORT>(array->fFeatures & ~FADF_FIXEDSIZE);
+  EXPECT_EQ(steam->GetAlarms(&argument), S_OK);
+  long upper = -1;
+  EXPECT_EQ(SafeArrayGetUBound(array, 1, &upper), S_OK);
+  EXPECT_EQ(upper, 2);
+  SafeArrayDestroy(array);
+}
+
 // The client's floating-point unit ---------------------------------------------------------------
 
 unsigned short x87Control() {
