@@ -91,20 +91,6 @@ std::string_view typeName(ValueType type) {
   return {};
 }
 
-std::string_view directionName(Direction direction) {
-  switch (direction) {
-    case Direction::in:
-      return "in";
-    case Direction::out:
-      return "out";
-    case Direction::inOut:
-      return "in, out";
-    case Direction::retval:
-      return "out, retval";
-  }
-  return {};
-}
-
 std::string signature(const Member& member) {
   std::vector<std::string> texts;
   for (const Parameter& parameter : member.parameters()) {

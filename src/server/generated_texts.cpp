@@ -32,8 +32,7 @@ std::string_view automationType(ValueType type) {
 }
 
 std::string declaration(const Parameter& parameter) {
-  static constexpr std::string_view directions[] = {"in", "out", "in, out", "out, retval"};
-  return fmt::format("[{}] {}{} {}", directions[static_cast<std::size_t>(parameter.direction)],
+  return fmt::format("[{}] {}{} {}", directionName(parameter.direction),
                      automationType(parameter.type), parameter.isOutput() ? "*" : "",
                      parameter.name);
 }

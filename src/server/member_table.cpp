@@ -316,6 +316,20 @@ std::string lowerCase(std::string_view name) {
 
 }  // namespace
 
+std::string_view directionName(Direction direction) noexcept {
+  switch (direction) {
+    case Direction::in:
+      return "in";
+    case Direction::out:
+      return "out";
+    case Direction::inOut:
+      return "in, out";
+    case Direction::retval:
+      return "out, retval";
+  }
+  return {};
+}
+
 std::span<const Member> memberTable() noexcept { return members; }
 
 const Member* findMember(std::string_view name) {

@@ -16,6 +16,9 @@ class ZvThermoInt;
 
 enum class Direction : unsigned char { in, out, inOut, retval };
 
+/// As an interface definition has it: "in", "out", "in, out", "out, retval".
+[[nodiscard]] std::string_view directionName(Direction direction) noexcept;
+
 struct Parameter {
   std::string_view name;
   ValueType type;
