@@ -196,6 +196,31 @@ inline LateCall putProperty(IDispatch& object, const std::wstring& name, Variant
                 {DISPID_PROPERTYPUT});
 }
 
+/// An object of the client's that the server calls by number: its members have no names. It lives
+/// as long as its scope; the count tells whether the server gave back what it took.
+class ClientObject : public IDispatch {
+ public:
+  int references = 1;
+
+  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) override {
+    const bool known = id == IID_IUnknown || id == IID_IDispatch;
+    *out = known ? this : nullptr;
+    if (known) AddRef();
+    return known ? S_OK : E_NOINTERFACE;
+  }
+  ULONG STDMETHODCALLTYPE AddRef() override { return static_cast<ULONG>(++references); }
+  ULONG STDMETHODCALLTYPE Release() override { return static_cast<ULONG>(--references); }
+  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
+    *count = 0;
+    return S_OK;
+  }
+  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
+    ADD_FAILURE() << "its members have no names";
+    return DISP_E_UNKNOWNNAME;
+  }
+};
+
 inline CLSID classOf(const wchar_t* program) {
   CLSID id{};
   EXPECT_EQ(CLSIDFromProgID(program, &id), S_OK);

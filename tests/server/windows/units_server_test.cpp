@@ -11,30 +11,12 @@ namespace {
 using Log = std::vector<std::string>;
 
 /// Logs its calls with the types of their arguments. Its user units are twice the internal numbers.
-class UnitsServer final : public IDispatch {
+class UnitsServer final : public ClientObject {
  public:
   explicit UnitsServer(Log& log) : log_(log) {}
   DISPID refused = 0;  ///< the member that answers false, with status 7
   VARIANT_BOOL shown = VARIANT_TRUE;
-  int references = 1;
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** out) override {
-    const bool known = id == IID_IUnknown || id == IID_IDispatch;
-    *out = known ? this : nullptr;
-    if (known) AddRef();
-    return known ? S_OK : E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return static_cast<ULONG>(++references); }
-  ULONG STDMETHODCALLTYPE Release() override { return static_cast<ULONG>(--references); }
-  HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override {
-    *count = 0;
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-  HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override {
-    ADD_FAILURE() << "its members have no names";
-    return DISP_E_UNKNOWNNAME;
-  }
   HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* given,
                                    VARIANT* result, EXCEPINFO*, UINT*) override {
     EXPECT_EQ(flags, DISPATCH_METHOD);
