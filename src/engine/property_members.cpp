@@ -1,6 +1,8 @@
 // The property members: one protocol over one table.
 #include "engine/property_members.h"
 
+#include <fmt/printf.h>
+
 #include <cmath>
 
 #include "engine/thermo_engine.h"
@@ -68,6 +70,8 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
 
     const Phases phases = stateOf(member, x1, x2);
     if (phases == Phases::two) {
+      // There are no two phases below the triple point.
+      if (member.first == Letter::T && !validOnLine(Letter::T, x1)) return false;
       switch (member.twoPhases) {
         case PropertyMember::TwoPhases::fails:
           return fail(Message::twoPhase);
@@ -80,6 +84,10 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
       }
     }
     if (member.result == Letter::Q) return give(out, result.group, steam_.state().quality);
+    // Not the pressure at the density found: cold water's density does not resolve it.
+    if (member.result == Letter::Z) {
+      return give(out, compressibilityFactor(x1, x2, steam_.state().density));
+    }
     const double value = phases == Phases::two ? steam_.mixtureProperty(result.property)
                                                : steam_.property(result.property);
     return result.hasUnit ? give(out, result.group, value) : give(out, value);
@@ -174,6 +182,19 @@ bool ZvThermoInt::isOnLine(double P, double T) {
   return std::fabs(1.0 - P / steam_.PSatT(T)) < 1e-4;
 }
 
+// The quality of a state off the line is ignored; where it says otherwise than the phase, that is
+// worth a word.
+void ZvThermoInt::warnOfQuality(double P, double T, double Q) {
+  if (!diagnostics_.wantsWarnings()) return;
+  const bool critical = P >= constants::criticalPressure && T >= constants::criticalTemperature;
+  const bool liquid =
+      T < constants::criticalTemperature && steam_.state().density > constants::criticalDensity;
+  if (critical || Q == (liquid ? 0.0 : 1.0)) return;
+  diagnostics_.postWarning(
+      fmt::sprintf("Quality %.4g ignored: the state is %s, not on the saturation line.", Q,
+                   liquid ? "liquid" : "vapour"));
+}
+
 int ZvThermoInt::HPTQ(double* pH, double P, double T, double Q) {
   return call("HPTQ", [&] {
     const double p = units_.toInternal(UnitGroup::pressure, P);
@@ -184,6 +205,7 @@ int ZvThermoInt::HPTQ(double* pH, double P, double T, double Q) {
       return false;
     }
     if (steam_.stateFromPT(p, t) == Phases::two || isOnLine(p, t)) return HSatPQ(pH, P, Q) != 0;
+    if (steam_.polish() == SatPolish::deciding) warnOfQuality(p, t, q);
     return give(pH, UnitGroup::enthalpy, steam_.property(Property::enthalpy));
   });
 }

@@ -11,6 +11,7 @@
 #include "engine/dialogs.h"
 #include "engine/property_members.h"
 #include "engine/result_array.h"
+#include "steam/constants.h"
 #include "steam/steam_model.h"
 #include "units/user_units.h"
 
@@ -18,10 +19,10 @@ namespace calvex {
 
 /// Limits of the hard and of the strictly valid range. K, MPa.
 struct RangeLimits {
-  double TMin = 260.0;
-  double TMax = 2500.0;
+  double TMin = constants::lowestTemperature;
+  double TMax = constants::highestTemperature;
   double PMin = 0.0;
-  double PMax = 3000.0;
+  double PMax = constants::highestPressure;
   double TStrictMin = 273.15;
   double TStrictMax = 1273.15;
   double PStrictMin = 0.0;
@@ -216,6 +217,7 @@ class ZvThermoInt {
              double* pThird, double P, double H);
   [[nodiscard]] double constant(UnitGroup group, double value) const;
   bool isOnLine(double P, double T);
+  void warnOfQuality(double P, double T, double Q);
   bool failWithServer(short status);
   template <class Show>
   short show(Show&& dialog);

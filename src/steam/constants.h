@@ -11,10 +11,16 @@ inline constexpr double reducingTemperature = 647.073;     // T0 of the fundamen
 inline constexpr double criticalTemperature = 647.126;     // Tc, K
 inline constexpr double criticalPressure = 22.055;         // Pc, MPa
 inline constexpr double criticalDensity = 321.8870385;     // rho_c, kg/m3
+inline constexpr double phasesMeet = 296.83;               // where the equation's phases do, kg/m3
 inline constexpr double criticalRegion = 0.5;              // K below Tc: scaling law, see PSatT
 inline constexpr double triplePointTemperature = 273.16;   // K
 inline constexpr double triplePointPressure = 0.00061173;  // MPa
 inline constexpr double celsiusZero = 273.15;              // K
+
+// What is computed at all.
+inline constexpr double lowestTemperature = 260.0;    // K
+inline constexpr double highestTemperature = 2500.0;  // K
+inline constexpr double highestPressure = 3000.0;     // MPa
 
 // They fix the zero of internal energy and entropy at the liquid of the triple point.
 inline constexpr double referenceEnergy = 1997.67722651;   // a0, kJ/kg

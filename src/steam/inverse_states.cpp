@@ -4,6 +4,8 @@
 
 #include "diagnostics/thermo_exception.h"
 #include "steam/constants.h"
+#include "steam/phase_equilibrium.h"
+#include "steam/root_search.h"
 #include "steam/saturation_correlations.h"
 #include "steam/steam_model.h"
 
@@ -14,6 +16,10 @@ namespace {
 using constants::criticalPressure;
 using constants::criticalTemperature;
 using constants::gasConstant;
+using constants::highestTemperature;
+using constants::lowestTemperature;
+using constants::triplePointPressure;
+using constants::triplePointTemperature;
 
 // Starting points: the temperature of an unknown state, a gas, a liquid.
 constexpr double defaultTemperature = 773.15;
@@ -32,12 +38,32 @@ double liquidLikeBelow(Property property) {
   }
 }
 
+// A saturated liquid's value that was read from a printed table misses its own by so much: half a
+// digit in two or four decimals, and what its own temperature was rounded by.
+double tableRounding(Property property) {
+  switch (property) {
+    case Property::enthalpy:
+    case Property::internalEnergy:
+      return 0.01;  // kJ/kg
+    case Property::entropy:
+      return 1e-4;  // kJ/(kg.K)
+    default:
+      return 0.0;
+  }
+}
+
 double idealGasDensity(double P, double T) { return 1000.0 * P / (gasConstant * T); }
 
 // Superheat of steam from pressure and enthalpy, K; fitted for 0.4..10.5 MPa and 2715..3130 kJ/kg.
 double superheatGuess(double P, double Ts, double hv, double h) {
   return 1.463499706 * P - 0.348658865 * Ts + 0.440416954 * hv - 0.467775058 * h -
          0.008078662 * P * P + 6.47361e-05 * Ts * Ts - 0.000101467 * hv * hv + 0.00013199 * h * h;
+}
+
+// Temperature of steam whose entropy is ds above that at T: the ideal gas with a heat capacity from
+// the middle of its range (1.87 kJ/(kg.K) at 300 K, 2.9 at 2500 K).
+double superheatedBy(double ds, double T) {
+  return std::clamp(T * std::exp(ds / 2.2), lowestTemperature, highestTemperature);
 }
 
 [[noreturn]] void failWithoutSolution() {
@@ -78,12 +104,19 @@ Phases SteamModel::stateFromPT(double P, double T) {
   double guess = gasDensity;
   Side side = Side::any;
   if (T < criticalTemperature) {
-    double Ps = saturation::pressure(T);
-    // Only the unpolished line has a better value at hand, next to the critical point; the sense of
-    // the test is meant.
-    if (satPolish_ == 0 && std::fabs(1.0 - P / Ps) < 0.03) Ps = PSatT(T);
-    if (std::fabs(1.0 - P / Ps) < 0.0001) return Phases::two;
-    side = P > Ps ? Side::liquid : Side::vapour;
+    if (T < triplePointTemperature) {
+      side = P < triplePointPressure ? Side::vapour : Side::liquid;
+    } else {
+      double Ps = saturation::pressure(T);
+      // How far from its correlation the line is asked for itself. The unpolished line has a better
+      // value at hand next to the critical point only; the sense of that test is meant.
+      const double band = polish() == SatPolish::correlation ? 0.03
+                          : polish() == SatPolish::deciding  ? 0.005
+                                                             : 0.0;
+      if (std::fabs(1.0 - P / Ps) < band) Ps = PSatT(T);
+      if (std::fabs(1.0 - P / Ps) < 0.0001) return Phases::two;
+      side = P > Ps ? Side::liquid : Side::vapour;
+    }
     guess = side == Side::liquid ? liquidDensity : idealGasDensity(P, T);
   }
   store({T, densityAt(P, T, guess, side)}, state_.quality);
@@ -91,95 +124,151 @@ Phases SteamModel::stateFromPT(double P, double T) {
 }
 
 double SteamModel::waterEnthalpy(double P, double T) {
-  const bool liquid = T < criticalTemperature && P > saturation::pressure(T);
-  return propertyAt(Property::enthalpy, T,
-                    densityAt(P, T, liquidDensity, liquid ? Side::liquid : Side::any));
+  double density = 0.0;
+  if (T < criticalTemperature && P <= saturation::pressure(T)) {
+    const double saturated = equilibriumAtT(T).liquidDensity;
+    const auto superheated = roots::superheatedLiquid(P, T, saturated);
+    if (!superheated) failWithoutSolution();
+    density = *superheated;
+  } else {
+    density = densityAt(P, T, liquidDensity, T < criticalTemperature ? Side::liquid : Side::any);
+  }
+  return propertyAt(Property::enthalpy, T, density);
 }
 
 Phases SteamModel::stateFromP(double P, Property second, double value) {
   requirePressure(P);
   requireValue(second, value);
-  Start start{defaultTemperature, gasDensity};
+  const bool isDensity = second == Property::density;
+  Request request{{Equation::pressure, P},
+                  {equationOf(second), value},
+                  Side::vapour,
+                  {defaultTemperature, gasDensity},
+                  lowestTemperature,
+                  highestTemperature,
+                  0.0};
+  Start& start = request.start;
   double quality = 1.0;
-  Side side = Side::any;
   if (P >= criticalPressure) {
-    if (second == Property::density) {
-      start.density = value;
-    } else if (value < liquidLikeBelow(second)) {
+    request.side = Side::liquid;
+    if (!isDensity && value < liquidLikeBelow(second)) {
       start.density = liquidDensity;
       quality = 0.0;
+    } else if (second == Property::entropy) {
+      start.density = std::min(idealGasDensity(P, start.temperature), liquidDensity);
     }
+  } else if (P < triplePointPressure) {
+    // No line: a vapour.
+    start.temperature = triplePointTemperature;
+    if (second == Property::entropy) {
+      constexpr double saturated = 9.1541;  // s'' of the triple point, kJ/(kg.K)
+      start.temperature =
+          superheatedBy(value - saturated + gasConstant * std::log(P / triplePointPressure),
+                        triplePointTemperature);
+    }
+    start.density = idealGasDensity(P, start.temperature);
   } else {
     const Bracket line = bracketP(second, value, P);
-    start.temperature = line.temperature;
+    start.temperature = line.line.T;
     // Density runs the other way: a vapour is lighter than saturated vapour.
-    const bool isDensity = second == Property::density;
     const bool vapour = isDensity ? value <= line.vapour : value >= line.vapour;
     const bool liquid = !vapour && (isDensity ? value >= line.liquid : value <= line.liquid);
+    // The solver's share of the error of the line's temperature is far below 1e-6.
     if (vapour) {
-      side = Side::vapour;
-      start.density = isDensity ? value : std::min(line.vapourDensity, gasDensity);
+      request.TMin = line.line.T * (1.0 - 1e-6);
+      start.density = std::min(line.line.vapourDensity, gasDensity);
       if (second == Property::enthalpy) {
         if (P >= 0.4 && P <= 10.5 && value >= 2715.0 && value <= 3130.0) {
-          const double superheat = superheatGuess(P, line.temperature, line.vapour, value);
+          const double superheat = superheatGuess(P, line.line.T, line.vapour, value);
           if (superheat >= 0.0 && superheat <= 100.0) {
             start.temperature += superheat;
             start.density = std::min(start.density, idealGasDensity(P, start.temperature));
           }
         }
-      } else if (!isDensity) {
+      } else {
+        if (second == Property::entropy) {
+          start.temperature = superheatedBy(value - line.vapour, line.line.T);
+        }
         start.density = std::min(start.density, idealGasDensity(P, start.temperature));
       }
     } else if (liquid) {
-      side = Side::liquid;
-      start.density = isDensity ? value : std::max(line.liquidDensity, liquidDensity);
+      request.side = Side::liquid;
+      request.TMax = line.line.T * (1.0 + 1e-6);
+      start.density = std::max(line.line.liquidDensity, liquidDensity);
       quality = 0.0;
     } else {
-      state_.temperature = line.temperature;
-      state_.vapourDensity = line.vapourDensity;
-      state_.liquidDensity = line.liquidDensity;
-      state_.quality =
-          isDensity ? (1.0 / value - 1.0 / line.liquid) / (1.0 / line.vapour - 1.0 / line.liquid)
-                    : (value - line.liquid) / (line.vapour - line.liquid);
-      return Phases::two;
+      return storeMixture(second, line, value);
     }
   }
-  store(solveState({Equation::pressure, P}, {equationOf(second), value}, start, side), quality);
+  if (isDensity) start.density = value;
+  store(solveState(request), quality);
   return Phases::one;
 }
 
 Phases SteamModel::stateFromT(double T, Property second, double value) {
   requireValue(second, value);
   const bool isDensity = second == Property::density;
-  double density = isDensity ? value : gasDensity;
+  Request request{{Equation::temperature, T},
+                  {equationOf(second), value},
+                  Side::any,
+                  {T, isDensity ? value : gasDensity},
+                  lowestTemperature,
+                  highestTemperature,
+                  0.0};
   double quality = 1.0;
-  Side side = Side::any;
+  std::optional<Bracket> line;
   if (T >= criticalTemperature) {
     if (!isDensity && value < liquidLikeBelow(second)) {
-      density = liquidDensity;
+      request.start.density = liquidDensity;
       quality = 0.0;
     }
   } else {
-    const Bracket line = bracketT(second, value, T);
-    const bool vapour = isDensity ? value <= line.vapour : value >= line.vapour;
-    const bool liquid = !vapour && (isDensity ? value >= line.liquid : value <= line.liquid);
+    line = bracketT(second, value, T);
+    const bool vapour = isDensity ? value <= line->vapour : value >= line->vapour;
+    const bool liquid = !vapour && (isDensity ? value >= line->liquid : value <= line->liquid);
+    if (!vapour && !liquid) return storeMixture(second, *line, value);
     if (vapour) {
-      side = Side::vapour;
-    } else if (liquid) {
-      side = Side::liquid;
-      if (!isDensity) density = liquidDensity;
-      quality = 0.0;
+      request.side = Side::vapour;
+      request.saturated = line->line.vapourDensity;
     } else {
-      state_.temperature = T;
-      state_.quality =
-          isDensity ? (1.0 / value - 1.0 / line.liquid) / (1.0 / line.vapour - 1.0 / line.liquid)
-                    : (value - line.liquid) / (line.vapour - line.liquid);
-      return Phases::two;
+      request.side = Side::liquid;
+      request.saturated = line->line.liquidDensity;
+      if (!isDensity) request.start.density = liquidDensity;
+      quality = 0.0;
     }
   }
-  store(solveState({Equation::temperature, T}, {equationOf(second), value}, {T, density}, side),
-        quality);
-  return Phases::one;
+
+  int status = 0;
+  if (const auto found = findState(request, status)) {
+    store(*found, quality);
+    return Phases::one;
+  }
+  if (line && !isDensity) {
+    if (request.side == Side::liquid && line->liquid - value <= tableRounding(second)) {
+      store({T, line->line.liquidDensity}, quality);
+      return Phases::one;
+    }
+    // Above 1000 MPa a liquid may have more enthalpy than any vapour.
+    if (request.side == Side::vapour && T >= triplePointTemperature) {
+      request.side = Side::liquid;
+      request.saturated = densityOfLiquid(line->line, liquidDensity);
+      if (const auto found = search(request); found && isState(request, *found, Side::liquid)) {
+        store(*found, 0.0);
+        return Phases::one;
+      }
+    }
+  }
+  raiseWithoutState(status);
+}
+
+Phases SteamModel::storeMixture(Property property, const Bracket& line, double value) {
+  state_.temperature = line.line.T;
+  state_.vapourDensity = line.line.vapourDensity;
+  state_.liquidDensity = line.line.liquidDensity;
+  state_.quality = property == Property::density
+                       ? (1.0 / value - 1.0 / line.liquid) / (1.0 / line.vapour - 1.0 / line.liquid)
+                       : (value - line.liquid) / (line.vapour - line.liquid);
+  return Phases::two;
 }
 
 }  // namespace calvex

@@ -2,6 +2,7 @@
 /// Every single-phase property as a function of density and temperature.
 #pragma once
 
+#include "steam/constants.h"
 #include "steam/fundamental_equation.h"
 
 namespace calvex {
@@ -41,5 +42,10 @@ enum class Property {
 
 /// The same at a temperature in K.
 [[nodiscard]] double evaluate(Property property, double T, double density);
+
+/// Z = P/(rho R T) of a state whose pressure is known.
+[[nodiscard]] constexpr double compressibilityFactor(double P, double T, double density) {
+  return 1000.0 * P / (density * constants::gasConstant * T);
+}
 
 }  // namespace calvex

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "steam/constants.h"
+#include "steam/phase_equilibrium.h"
 #include "steam/saturation_correlations.h"
 #include "steam/steam_model.h"
 
@@ -60,99 +61,124 @@ double SteamModel::temperatureNearCritical(double P) {
   return upper;
 }
 
-double SteamModel::PSatT(double T) {
+double SteamModel::PSatT(double T) { return lineAtT(T).P; }
+
+SteamModel::LinePoint SteamModel::lineAtT(double T) {
   const ZvFuncTrace trace(diagnostics_, "PSatT");
+  if (polish() == SatPolish::deciding) {
+    const PhaseEquilibrium e = equilibriumAtT(T);
+    return {T, e.P, e.vapourDensity, e.liquidDensity};
+  }
   if (T >= criticalTemperature - criticalRegion) {
     diagnostics_.postWarning("Critical point region.");
-    return pressureNearCritical(T);
+    return {T, pressureNearCritical(T)};
   }
-  if (satPolish_ == 0) return saturation::pressure(T);
-  if (const int status = solveEquilibrium({Equation::temperature, T}, T);
-      !ZvSolver::converged(status)) {
-    ZvSolver::raise(status);
+  if (polish() == SatPolish::correlation) return {T, saturation::pressure(T)};
+  if (ZvSolver::converged(solveEquilibrium({Equation::temperature, T}, T))) {
+    return {T, propertyAt(Property::pressure, T, unknowns_[2])};
   }
-  return propertyAt(Property::pressure, T, unknowns_[2]);
+  return {T, equilibriumAtT(T).P};
 }
 
-// The result stays on the line, so that PSatT accepts it.
-double SteamModel::TSatP(double P) {
+double SteamModel::TSatP(double P) { return lineAtP(P).T; }
+
+// The temperature stays on the line, so that PSatT accepts it.
+SteamModel::LinePoint SteamModel::lineAtP(double P) {
   const ZvFuncTrace trace(diagnostics_, "TSatP");
-  if (P < constants::triplePointPressure) return triplePointTemperature;
   const auto onLine = [](double T) {
     return std::clamp(T, triplePointTemperature, criticalTemperature);
   };
+  if (polish() == SatPolish::deciding) {
+    const PhaseEquilibrium e = equilibriumAtP(P);
+    return {onLine(e.T), P, e.vapourDensity, e.liquidDensity};
+  }
   const std::array<Target, 1> correlation{Target{Equation::saturationCorrelation, P}};
   unknowns_[0] = saturation::temperatureGuess(P);
   if (const int status = solve(correlation); !ZvSolver::converged(status)) ZvSolver::raise(status);
   const double T = onLine(unknowns_[0]);
-  if (satPolish_ == 0) return T;
+  if (polish() == SatPolish::correlation) return {T, P};
 
-  const int status = solveEquilibrium({Equation::pressure, P}, T);
-  if (ZvSolver::converged(status)) return onLine(unknowns_[0]);
-  // Above 22.01 MPa the two phases are too alike to be told apart by their Gibbs energies.
-  if (T >= criticalTemperature - criticalRegion) return temperatureNearCritical(P);
-  ZvSolver::raise(status);
+  if (ZvSolver::converged(solveEquilibrium({Equation::pressure, P}, T))) {
+    return {onLine(unknowns_[0]), P};
+  }
+  // Above 22.01 MPa the two phases are too alike for the solver: there the scaling law is inverted.
+  constexpr double solvable = 22.01;
+  return {P > solvable ? temperatureNearCritical(P) : onLine(equilibriumAtP(P).T), P};
 }
 
-double SteamModel::mixture(Property property, double P, double T, double Q, double vapourFrom,
+double SteamModel::densityOfVapour(LinePoint& point, double start) {
+  if (point.vapourDensity == 0.0) {
+    point.vapourDensity = densityAt(point.P, point.T, start, Side::vapour);
+  }
+  return point.vapourDensity;
+}
+
+double SteamModel::densityOfLiquid(LinePoint& point, double start) {
+  if (point.liquidDensity == 0.0) {
+    point.liquidDensity = densityAt(point.P, point.T, start, Side::liquid);
+  }
+  return point.liquidDensity;
+}
+
+double SteamModel::mixture(Property property, LinePoint line, double Q, double vapourFrom,
                            double liquidFrom) {
   const bool isDensity = property == Property::density;
   double vapour = isDensity ? vapourStart : 0.0;
   double liquid = isDensity ? liquidStart : 0.0;
   if (Q > qualityTolerance) {
-    const double density = densityAt(P, T, vapourFrom, Side::vapour);
-    vapour = propertyAt(property, T, density);
-    store({T, density}, state_.quality);
+    const double density = densityOfVapour(line, vapourFrom);
+    vapour = propertyAt(property, line.T, density);
+    store({line.T, density}, state_.quality);
   }
   if (Q < 1.0 - qualityTolerance) {
-    const double density = densityAt(P, T, liquidFrom, Side::liquid);
-    liquid = propertyAt(property, T, density);
-    store({T, density}, state_.quality);
+    const double density = densityOfLiquid(line, liquidFrom);
+    liquid = propertyAt(property, line.T, density);
+    store({line.T, density}, state_.quality);
   }
   return isDensity ? 1.0 / ((1.0 - Q) / liquid + Q / vapour) : (1.0 - Q) * liquid + Q * vapour;
 }
 
 double SteamModel::saturatedTQ(Property property, double T, double Q) {
   const ZvFuncTrace trace(diagnostics_, namesOf(property).fromTQ);
-  return mixture(property, PSatT(T), T, Q, vapourStart, liquidStart);
+  return mixture(property, lineAtT(T), Q, vapourStart, liquidStart);
 }
 
 double SteamModel::saturatedPQ(Property property, double P, double Q) {
   const ZvFuncTrace trace(diagnostics_, namesOf(property).fromPQ);
-  const double T = TSatP(P);
-  return mixture(property, P, T, Q, std::min(saturation::vapourDensityGuess(T), vapourStart),
-                 std::max(saturation::liquidDensityGuess(T), liquidStart));
+  const LinePoint line = lineAtP(P);
+  return mixture(property, line, Q, std::min(saturation::vapourDensityGuess(line.T), vapourStart),
+                 std::max(saturation::liquidDensityGuess(line.T), liquidStart));
 }
 
 SteamModel::SaturatedEnthalpies SteamModel::saturatedEnthalpies(double P) {
   constexpr double belowAny = 0.0;  // so that both sides are solved
-  const Bracket both = bracket(Property::enthalpy, belowAny, P, TSatP(P));
-  return {both.liquid, both.vapour, both.temperature};
+  const Bracket both = bracket(Property::enthalpy, belowAny, lineAtP(P));
+  return {both.liquid, both.vapour, both.line.T};
 }
 
 // The vapour's value; the liquid's too when the given value lies below it (a density: always).
-SteamModel::Bracket SteamModel::bracket(Property property, double value, double P, double T) {
-  Bracket b{};
-  b.temperature = T;
-  b.vapourDensity = densityAt(P, T, vapourStart, Side::vapour);
-  b.vapour = propertyAt(property, T, b.vapourDensity);
-  store({T, b.vapourDensity}, state_.quality);
+SteamModel::Bracket SteamModel::bracket(Property property, double value, LinePoint line) {
+  Bracket b{line, 0.0, 0.0};
+  b.vapour = propertyAt(property, line.T, densityOfVapour(b.line, vapourStart));
+  store({line.T, b.line.vapourDensity}, state_.quality);
   if (property == Property::density || value < b.vapour) {
-    b.liquidDensity = densityAt(P, T, liquidStart, Side::liquid);
-    b.liquid = propertyAt(property, T, b.liquidDensity);
-    store({T, b.liquidDensity}, state_.quality);
+    b.liquid = propertyAt(property, line.T, densityOfLiquid(b.line, liquidStart));
+    store({line.T, b.line.liquidDensity}, state_.quality);
   }
   return b;
 }
 
+// Below the triple point the phases part at its pressure.
 SteamModel::Bracket SteamModel::bracketT(Property property, double value, double T) {
   const ZvFuncTrace trace(diagnostics_, namesOf(property).aroundT);
-  return bracket(property, value, PSatT(T), T);
+  const LinePoint line =
+      T < triplePointTemperature ? LinePoint{T, constants::triplePointPressure} : lineAtT(T);
+  return bracket(property, value, line);
 }
 
 SteamModel::Bracket SteamModel::bracketP(Property property, double value, double P) {
   const ZvFuncTrace trace(diagnostics_, namesOf(property).aroundP);
-  return bracket(property, value, P, TSatP(P));
+  return bracket(property, value, lineAtP(P));
 }
 
 }  // namespace calvex

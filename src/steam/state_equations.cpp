@@ -1,11 +1,10 @@
-// The engine's equations and how they are solved: residuals, acceptance, starting points.
+// The engine's equations and how they are solved: residuals, and when they are small enough.
 #include <algorithm>
 #include <cmath>
 #include <optional>
 
 #include "steam/constants.h"
 #include "steam/saturation_correlations.h"
-#include "steam/starting_points.h"
 #include "steam/steam_model.h"
 
 namespace calvex {
@@ -13,8 +12,6 @@ namespace calvex {
 namespace {
 
 using constants::criticalDensity;
-using constants::criticalRegion;
-using constants::criticalTemperature;
 
 }  // namespace
 
@@ -51,6 +48,32 @@ SteamModel::Equation SteamModel::equationOf(Property property) {
       return Equation::internalEnergy;
     default:
       return Equation::density;
+  }
+}
+
+Property SteamModel::propertyOf(Equation equation) {
+  switch (equation) {
+    case Equation::enthalpy:
+      return Property::enthalpy;
+    case Equation::entropy:
+      return Property::entropy;
+    default:
+      return Property::internalEnergy;
+  }
+}
+
+double SteamModel::valueOf(Equation equation, const HelmholtzPoint& point) {
+  switch (equation) {
+    case Equation::entropy:
+      return point.entropy();
+    case Equation::enthalpy:
+      return point.enthalpy();
+    case Equation::internalEnergy:
+      return point.internalEnergy();
+    case Equation::gibbs:
+      return point.gibbs();
+    default:
+      return point.pressure();
   }
 }
 
@@ -118,19 +141,11 @@ void SteamModel::evaluate(int m, int n, double* x, double* f, int& flag) {
         f[i] = T - target.value;
         break;
       case Equation::entropy:
-        f[i] = first->entropy() - target.value;
-        break;
       case Equation::enthalpy:
-        f[i] = first->enthalpy() - target.value;
-        break;
       case Equation::internalEnergy:
-        f[i] = first->internalEnergy() - target.value;
-        break;
       case Equation::pressure:
-        f[i] = first->pressure() - target.value;
-        break;
       case Equation::gibbs:
-        f[i] = first->gibbs() - target.value;
+        f[i] = valueOf(target.equation, *first) - target.value;
         break;
       case Equation::gibbsDifference:
         f[i] = second->gibbsOfPhase() - first->gibbsOfPhase();
@@ -154,11 +169,10 @@ bool SteamModel::isSolution(int n, const double* f) const {
     if (!std::isfinite(f[i]) || !std::isfinite(unknowns_[static_cast<std::size_t>(i)]))
       return false;
   }
-  const double T = unknowns_[0];
-  if (!(T > 250.0 && T < 2600.0)) return false;
-  for (int i = 1; i < n; ++i) {
+  for (int i = 0; i < n; ++i) {
     if (!(unknowns_[static_cast<std::size_t>(i)] > 0.0)) return false;
   }
+  const double T = unknowns_[0];
   const double idealGasPressure = 0.001 * constants::gasConstant * unknowns_[1] * T;  // MPa
   for (int i = 0; i < n; ++i) {
     const Target& target = targets_[static_cast<std::size_t>(i)];
@@ -201,71 +215,17 @@ int SteamModel::solve(std::span<const Target> targets) {
   return ZvSolver::converged(status) && !accepted_ ? ZvSolver::notASolution : status;
 }
 
-Start SteamModel::solveState(Target first, Target second, Start start, Side side) {
-  const std::array<Target, 2> targets{first, second};
-  const auto attempt = [&](Start from) {
-    unknowns_[0] = from.temperature;
-    unknowns_[1] = from.density;
-    return solve(targets);
-  };
-  const auto solution = [&] { return Start{unknowns_[0], unknowns_[1]}; };
-  // Roots between the spinodals meet their targets too: (P, s) at 15.98 MPa and 0.691 kJ/(kg.K), a
-  // liquid at 322.7 K and 995 kg/m3, has one at 340.2 K and 731 kg/m3.
-  const auto isStable = [&] {
-    const TemperaturePart& part = temperaturePart(unknowns_[0], TemperaturePart::Order::pressure);
-    return HelmholtzPoint(part, unknowns_[1]).pressureSlope() > 0.0;
-  };
-  // The critical density parts the two sides. Next to the critical point a root of the other side
-  // may be all there is: it is kept in case.
-  std::optional<Start> otherSide;
-  const auto isPhase = [&] {
-    if (!isStable()) return false;
-    if (side == Side::any || (side == Side::liquid) == (unknowns_[1] > criticalDensity))
-      return true;
-    if (std::fabs(unknowns_[0] - criticalTemperature) <= criticalRegion) otherSide = solution();
-    return false;
-  };
-
-  const int status = attempt(start);
-  if (ZvSolver::converged(status) && isPhase()) return solution();
-  const StartingPoints others =
-      first.equation == Equation::temperature
-          ? StartingPoints::atTemperature(
-                first.value, second.equation == Equation::pressure ? second.value : 0.0, side)
-          : StartingPoints::atPressure(first.value, side);
-  for (const Start& other : others) {
-    if (ZvSolver::converged(attempt(other)) && isPhase()) return solution();
-  }
-  if (otherSide) return *otherSide;
-  ZvSolver::raise(ZvSolver::converged(status) ? ZvSolver::notASolution : status);
-}
-
-// Density of the root at (P, T) on one side.
-double SteamModel::densityAt(double P, double T, double start, Side side) {
-  return solveState({Equation::temperature, T}, {Equation::pressure, P}, {T, start}, side).density;
-}
-
-// Equal pressure and equal Gibbs energy of two phases, with the third target; from where the
-// density guesses put it, else from around the critical density. The solver's status.
+// Equal pressure and equal Gibbs energy of two phases, with the third target, from where the
+// density guesses put it. The solver's status.
 int SteamModel::solveEquilibrium(Target third, double T) {
   const std::array<Target, 3> targets{Target{Equation::gibbsDifference, 0.0},
                                       Target{Equation::pressureDifference, 0.0}, third};
-  const auto attempt = [&](double liquid, double vapour) {
-    unknowns_ = {T, liquid, vapour};
-    const int status = solve(targets);
-    // Two equal densities meet both differences and are no equilibrium; next to the critical point
-    // nearly equal ones do within the tolerances.
-    const bool apart = unknowns_[1] > criticalDensity && unknowns_[2] < criticalDensity;
-    return ZvSolver::converged(status) && !apart ? ZvSolver::notASolution : status;
-  };
-
-  const int status = attempt(saturation::liquidDensityGuess(T), saturation::vapourDensityGuess(T));
-  if (ZvSolver::converged(status)) return status;
-  for (const double halfWidth : {40.0, 60.0, 80.0, 100.0, 20.0, 10.0}) {
-    const int other = attempt(criticalDensity + halfWidth, criticalDensity - halfWidth);
-    if (ZvSolver::converged(other)) return other;
-  }
-  return status;
+  unknowns_ = {T, saturation::liquidDensityGuess(T), saturation::vapourDensityGuess(T)};
+  const int status = solve(targets);
+  // Two equal densities meet both differences and are no equilibrium; next to the critical point
+  // nearly equal ones do within the tolerances.
+  const bool apart = unknowns_[1] > criticalDensity && unknowns_[2] < criticalDensity;
+  return ZvSolver::converged(status) && !apart ? ZvSolver::notASolution : status;
 }
 
 void SteamModel::store(Start solution, double quality) {

@@ -7,16 +7,23 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string_view>
 
 #include "diagnostics/diagnostics.h"
 #include "steam/fundamental_equation.h"
 #include "steam/property.h"
+#include "steam/root_search.h"
 #include "steam/solver.h"
-#include "steam/starting_points.h"
 
 namespace calvex {
+
+/// Where the minimiser starts or has ended: K and kg/m3.
+struct Start {
+  double temperature;
+  double density;
+};
 
 /// The last state found.
 struct SteamState {
@@ -29,6 +36,14 @@ struct SteamState {
 
 enum class Phases { one, two };
 
+/// How the saturation line is computed, and what decides the phase of a state from (P, T).
+enum class SatPolish {
+  correlation = 0,  ///< the line is its correlation, next to the critical point a scaling law
+  exact = 1,     ///< the line is the phase equilibrium up to 0.5 K below the critical point, then
+                 ///< the scaling law; the correlation decides the phase of (P, T)
+  deciding = 2,  ///< the line is the phase equilibrium throughout and decides the phase
+};
+
 class SteamModel final : private ZvSolverCallBack {
  public:
   /// Posts its notes and warnings to `diagnostics`, which must outlive it.
@@ -40,9 +55,13 @@ class SteamModel final : private ZvSolverCallBack {
   [[nodiscard]] ZvSolver& solver() noexcept { return solver_; }
   [[nodiscard]] const ZvSolver& solver() const noexcept { return solver_; }
 
-  /// Whether the saturation line is the exact phase equilibrium or its correlation.
+  /// The client's number; 2 is `deciding`, any other but 0 `exact`.
   [[nodiscard]] int satPolish() const noexcept { return satPolish_; }
   void setSatPolish(int flag) noexcept { satPolish_ = flag; }
+  [[nodiscard]] SatPolish polish() const noexcept {
+    if (satPolish_ == 0) return SatPolish::correlation;
+    return satPolish_ == 2 ? SatPolish::deciding : SatPolish::exact;
+  }
 
   // The stored state -----------------------------------------------------------------------------
   [[nodiscard]] const SteamState& state() const noexcept { return state_; }
@@ -55,11 +74,16 @@ class SteamModel final : private ZvSolverCallBack {
   // the saturated densities are stored. -----------------------------------------------------------
   /// On the saturation line (two phases) the state is left alone: P and T do not determine it.
   Phases stateFromPT(double P, double T);
-  /// `second` is enthalpy, entropy, internal energy or density.
+  /// `second` is enthalpy, entropy, internal energy or density. Only states of water are answers:
+  /// 0 < P <= 3000 MPa, 260 to 2500 K, mechanically stable, a liquid at least as dense as saturated
+  /// liquid and a vapour at most as dense as saturated vapour. Of two liquids at one temperature it
+  /// is the one nearer the saturation line, of two temperatures of one density the warmer.
   Phases stateFromP(double P, Property second, double value);
+  /// Below the triple point there is no saturation line: between the phases (two phases) there is
+  /// then no state either.
   Phases stateFromT(double T, Property second, double value);
-  /// Enthalpy of water at (P, T), liquid as long as there is a liquid, also superheated. The stored
-  /// state is left alone.
+  /// Enthalpy of liquid water at (P, T), also superheated as far as there is such a liquid. The
+  /// stored state is left alone.
   [[nodiscard]] double waterEnthalpy(double P, double T);
 
   // Saturation line
@@ -97,6 +121,7 @@ class SteamModel final : private ZvSolverCallBack {
     double value;
   };
   [[nodiscard]] static Equation equationOf(Property property);
+  [[nodiscard]] static Property propertyOf(Equation equation);
 
   // ZvSolverCallBack
   void evaluate(int m, int n, double* x, double* f, int& flag) override;
@@ -107,28 +132,68 @@ class SteamModel final : private ZvSolverCallBack {
   int solve(std::span<const Target> targets);
   [[nodiscard]] bool isSolution(int n, const double* f) const;
 
-  /// Temperature and density with the two targets, from `start`, else from other points of the
-  /// side.
-  Start solveState(Target first, Target second, Start start, Side side);
+  /// What a state is asked for by: its temperature or pressure, and another property.
+  struct Request {
+    Target first;
+    Target second;
+    Side side;          ///< below the critical temperature
+    Start start;        ///< where the minimiser starts
+    double TMin, TMax;  ///< of an unknown temperature
+    double saturated;   ///< density of that side's phase on the line at a known temperature, or 0
+    [[nodiscard]] bool fromT() const { return first.equation == Equation::temperature; }
+  };
+  /// The temperature and density asked for: those that the minimiser finds, where they are a state
+  /// of water and the one that is meant, else those that a search finds. `status` is the
+  /// minimiser's.
+  std::optional<Start> findState(const Request& request, int& status);
+  /// The same, or the reason why there is none as an exception.
+  Start solveState(const Request& request);
+  [[noreturn]] static void raiseWithoutState(int status);
+  struct Slopes {
+    double density;      ///< dX/dr at constant temperature, r in g/cm3
+    double temperature;  ///< dX/dT at constant density
+    HelmholtzPoint::Derivatives pressure;
+  };
+  [[nodiscard]] static Slopes slopesOf(Equation equation, const HelmholtzPoint& point, double T,
+                                       double r);
+  [[nodiscard]] static double valueOf(Equation equation, const HelmholtzPoint& point);
+  [[nodiscard]] Start polished(const Request& request, Start found);
+  [[nodiscard]] static std::optional<Start> search(const Request& request);
+  /// Whether that is a state of water on that side, within the limits of what was asked for.
+  [[nodiscard]] bool isState(const Request& request, Start found, Side side);
+  /// Whether no other state that meets the request lies between the line and this one.
+  [[nodiscard]] bool isNearest(const Request& request, Start found);
+  void noteOtherState(const Request& request, Start found);
+
   [[nodiscard]] double densityAt(double P, double T, double start, Side side);
   [[nodiscard]] int solveEquilibrium(Target third, double T);
   [[nodiscard]] double pressureNearCritical(double T);
   [[nodiscard]] double temperatureNearCritical(double P);
   void store(Start solution, double quality);
 
-  /// Saturated values around a given one, at (P, T) of the line.
+  /// A point of the saturation line; a density of zero has not been solved for.
+  struct LinePoint {
+    double T;
+    double P;
+    double vapourDensity = 0.0;
+    double liquidDensity = 0.0;
+  };
+  LinePoint lineAtT(double T);
+  LinePoint lineAtP(double P);
+  double densityOfVapour(LinePoint& point, double start);
+  double densityOfLiquid(LinePoint& point, double start);
+
+  /// Saturated values around a given one, at a point of the line.
   struct Bracket {
-    double temperature;
+    LinePoint line;
     double vapour;
     double liquid;  ///< solved only when the given value is below `vapour`; density: always
-    double vapourDensity;
-    double liquidDensity;
   };
-  Bracket bracket(Property property, double value, double P, double T);
+  Bracket bracket(Property property, double value, LinePoint line);
   Bracket bracketT(Property property, double value, double T);
   Bracket bracketP(Property property, double value, double P);
-  double mixture(Property property, double P, double T, double Q, double vapourFrom,
-                 double liquidFrom);
+  double mixture(Property property, LinePoint line, double Q, double vapourFrom, double liquidFrom);
+  Phases storeMixture(Property property, const Bracket& line, double value);
 
   const TemperaturePart& temperaturePart(double T, TemperaturePart::Order order);
   [[nodiscard]] double propertyAt(Property property, double T, double density);
