@@ -1,13 +1,13 @@
 #include "command_line.h"
 
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 
 #include <algorithm>
 #include <array>
 #include <iostream>
 
 #include "call.h"
+#include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "suggestions.h"
 
