@@ -1,10 +1,10 @@
 // calvex MEMBER ARGUMENT...
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 
 #include <ostream>
 
 #include "command_line.h"
+#include "diagnostics/formatting.h"
 #include "output.h"
 
 namespace calvex::cli {

@@ -15,7 +15,7 @@ namespace calvex::cli {
 namespace {
 
 // An option that takes one text and may be given again.
-void addRepeatable(CLI::App& app, const char* name, std::vector<std::string>& target,
+void addRepeatable(CommandOptions& app, const char* name, std::vector<std::string>& target,
                    const char* form, const char* meaning) {
   app.add_option(name, target, meaning)->allow_extra_args(false)->type_name(form);
 }
@@ -42,17 +42,17 @@ void runOrFail(Client& client, Call call) {
 
 }  // namespace
 
-void ClientOptions::addUnitsTo(CLI::App& app) {
+void ClientOptions::addUnitsTo(CommandOptions& app) {
   addRepeatable(app, "-u,--unit", units, "GROUP=UNIT",
                 "Unit for a quantity, such as T=C or Pressure=bara; may be repeated");
 }
 
-void ClientOptions::addSettingsTo(CLI::App& app) {
+void ClientOptions::addSettingsTo(CommandOptions& app) {
   addRepeatable(app, "-s,--set", settings, "SETTING=VALUE",
                 "Setting of the engine, such as SatPolish=0; may be repeated");
 }
 
-void ClientOptions::addOutputTo(CLI::App& app) {
+void ClientOptions::addOutputTo(CommandOptions& app) {
   app.add_flag("--trace", trace, "Print the tree of traced calls and their messages afterwards");
   app.add_flag("--json", json, "Print JSON, one object a call");
 }

@@ -3,13 +3,13 @@
 /// settings.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <iosfwd>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "command_options.h"
 #include "server/zv_calvex.h"
 
 namespace calvex::cli {
@@ -40,9 +40,9 @@ struct ClientOptions {
   bool trace = false;
   bool json = false;
 
-  void addUnitsTo(CLI::App& app);
-  void addSettingsTo(CLI::App& app);
-  void addOutputTo(CLI::App& app);
+  void addUnitsTo(CommandOptions& app);
+  void addSettingsTo(CommandOptions& app);
+  void addOutputTo(CommandOptions& app);
   /// Settings first, then units. Throws Failure.
   void applyTo(Client& client) const;
 };

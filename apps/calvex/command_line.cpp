@@ -1,13 +1,13 @@
 #include "command_line.h"
 
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 
 #include <algorithm>
 #include <array>
 #include <iostream>
 
 #include "call.h"
+#include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "suggestions.h"
 
@@ -148,56 +148,6 @@ ExitStatus runCommandLine(Words words, Console& console) {
     return ExitStatus::callFailed;
   }
   return status;
-}
-
-CommandOptions::CommandOptions(const std::string& name, const std::string& usage,
-                               const std::string& description)
-    : CLI::App(description, name) {
-  class Formatter : public CLI::Formatter {
-   public:
-    explicit Formatter(const std::string& form) : usage_("usage: calvex " + form + "\n") {
-      column_width(30);
-    }
-    std::string make_usage(const CLI::App* /*app*/, std::string /*name*/) const override {
-      return usage_;
-    }
-
-   private:
-    std::string usage_;
-  };
-  formatter(std::make_shared<Formatter>(usage));
-}
-
-bool parse(CommandOptions& app, const Words& words, Console& console) {
-  try {
-    app.parse(Words(words.rbegin(), words.rend()));
-  } catch (const CLI::CallForHelp&) {
-    console.out << app.help();
-    return false;
-  } catch (const CLI::ParseError& error) {
-    throw UsageError(fmt::format("{}\n'{}' explains it", error.what(), app.helpCommand()));
-  }
-  return true;
-}
-
-std::optional<Words> parseAround(CommandOptions& app, const Words& words, Console& console) {
-  const auto mark = std::ranges::find(words, "--");
-  app.allow_extras();
-  if (!parse(app, Words(words.begin(), mark), console)) return std::nullopt;
-  Words rest = app.remaining();
-  for (const std::string& word : rest) {
-    // What begins like a number is one, or refused as one with a better reason (-inf).
-    const std::string letters = lowerCase(word).substr(0, 4);
-    const bool number =
-        word.size() > 1 && std::string_view(".0123456789").find(word[1]) != std::string_view::npos;
-    if (word.starts_with('-') && word.size() > 1 && !number && letters != "-inf" &&
-        letters != "-nan") {
-      throw UsageError(
-          fmt::format("there is no option {}\n'{}' lists them", inQuotes(word), app.helpCommand()));
-    }
-  }
-  if (mark != words.end()) rest.insert(rest.end(), mark + 1, words.end());
-  return rest;
 }
 
 }  // namespace calvex::cli

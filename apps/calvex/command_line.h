@@ -2,13 +2,10 @@
 /// The command line as a whole, and what its commands share. All texts are UTF-8.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <iosfwd>
-#include <optional>
-#include <string>
 #include <string_view>
-#include <vector>
 
+#include "command_options.h"
 #include "failure.h"
 
 namespace calvex::cli {
@@ -19,8 +16,6 @@ struct Console {
   std::ostream& err;
   bool outIsTerminal = false;
 };
-
-using Words = std::vector<std::string>;
 
 /// Runs `calvex words...`. No exception comes out.
 ExitStatus runCommandLine(Words words, Console& console);
@@ -34,25 +29,5 @@ ExitStatus unitsCommand(const Words& words, Console& console);
 ExitStatus convertCommand(const Words& words, Console& console);
 ExitStatus tableCommand(const Words& words, Console& console);
 ExitStatus runCommand(const Words& words, Console& console);
-
-/// The words and options of a command.
-class CommandOptions : public CLI::App {
- public:
-  /// `usage` is what follows "calvex".
-  CommandOptions(const std::string& name, const std::string& usage, const std::string& description);
-
-  /// What a user types to have the command explained.
-  [[nodiscard]] std::string helpCommand() const {
-    return get_name().empty() ? "calvex --help" : "calvex help " + get_name();
-  }
-};
-
-/// False when help was asked for and printed. Throws UsageError.
-bool parse(CommandOptions& app, const Words& words, Console& console);
-
-/// For commands that take negative numbers: parses the options among the words and answers the rest
-/// in order, with everything behind "--"; nothing when help was asked for and printed. Throws
-/// UsageError, also for an option that does not exist.
-std::optional<Words> parseAround(CommandOptions& app, const Words& words, Console& console);
 
 }  // namespace calvex::cli

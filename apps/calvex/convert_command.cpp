@@ -1,10 +1,10 @@
 // calvex convert GROUP VALUE FROM TO
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 
 #include <ostream>
 
 #include "command_line.h"
+#include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "numbers.h"
 #include "output.h"

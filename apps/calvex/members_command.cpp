@@ -1,6 +1,5 @@
 // calvex members [PATTERN]
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 #include <fmt/ranges.h>
 
 #include <algorithm>
@@ -8,6 +7,7 @@
 #include <ostream>
 
 #include "command_line.h"
+#include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "numbers.h"
 #include "output.h"

@@ -1,13 +1,13 @@
 #include "script.h"
 
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 #include <fmt/ranges.h>
 
 #include <algorithm>
 #include <istream>
 #include <ostream>
 
+#include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "output.h"
 #include "suggestions.h"

@@ -1,11 +1,11 @@
 // calvex table saturation|isobar
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 
 #include <cmath>
 #include <ostream>
 
 #include "command_line.h"
+#include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "numbers.h"
 #include "output.h"

@@ -1,11 +1,11 @@
 // calvex units [GROUP]
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 #include <fmt/ranges.h>
 
 #include <ostream>
 
 #include "command_line.h"
+#include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "numbers.h"
 #include "output.h"

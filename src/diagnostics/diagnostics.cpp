@@ -1,9 +1,9 @@
 #include "diagnostics/diagnostics.h"
 
-#include <fmt/printf.h>
-
 #include <algorithm>
 #include <ctime>
+
+#include "diagnostics/formatting.h"
 
 namespace calvex {
 

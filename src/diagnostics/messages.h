@@ -6,10 +6,11 @@
 
 namespace calvex {
 
+// CALVEX_VERSION is the project's, for the one source that holds the texts.
 // X(number, name, text); the texts are printf formats, kept letter by letter (9 ends in two full
 // stops, 5 lacks its conversion letter).
 #define CALVEX_MESSAGES(X)                                                         \
-  X(1, version, "4.4.8")                                                           \
+  X(1, version, CALVEX_VERSION)                                                    \
   X(3, typeMismatch, "Type mismatch in %s parameter.")                             \
   X(4, arrayDimensionMismatch, "Array dimension mismatch in %s parameter.")        \
   X(5, arraySizeMismatch, "Array size mismatch in % parameter.")                   \

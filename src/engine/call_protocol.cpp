@@ -1,8 +1,7 @@
 // What every call goes through: range checks, results in the client's unit, failures.
-#include <fmt/printf.h>
-
 #include <cmath>
 
+#include "diagnostics/formatting.h"
 #include "engine/thermo_engine.h"
 
 namespace calvex {

@@ -1,6 +1,5 @@
 // The settings. A setter that checks its value is traced; a rejected value changes nothing.
-#include <fmt/printf.h>
-
+#include "diagnostics/formatting.h"
 #include "engine/thermo_engine.h"
 
 namespace calvex {

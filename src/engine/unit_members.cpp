@@ -1,6 +1,5 @@
 // The members that choose, read and convert units of measure.
-#include <fmt/printf.h>
-
+#include "diagnostics/formatting.h"
 #include "engine/thermo_engine.h"
 
 namespace calvex {

@@ -211,11 +211,13 @@ library CALVEXLib
 }
 
 std::string stringResources() {
-  std::string text = fmt::format("// {}\nSTRINGTABLE\nBEGIN\n", notice);
+  std::string text = fmt::format("// {}\nSTRINGTABLE\nBEGIN\n  {} CALVEX_VERSION\n", notice,
+                                 static_cast<int>(Message::version));
   const auto add = [&](int number, std::string_view value) {
     text += fmt::format("  {} {}\n", number, quoted(value));
   };
-#define X(number, name, message) add(number, message);
+#define X(number, name, message) \
+  if (Message::name != Message::version) add(number, messageText(number));
   CALVEX_MESSAGES(X)
 #undef X
   int number = 20;

@@ -1,12 +1,12 @@
 #include "steam/solver.h"
 
 #include <cminpack.h>
-#include <fmt/printf.h>
 
 #include <algorithm>
 #include <string>
 
 #include "diagnostics/diagnostics.h"
+#include "diagnostics/formatting.h"
 #include "diagnostics/thermo_exception.h"
 
 namespace calvex {

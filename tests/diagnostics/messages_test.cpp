@@ -5,12 +5,14 @@
 #include <map>
 #include <string_view>
 
+#include "support/checkout.h"
+
 namespace calvex {
 namespace {
 
 TEST(Messages, TextsAreLetterByLetter) {
   const std::map<int, std::string_view> texts = {
-      {1, "4.4.8"},
+      {1, test::projectVersion()},
       {3, "Type mismatch in %s parameter."},
       {4, "Array dimension mismatch in %s parameter."},
       {5, "Array size mismatch in % parameter."},

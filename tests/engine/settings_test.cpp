@@ -3,6 +3,7 @@
 
 #include <limits>
 
+#include "support/checkout.h"
 #include "support/engine.h"
 
 namespace calvex::test {
@@ -28,7 +29,7 @@ TEST_F(Settings, HaveTheirDefaults) {
   EXPECT_EQ(engine.AppHelpFile(), "");
   EXPECT_EQ(engine.UomHelpContext(), 0);
   EXPECT_EQ(engine.LastError(), "");
-  EXPECT_EQ(engine.VersionStr(), "4.4.8");
+  EXPECT_EQ(engine.VersionStr(), test::projectVersion());
   EXPECT_EQ(engine.diagnostics().root().text(), "Root");
   EXPECT_EQ(engine.diagnostics().root().kind(), ZvFunctionCall::Kind::root);
 }

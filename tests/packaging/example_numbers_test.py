@@ -46,6 +46,10 @@ EXPECTED = {
 }
 
 failed = 0
+version, = re.findall(r"^project\(calvex VERSION ([\d.]+)", (root / "CMakeLists.txt").read_text(), re.M)
+if (root / "examples/windows/first-steps.txt").read_text().splitlines()[0] != f"Calvex {version}":
+    failed += 1
+    print("first-steps.txt has another version; run scripts/update-generated")
 kept = {path.name for path in (root / "examples/windows").glob("*.txt")}
 if kept != set(EXPECTED):
     failed += 1

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "server/zv_calvex.h"
+#include "support/checkout.h"
 
 namespace calvex::test {
 namespace {
@@ -136,11 +137,11 @@ TEST_F(AutomationObject, TheWindowHandleAnswersOkAndWritesNothing) {
 }
 
 TEST_F(AutomationObject, TheVersionIsReadOnly) {
-  EXPECT_EQ(std::get<std::string>(get("VersionStr")), "4.4.8");
+  EXPECT_EQ(std::get<std::string>(get("VersionStr")), test::projectVersion());
   EXPECT_EQ(put("VersionStr", std::string("5")).hresult, HResult::memberNotFound);
   EXPECT_EQ(put("LastError", std::string("x")).hresult, HResult::memberNotFound);
   EXPECT_EQ(put("hWnd", 1).hresult, HResult::memberNotFound);
-  EXPECT_EQ(std::get<std::string>(get("VersionStr")), "4.4.8");
+  EXPECT_EQ(std::get<std::string>(get("VersionStr")), test::projectVersion());
 }
 
 TEST_F(AutomationObject, MethodsCannotBePut) {

@@ -7,11 +7,13 @@
 #include <sstream>
 #include <string>
 
+#include "support/checkout.h"
+
 namespace calvex {
 namespace {
 
 std::string kept(const std::string& name) {
-  std::ifstream file(std::string(CALVEX_TEST_DATA) + "/../../" + name);
+  std::ifstream file(test::dataFolder() + "/../../" + name);
   EXPECT_TRUE(file) << name;
   std::ostringstream text;
   text << file.rdbuf();

@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "support/checkout.h"
+
 namespace calvex::test {
 
 /// A line of the table, by column name.
@@ -35,7 +37,7 @@ inline std::vector<std::string> cellsOf(const std::string& line, char separator)
 
 /// Reads tests/data/`name`; throws when it is not there or ragged.
 inline std::vector<Row> readTable(const std::string& name, char separator = ',') {
-  std::ifstream file(std::string(CALVEX_TEST_DATA) + "/" + name);
+  std::ifstream file(dataFolder() + "/" + name);
   if (!file) throw std::runtime_error("no test data " + name);
   std::vector<std::string> columns;
   std::vector<Row> rows;

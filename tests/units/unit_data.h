@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "support/checkout.h"
+
 namespace calvex::test {
 
 /// UTF-8 to Windows-1252, for texts whose only characters above 0x7F are U+00A0 to U+00BF.
@@ -26,7 +28,7 @@ inline std::vector<std::string> split(const std::string& text, char separator) {
 
 /// The rows of a data file below its heading, in Windows-1252.
 inline std::vector<std::vector<std::string>> readCells(const std::string& name) {
-  std::ifstream in(CALVEX_TEST_DATA "/" + name);
+  std::ifstream in(dataFolder() + "/" + name);
   EXPECT_TRUE(in) << "cannot read " << name;
   std::vector<std::vector<std::string>> rows;
   std::string line;

@@ -5,6 +5,7 @@
 #include "command_line_harness.h"
 #include "progress.h"
 #include "server/member_table.h"
+#include "support/checkout.h"
 #include "units/unit_catalogue.h"
 
 namespace calvex::cli::test {
@@ -61,8 +62,8 @@ TEST(HelpCommand, NothingToDoIsAUsageError) {
 }
 
 TEST(VersionCommand, PrintsTheVersion) {
-  EXPECT_EQ(calvex({"--version"}).out, "calvex 4.4.8\n");
-  EXPECT_EQ(calvex({"version"}).out, "calvex 4.4.8\n");
+  EXPECT_EQ(calvex({"--version"}).out, "calvex " + calvex::test::projectVersion() + "\n");
+  EXPECT_EQ(calvex({"version"}).out, "calvex " + calvex::test::projectVersion() + "\n");
 }
 
 TEST(MembersCommand, ListsEveryMember) {

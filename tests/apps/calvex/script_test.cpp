@@ -5,6 +5,7 @@
 #include <random>
 
 #include "command_line_harness.h"
+#include "support/checkout.h"
 
 namespace calvex::cli::test {
 namespace {
@@ -78,7 +79,8 @@ TEST(RunCommand, ValueMembersAnswerTheirValueWithItsUnit) {
   EXPECT_TRUE(lines[0].starts_with(R"({"member":"CritT","hresult":0,"value":647.)")) << lines[0];
   EXPECT_TRUE(lines[0].ends_with(R"("units":{"value":"K"}})")) << lines[0];
   EXPECT_NEAR(numberAt(lines[1], "value"), 18.015, 0.001);
-  EXPECT_EQ(lines[2], R"({"member":"VersionStr","hresult":0,"value":"4.4.8"})");
+  EXPECT_EQ(lines[2], R"({"member":"VersionStr","hresult":0,"value":")" +
+                          calvex::test::projectVersion() + R"("})");
   EXPECT_FALSE(contains(lines[3], "units")) << lines[3];
 }
 

@@ -3,6 +3,7 @@
 
 #include "diagnostics/messages.h"
 #include "server/windows/client.h"
+#include "support/checkout.h"
 #include "units/unit_catalogue.h"
 
 namespace calvex::test {
@@ -25,7 +26,7 @@ std::wstring unicode(std::string_view text) {
 TEST_F(Resources, TheStringTableIsTheEnginesOwnListAndNothingElse) {
   ASSERT_NE(module, nullptr);
   std::map<UINT, std::wstring> expected;
-#define X(number, name, text) expected[number] = unicode(text);
+#define X(number, name, text) expected[number] = unicode(messageText(number));
   CALVEX_MESSAGES(X)
 #undef X
   UINT group = 0;
@@ -34,7 +35,7 @@ TEST_F(Resources, TheStringTableIsTheEnginesOwnListAndNothingElse) {
     expected[50 + group] = unicode(row.internalUnit);
     ++group;
   }
-  EXPECT_EQ(expected.at(1), L"4.4.8");
+  EXPECT_EQ(expected.at(1), unicode(test::projectVersion()));
   EXPECT_EQ(expected.at(46), L"Pressure Difference");
   EXPECT_EQ(expected.at(76), L"MPa");
   for (UINT number = 0; number < 1000; ++number) {

@@ -20,7 +20,7 @@ check("CritP", steam.CritP(), 22.055);
 check("CritR", steam.CritR(), 321.8870385);
 check("TripleT", steam.TripleT(), 273.16);
 check("MolWeight", steam.MolWeight(), 18.0152);
-check("VersionStr", steam.VersionStr, "4.4.8");
+check("VersionStr", steam.VersionStr, "@CALVEX_VERSION@");
 
 // an output that is an object gets the property `value`
 var h = {}, t = {}, q = {}, s = {}, ok;

@@ -17,7 +17,7 @@ Check "AppName", steam.AppName, "ZvCalvex", 0
 Check "AppHelpFile", steam.AppHelpFile, "", 0
 Check "UomHelpContext", VarType(steam.UomHelpContext), vbLong, 0
 Check "LastError", steam.LastError, "", 0
-Check "VersionStr", steam.VersionStr, "4.4.8", 0
+Check "VersionStr", steam.VersionStr, "@CALVEX_VERSION@", 0
 Check "the window handle is nothing", VarType(steam.hWnd), vbEmpty, 0
 
 ' A refused value is no error of the script: the setting keeps its value and LastError tells.

@@ -1,0 +1,106 @@
+#include "command_options.h"
+
+#include <fmt/format.h>
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <ostream>
+
+#include "command_line.h"
+#include "encoding.h"
+#include "suggestions.h"
+
+namespace calvex::cli {
+
+Option& Option::required() {
+  option_->required();
+  return *this;
+}
+
+Option& Option::type_name(const std::string& name) {
+  option_->type_name(name);
+  return *this;
+}
+
+Option& Option::allow_extra_args(bool allowed) {
+  option_->allow_extra_args(allowed);
+  return *this;
+}
+
+CommandOptions::CommandOptions(const std::string& name, const std::string& usage,
+                               const std::string& description)
+    : app_(std::make_unique<CLI::App>(description, name)) {
+  class Formatter : public CLI::Formatter {
+   public:
+    explicit Formatter(const std::string& form) : usage_("usage: calvex " + form + "\n") {
+      column_width(30);
+    }
+    std::string make_usage(const CLI::App* /*app*/, std::string /*name*/) const override {
+      return usage_;
+    }
+
+   private:
+    std::string usage_;
+  };
+  app_->formatter(std::make_shared<Formatter>(usage));
+}
+
+CommandOptions::~CommandOptions() = default;
+
+void CommandOptions::footer(const std::string& text) { app_->footer(text); }
+void CommandOptions::set_help_flag() { app_->set_help_flag(); }
+
+Option CommandOptions::add_flag(const std::string& names, bool& value, const std::string& meaning) {
+  return Option(*app_->add_flag(names, value, meaning));
+}
+
+Option CommandOptions::add_option(const std::string& names, std::string& value,
+                                  const std::string& meaning) {
+  return Option(*app_->add_option(names, value, meaning));
+}
+
+Option CommandOptions::add_option(const std::string& names, Words& values,
+                                  const std::string& meaning) {
+  return Option(*app_->add_option(names, values, meaning));
+}
+
+std::size_t CommandOptions::count(const std::string& name) const { return app_->count(name); }
+
+std::string CommandOptions::helpCommand() const {
+  const std::string name = app_->get_name();
+  return name.empty() ? "calvex --help" : "calvex help " + name;
+}
+
+bool parse(CommandOptions& options, const Words& words, Console& console) {
+  try {
+    options.app_->parse(Words(words.rbegin(), words.rend()));
+  } catch (const CLI::CallForHelp&) {
+    console.out << options.app_->help();
+    return false;
+  } catch (const CLI::ParseError& error) {
+    throw UsageError(fmt::format("{}\n'{}' explains it", error.what(), options.helpCommand()));
+  }
+  return true;
+}
+
+std::optional<Words> parseAround(CommandOptions& options, const Words& words, Console& console) {
+  const auto mark = std::ranges::find(words, "--");
+  options.app_->allow_extras();
+  if (!parse(options, Words(words.begin(), mark), console)) return std::nullopt;
+  Words rest = options.app_->remaining();
+  for (const std::string& word : rest) {
+    // What begins like a number is one, or refused as one with a better reason (-inf).
+    const std::string letters = lowerCase(word).substr(0, 4);
+    const bool number =
+        word.size() > 1 && std::string_view(".0123456789").find(word[1]) != std::string_view::npos;
+    if (word.starts_with('-') && word.size() > 1 && !number && letters != "-inf" &&
+        letters != "-nan") {
+      throw UsageError(fmt::format("there is no option {}\n'{}' lists them", inQuotes(word),
+                                   options.helpCommand()));
+    }
+  }
+  if (mark != words.end()) rest.insert(rest.end(), mark + 1, words.end());
+  return rest;
+}
+
+}  // namespace calvex::cli

@@ -1,0 +1,15 @@
+/// \file
+/// What the tests know of the checkout that they were built from.
+#pragma once
+
+#include <string>
+
+namespace calvex::test {
+
+/// tests/data
+[[nodiscard]] std::string dataFolder();
+
+/// The version that CMakeLists.txt gives the project.
+[[nodiscard]] std::string projectVersion();
+
+}  // namespace calvex::test
