@@ -235,6 +235,54 @@ TEST_F(TraceMembers, TracedPutsEmptyCustomTexts) {
   EXPECT_TRUE(emptiedBy([&] { engine.SetUserUnit("T", "K"); }));
   EXPECT_TRUE(emptiedBy([&] { engine.GetUserUnit("T", &text); }));
   EXPECT_TRUE(emptiedBy([&] { engine.Convert("T", "K", "C", 1.0, &value); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetUserUnitIndex(0, "K"); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.GetUserUnitIndex(0, &text); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetCustomUserUnitIndex(0, "K", 1.0, 0.0); }));
+  // Also when they refuse, with or without a word.
+  EXPECT_TRUE(emptiedBy([&] { engine.SetSolverTol(1.0); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetCustomUserUnitIndex(27, "K", 1.0, 0.0); }));
+}
+
+TEST_F(TraceMembers, WhatIsNotTracedKeepsCustomTextsAndTheOldestCall) {
+  engine.AddCustomTraceTitle("Cell");
+  engine.SetMaxTraceSize(2);
+  callThatFails();
+  callThatFails();
+  engine.SetCustomTraceText(0, "A1");
+  ResultArray alarms;
+  EXPECT_EQ(engine.SetAppLevel(2), 1);
+  EXPECT_EQ(engine.SetAppLevel(0), 1);
+  EXPECT_EQ(engine.SetAppLevel(3), 1);
+  EXPECT_EQ(engine.SetAppLevel(1), 0);
+  EXPECT_EQ(engine.SetAppLevel(4), 0);
+  EXPECT_EQ(engine.SetAppLevel(2), 1);
+  EXPECT_EQ(engine.SetReturnModelUnits(1), 1);
+  EXPECT_EQ(engine.SetReturnThermoUnits(1), 1);
+  EXPECT_EQ(engine.SetReturnModelTokens(1), 1);
+  EXPECT_EQ(engine.SetFunctionCallTracing(1), 1);
+  EXPECT_EQ(engine.SetAppName("x"), 1);
+  EXPECT_EQ(engine.SetAppHelpFile("y"), 1);
+  EXPECT_EQ(engine.SetUomHelpContext(1), 1);
+  EXPECT_EQ(engine.GetAlarms(&alarms), 1);
+  EXPECT_EQ(engine.ShowTraceDlg(), 2);
+  EXPECT_EQ(engine.ShowSelectUomDlg(), 2);
+  EXPECT_EQ(engine.CritT(), 647.126);
+  EXPECT_EQ(customText(0), "A1");
+  EXPECT_EQ(keptCalls(engine), 2);
+}
+
+TEST_F(TraceMembers, SwitchingTracingOffInsideACallLeavesNoDeadNodeToLaterCalls) {
+  engine.call("Outer", [&] {
+    callThatFails();
+    EXPECT_EQ(engine.SetFunctionCallTracing(0), 1);
+    return true;
+  });
+  EXPECT_EQ(engine.SetFunctionCallTracing(1), 1);
+  EXPECT_EQ(engine.TPH(&value, 1.0, -1.0), 0);
+  EXPECT_EQ(traceOf(engine),
+            "Outer\n  HPT\n    error: Temperature parameter out of range (Valid range 260.00 to "
+            "2500.00 K).\nTPH\n  error: Enthalpy parameter out of range.\n");
+  EXPECT_EQ(engine.AddExternalError("Sheet", "It broke."), 1);
 }
 
 TEST_F(TraceMembers, CustomTextsStayWhileTracingIsOff) {
