@@ -95,6 +95,8 @@ TEST_F(RangeLimits, StrictPressureBoundRisesFrom500To1500MPa) {
   EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::HPT, 1500.0, 423.15), pressureWarning));
   EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.1, 423.15), pressureWarning));
   EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.0, 423.14), pressureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.1, 425.0), pressureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.1, 1200.0), pressureWarning));
 }
 
 TEST_F(RangeLimits, WithoutATemperatureTheStrictPressureBoundIsThatOf400K) {
