@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
 #include <random>
 
 #include "diagnostics/thermo_exception.h"
@@ -106,6 +107,70 @@ TEST_F(Acceptance, OfArbitraryPairs) {
         judge(grid, true, T, second, value);
       }
     }
+  }
+}
+
+// The last note of the solver below a call: its evaluations and residuals.
+struct LastSolve {
+  int evaluations = 0;
+  double f[3] = {1e9, 1e9, 1e9};
+};
+
+void read(const ZvFunctionCall& call, LastSolve& solve) {
+  for (const ZvFunctionCall* child = call.firstChild(); child != nullptr;
+       child = child->nextSibling()) {
+    if (child->kind() == ZvFunctionCall::Kind::note) {
+      std::sscanf(std::string(child->text()).c_str(), "Solver : Iter = %d, f() = %le, %le, %le.",
+                  &solve.evaluations, &solve.f[0], &solve.f[1], &solve.f[2]);
+    }
+    read(*child, solve);
+  }
+}
+
+// No search is needed for ordinary states: the minimiser starts near them and ends at them.
+TEST_F(Acceptance, OrdinaryStatesAreFoundByTheMinimiserItself) {
+  Grid grid("solver notes");
+  diagnostics.setLevel(2);
+  const auto expectConverged = [&](const std::string& inputs, auto&& call) {
+    diagnostics.clear();
+    {
+      const ZvFuncTrace trace(diagnostics, "call");
+      call();
+    }
+    LastSolve solve;
+    read(diagnostics.root(), solve);
+    for (const double f : {solve.f[0], solve.f[1]}) grid.near(f, 0.0, 1e-6, 1.0, inputs);
+    grid.holds(solve.evaluations > 0 && solve.evaluations < 120,
+               fmt::format("{}: {} evaluations", inputs, solve.evaluations));
+  };
+  for (const auto& [P, T] : std::vector<std::pair<double, double>>{{0.005, 350.0},
+                                                                   {0.1, 400.0},
+                                                                   {0.1, 900.0},
+                                                                   {1.0, 500.0},
+                                                                   {5.0, 700.0},
+                                                                   {10.0, 773.15},
+                                                                   {0.1, 350.0},
+                                                                   {1.0, 400.0},
+                                                                   {10.0, 450.0},
+                                                                   {20.0, 500.0},
+                                                                   {30.0, 800.0},
+                                                                   {40.0, 450.0}}) {
+    expectConverged(fmt::format("({}, {})", P, T), [&] { model.stateFromPT(P, T); });
+    const double density = model.state().density;
+    for (const Property second : seconds) {
+      const double value = evaluate(second, T, density);
+      const std::string inputs =
+          fmt::format("{} MPa, {} K, property {}", P, T, static_cast<int>(second));
+      expectConverged(inputs + ", from P", [&] { model.stateFromP(P, second, value); });
+      // The enthalpy of a liquid hardly says what its pressure is.
+      if (density > 300.0 && second != Property::density) continue;
+      expectConverged(inputs + ", from T", [&] { model.stateFromT(T, second, value); });
+    }
+  }
+  for (const double T : {280.0, 300.0, 373.15, 450.0, 550.0, 600.0, 640.0}) {
+    double P = 0.0;
+    expectConverged(fmt::format("PSatT({})", T), [&] { P = model.PSatT(T); });
+    expectConverged(fmt::format("TSatP({})", P), [&] { static_cast<void>(model.TSatP(P)); });
   }
 }
 
