@@ -34,6 +34,12 @@ void Diagnostics::setMaxTraceSize(int size) noexcept {
   pool_.prune(*root_);
 }
 
+void Diagnostics::setTracing(int flag) noexcept {
+  // Their own ends will go unrecorded, and later calls must not stand below them.
+  while (flag == 0 && inCall()) leave();
+  tracing_ = flag;
+}
+
 // Calls ------------------------------------------------------------------------------------------
 
 void Diagnostics::enter(std::string_view name) {
@@ -47,7 +53,7 @@ void Diagnostics::enter(std::string_view name) {
 }
 
 void Diagnostics::leave() noexcept {
-  // The depth is 0 when the record was cleared, or tracing switched on, inside the call.
+  // The depth is 0 when the record was cleared, or tracing switched off or on, inside the call.
   if (!tracing() || callDepth_ == 0) return;
   const ZvFunctionCall& finished = *current_;
   current_ = current_->parent_;

@@ -23,7 +23,8 @@ class Diagnostics {
   // Settings ------------------------------------------------------------------------------------
   [[nodiscard]] bool tracing() const noexcept { return tracing_ != 0; }
   [[nodiscard]] int tracingFlag() const noexcept { return tracing_; }
-  void setTracing(int flag) noexcept { tracing_ = flag; }
+  /// Switched off inside a call, it ends the record of all calls that run.
+  void setTracing(int flag) noexcept;
   /// 0 errors only, 1 also warnings, 2 also notes.
   [[nodiscard]] short level() const noexcept { return level_; }
   void setLevel(short level) noexcept { level_ = level; }

@@ -174,12 +174,15 @@ bool ZvThermoInt::onLine(const PropertyMember& member, double* out, double userF
   }
 }
 
-// Whether P is the saturation pressure of T whatever the correlation says, so that the temperature
-// TSatP(P) counts as on the line; the exact pressure is asked for only where it can be.
+// Whether P is the saturation pressure of T whatever the correlation says, or T the saturation
+// temperature of P; both are asked for only where they can be. TSatP stays on the line: the
+// correlation, which has 612.65 Pa at the triple point, has T there from 611.73 Pa on.
 bool ZvThermoInt::isOnLine(double P, double T) {
   if (T < constants::triplePointTemperature || T > constants::criticalTemperature) return false;
   if (std::fabs(1.0 - P / saturation::pressure(T)) >= 0.005) return false;
-  return std::fabs(1.0 - P / steam_.PSatT(T)) < 1e-4;
+  return std::fabs(1.0 - P / steam_.PSatT(T)) < 1e-4 ||
+         (P >= constants::triplePointPressure && P <= constants::criticalPressure &&
+          std::fabs(1.0 - T / steam_.TSatP(P)) < 1e-9);
 }
 
 // The quality of a state off the line is ignored; where it says otherwise than the phase, that is

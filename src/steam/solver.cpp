@@ -13,18 +13,12 @@ namespace calvex {
 
 namespace {
 
-struct Run {
-  ZvSolverCallBack& problem;
-  int stopped = 0;  // the callback's negative flag
-};
-
-int residuals(void* context, int m, int n, const double* x, double* f, int flag) {
-  Run& run = *static_cast<Run*>(context);
+// MINPACK stops at a negative answer and returns it as its status.
+int residuals(void* problem, int m, int n, const double* x, double* f, int flag) {
   double trial[ZvSolver::maxUnknowns];
   std::copy_n(x, n, trial);
-  run.problem.evaluate(m, n, trial, f, flag);
-  if (flag < 0) run.stopped = flag;
-  return flag < 0 ? flag : 0;
+  static_cast<ZvSolverCallBack*>(problem)->evaluate(m, n, trial, f, flag);
+  return std::min(flag, 0);
 }
 
 }  // namespace
@@ -47,15 +41,13 @@ int ZvSolver::Solve(int m, int n) {
   int flag = ZvSolverCallBack::startFlag;
   problem_.evaluate(m, n, x, f, flag);
 
-  Run run{problem_};
-  int status =
-      lmdif(residuals, &run, m, n, x, f, reductionTolerance, tolerance_, orthogonalityTolerance,
-            iterations_ * (n + 1), differenceStep, scale, internalScaling, stepBound, noPrinting,
-            &evaluations, jacobian, m, pivots, qtf, work1, work2, work3, work4);
+  const int status = lmdif(residuals, &problem_, m, n, x, f, reductionTolerance, tolerance_,
+                           orthogonalityTolerance, iterations_ * (n + 1), differenceStep, scale,
+                           internalScaling, stepBound, noPrinting, &evaluations, jacobian, m,
+                           pivots, qtf, work1, work2, work3, work4);
 
   flag = ZvSolverCallBack::finishFlag;
   problem_.evaluate(m, n, x, f, flag);
-  if (run.stopped < 0 && status >= 0) status = run.stopped;
   return status;
 }
 

@@ -297,6 +297,65 @@ TEST(Trace, ClearInsideACallEndsItsRecord) {
   EXPECT_EQ(outline(diagnostics.root()), "call next\n  error failed\n");
 }
 
+TEST(Trace, SwitchingOffInsideCallsEndsTheirRecord) {
+  Diagnostics diagnostics;
+  diagnostics.addColumn("Cell");
+  diagnostics.setColumnText(0, "A1");
+  {
+    const ZvFuncTrace outer(diagnostics, "outer");
+    diagnostics.postError("before");
+    {
+      const ZvFuncTrace inner(diagnostics, "inner");
+      diagnostics.setTracing(0);
+      EXPECT_FALSE(diagnostics.inCall());
+      diagnostics.postError("unheard");
+    }
+  }
+  std::string text = "untouched";
+  ASSERT_TRUE(diagnostics.getColumnText(0, text));
+  EXPECT_EQ(text, "");
+  diagnostics.setTracing(1);
+  EXPECT_FALSE(diagnostics.inCall());
+  failingCall(diagnostics, "next");
+  EXPECT_EQ(outline(diagnostics.root()),
+            "call outer\n  error before\n  call inner\ncall next\n  error failed\n");
+}
+
+TEST(Trace, SwitchingOffInsideACallWithoutMessagesLeavesNothingOfIt) {
+  Diagnostics diagnostics;
+  {
+    const ZvFuncTrace outer(diagnostics, "outer");
+    diagnostics.setTracing(0);
+  }
+  EXPECT_EQ(outline(diagnostics.root()), "");
+  EXPECT_TRUE(diagnostics.addExternalError("Sheet", "It broke."));
+}
+
+TEST(Trace, SwitchingOffAndOnInsideACallTracesTheRestOfItByItself) {
+  Diagnostics diagnostics;
+  {
+    const ZvFuncTrace outer(diagnostics, "outer");
+    diagnostics.setTracing(0);
+    diagnostics.setTracing(1);
+    failingCall(diagnostics, "nested");
+  }
+  EXPECT_FALSE(diagnostics.inCall());
+  failingCall(diagnostics, "next");
+  EXPECT_EQ(outline(diagnostics.root()),
+            "call nested\n  error failed\ncall next\n  error failed\n");
+}
+
+TEST(Trace, SwitchingOnAgainInsideACallKeepsItsRecord) {
+  Diagnostics diagnostics;
+  {
+    const ZvFuncTrace outer(diagnostics, "outer");
+    diagnostics.setTracing(5);
+    EXPECT_TRUE(diagnostics.inCall());
+    diagnostics.postError("heard");
+  }
+  EXPECT_EQ(outline(diagnostics.root()), "call outer\n  error heard\n");
+}
+
 TEST(Trace, ResetRestoresEveryDefault) {
   Diagnostics diagnostics;
   diagnostics.setupCellColumns();

@@ -1,6 +1,7 @@
 // Numbers that no client should give: every member answers with a finite value or a reason.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cfloat>
 
 #include "support/engine.h"
@@ -37,21 +38,30 @@ class HostileNumbers : public testing::Test {
  protected:
   ZvThermoInt engine;
 
-  // Calls the member and judges its answer.
-  template <class Call>
-  void judge(Grid& grid, const std::string& inputs, Call call) {
-    double value = untouched;
+  // Calls the member, which has so many outputs, and judges each of them.
+  template <std::size_t outputs, class Call>
+  void judgeAll(Grid& grid, const std::string& inputs, Call call) {
+    std::array<double, outputs> values;
+    values.fill(untouched);
     engine.ClearTraceInfo();
-    const int success = call(&value);
+    const int success = call(values.data());
     grid.holds(success == 0 || success == 1, inputs + ": answers neither 0 nor 1");
-    if (success == 1) {
-      grid.holds(std::isfinite(value), fmt::format("{}: succeeds with {}", inputs, value));
-      grid.holds(value != untouched, inputs + ": succeeds and writes nothing");
-    } else {
-      grid.holds(value == untouched, fmt::format("{}: fails and writes {}", inputs, value));
+    for (const double value : values) {
+      if (success == 1) {
+        grid.holds(std::isfinite(value), fmt::format("{}: succeeds with {}", inputs, value));
+        grid.holds(value != untouched, inputs + ": succeeds and does not write all");
+      } else {
+        grid.holds(value == untouched, fmt::format("{}: fails and writes {}", inputs, value));
+      }
+    }
+    if (success == 0) {
       grid.holds(!engine.LastError().empty(), inputs + ": fails without a reason");
     }
     grid.holds(!engine.diagnostics().inCall(), inputs + ": leaves a call open");
+  }
+  template <class Call>
+  void judge(Grid& grid, const std::string& inputs, Call call) {
+    judgeAll<1>(grid, inputs, call);
   }
 };
 
@@ -89,19 +99,41 @@ TEST_F(HostileNumbers, InTheMembersOfSeveralResults) {
         judge(grid, fmt::format("HPTQ({}, {}, {})", first, second, third),
               [&](double* value) { return engine.HPTQ(value, first, second, third); });
       }
-      double a = untouched, b = untouched, c = untouched;
-      judge(grid, fmt::format("QT_PH({}, {})", first, second),
-            [&](double* value) { return engine.QT_PH(&a, value, first, second); });
-      judge(grid, fmt::format("QTS_PH({}, {})", first, second),
-            [&](double* value) { return engine.QTS_PH(&a, &b, value, first, second); });
-      judge(grid, fmt::format("QTR_PH({}, {})", first, second),
-            [&](double* value) { return engine.QTR_PH(&a, &b, value, first, second); });
-      judge(grid, fmt::format("HVLTSat_PQ({}, {})", first, second),
-            [&](double* value) { return engine.HVLTSat_PQ(&a, &b, &c, value, first, second); });
-      grid.holds(std::isfinite(a) && std::isfinite(b) && std::isfinite(c),
-                 fmt::format("an output of ({}, {}) is no number", first, second));
+      judgeAll<2>(grid, fmt::format("QT_PH({}, {})", first, second),
+                  [&](double* x) { return engine.QT_PH(x, x + 1, first, second); });
+      judgeAll<3>(grid, fmt::format("QTS_PH({}, {})", first, second),
+                  [&](double* x) { return engine.QTS_PH(x, x + 1, x + 2, first, second); });
+      judgeAll<3>(grid, fmt::format("QTR_PH({}, {})", first, second),
+                  [&](double* x) { return engine.QTR_PH(x, x + 1, x + 2, first, second); });
+      judgeAll<4>(grid, fmt::format("HVLTSat_PQ({}, {})", first, second), [&](double* x) {
+        return engine.HVLTSat_PQ(x, x + 1, x + 2, x + 3, first, second);
+      });
     }
   }
+}
+
+// A result that its unit cannot hold fails the whole call, whichever of the results it is.
+TEST_F(HostileNumbers, InUnitsThatMakeAnyOneResultInfinite) {
+  ASSERT_EQ(engine.SetAppLevel(3), 1);
+  Grid grid("results that are too large");
+  const auto judgeBoth = [&](short group) {
+    ASSERT_EQ(engine.SetCustomUserUnitIndex(group, "tiny", 1e-320, 0.0), 1);
+    // Only results have these groups, or a zero.
+    for (const double P : {1.0, 30.0}) {
+      judgeAll<2>(grid, fmt::format("QT_PH({}, 0), group {}", P, group),
+                  [&](double* x) { return engine.QT_PH(x, x + 1, P, 0.0); });
+      judgeAll<3>(grid, fmt::format("QTS_PH({}, 0), group {}", P, group),
+                  [&](double* x) { return engine.QTS_PH(x, x + 1, x + 2, P, 0.0); });
+      judgeAll<3>(grid, fmt::format("QTR_PH({}, 0), group {}", P, group),
+                  [&](double* x) { return engine.QTR_PH(x, x + 1, x + 2, P, 0.0); });
+    }
+    judgeAll<4>(grid, fmt::format("HVLTSat_PQ(1, 0), group {}", group),
+                [&](double* x) { return engine.HVLTSat_PQ(x, x + 1, x + 2, x + 3, 1.0, 0.0); });
+    ASSERT_EQ(engine.SetCustomUserUnitIndex(group, "unit", 1.0, 0.0), 1);
+  };
+  for (const short group : {short{0}, short{2}, short{4}, short{5}}) judgeBoth(group);
+  ASSERT_EQ(engine.SetCustomUserUnitIndex(5, "tiny", 1e-320, 0.0), 1);
+  EXPECT_EQ(errorOf(engine, &ZvThermoInt::HSatPQ, 1.0, 0.0), "Solution Error.");
 }
 
 TEST_F(HostileNumbers, WithThePolishOff) {

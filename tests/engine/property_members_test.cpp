@@ -396,6 +396,35 @@ TEST(PropertyMembers, HPTQOnTheLineIsHSatPQWhateverThePolish) {
   }
 }
 
+// The correlation has 612.65 Pa at the triple point, whose pressure is 611.73 Pa: there its inverse
+// stays at the triple point's temperature.
+TEST(PropertyMembers, HPTQSeesTheLineWhereTheCorrelationMissesTheTriplePoint) {
+  ZvThermoInt engine;
+  for (const int polish : {0, 1}) {
+    engine.SetSatPolish(polish);
+    for (const char* unit : {"K", "C"}) {
+      ASSERT_EQ(engine.SetUserUnit("T", unit), 1);
+      for (double P = 611.73e-6; P < 612.66e-6; P += 0.05e-6) {
+        const double T = valueOf(engine, &ZvThermoInt::TSatP, P);
+        EXPECT_EQ(valueOf(engine, &ZvThermoInt::HPTQ, P, T, 0.3),
+                  valueOf(engine, &ZvThermoInt::HSatPQ, P, 0.3))
+            << P << " MPa, " << T << ' ' << unit << ", SatPolish " << polish;
+      }
+    }
+  }
+}
+
+TEST(PropertyMembers, HPTQNextToTheTriplePointIsOffTheLineAgain) {
+  ZvThermoInt engine;
+  for (const int polish : {0, 1}) {
+    engine.SetSatPolish(polish);
+    EXPECT_EQ(valueOf(engine, &ZvThermoInt::HPTQ, 612e-6, 273.2, 0.3),
+              valueOf(engine, &ZvThermoInt::HPT, 612e-6, 273.2));
+    EXPECT_EQ(valueOf(engine, &ZvThermoInt::HPTQ, 611e-6, 273.16, 0.3),
+              valueOf(engine, &ZvThermoInt::HPT, 611e-6, 273.16));
+  }
+}
+
 TEST(PropertyMembers, HPTQOnTheCorrelatedLineIsHSatPQ) {
   ZvThermoInt engine;
   for (const double T : {300.0, 400.0, 500.0, 600.0}) {

@@ -95,6 +95,8 @@ TEST_F(RangeLimits, StrictPressureBoundRisesFrom500To1500MPa) {
   EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::HPT, 1500.0, 423.15), pressureWarning));
   EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.1, 423.15), pressureWarning));
   EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.0, 423.14), pressureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.1, 425.0), pressureWarning));
+  EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 1500.1, 1200.0), pressureWarning));
 }
 
 TEST_F(RangeLimits, WithoutATemperatureTheStrictPressureBoundIsThatOf400K) {
@@ -305,6 +307,122 @@ TEST_F(RangeLimits, TheSaturatedTripleOfEnthalpiesChecksPressureAndQuality) {
   EXPECT_EQ(hVap, untouched);
   EXPECT_EQ(hLiq, untouched);
   EXPECT_EQ(tSat, untouched);
+}
+
+// Two inputs out of range: the one that is told is the one that is checked first.
+TEST_F(RangeLimits, MembersOfSeveralResultsCheckPressureBeforeEnthalpy) {
+  double a = untouched, b = untouched, c = untouched;
+  const auto errorsOf = [&](double P, double h) {
+    std::vector<std::string> errors;
+    const auto call = [&](auto&& member) {
+      engine.ClearTraceInfo();
+      EXPECT_EQ(member(), 0);
+      errors.push_back(engine.LastError());
+    };
+    call([&] { return engine.QT_PH(&a, &b, P, h); });
+    call([&] { return engine.QTS_PH(&a, &b, &c, P, h); });
+    call([&] { return engine.QTR_PH(&a, &b, &c, P, h); });
+    return errors;
+  };
+  const auto thrice = [](const std::string& error) { return std::vector<std::string>(3, error); };
+  const std::string pressure = "Pressure parameter out of range (Valid range 0.00 to 3000.00 MPa).";
+  EXPECT_EQ(errorsOf(-1.0, -1.0), thrice(pressure));
+  EXPECT_EQ(errorsOf(-1e-9, 500.0), thrice(pressure));
+  EXPECT_EQ(errorsOf(3000.01, 500.0), thrice(pressure));
+  EXPECT_EQ(errorsOf(1.0, -1e-9), thrice("Enthalpy parameter out of range."));
+  EXPECT_EQ(a, untouched);
+  EXPECT_EQ(b, untouched);
+  EXPECT_EQ(c, untouched);
+}
+
+TEST_F(RangeLimits, MembersOfSeveralResultsHaveTheStrictPressureOf400K) {
+  engine.SetTraceLevel(1);
+  double a = untouched, b = untouched, c = untouched;
+  const auto warns = [&](auto&& member) {
+    engine.ClearTraceInfo();
+    member();
+    return contains(traceOf(engine), pressureWarning);
+  };
+  for (const auto& [P, beyond] : {std::pair{1345.6, false}, {1345.7, true}}) {
+    EXPECT_EQ(warns([&] { engine.QT_PH(&a, &b, P, 2000.0); }), beyond);
+    EXPECT_EQ(warns([&] { engine.QTS_PH(&a, &b, &c, P, 2000.0); }), beyond);
+    EXPECT_EQ(warns([&] { engine.QTR_PH(&a, &b, &c, P, 2000.0); }), beyond);
+  }
+}
+
+TEST_F(RangeLimits, SaturationMembersCheckTheirPointBeforeTheQuality) {
+  for (const PairMember& member : saturationMembers()) {
+    const bool fromT = member.name[4] == 'T';
+    EXPECT_TRUE(errorOf(engine, member.call, fromT ? 648.0 : 23.0, 2.0)
+                    .starts_with(fromT ? "Temperature " : "Press"))
+        << member.name;
+  }
+  double h = untouched, hVap = untouched, hLiq = untouched, tSat = untouched;
+  for (const double P : {23.0, 0.0006}) {
+    engine.ClearTraceInfo();
+    EXPECT_EQ(engine.HVLTSat_PQ(&h, &hVap, &hLiq, &tSat, P, 2.0), 0);
+    EXPECT_EQ(engine.LastError(),
+              "Pressure parameter out of range (Valid range 0.00 to 22.05 MPa).");
+  }
+  for (const double Q : {-1e-9, 1.0 + 1e-9}) {
+    engine.ClearTraceInfo();
+    EXPECT_EQ(engine.HVLTSat_PQ(&h, &hVap, &hLiq, &tSat, 1.0, Q), 0);
+    EXPECT_EQ(engine.LastError(),
+              "Quality parameter out of range (Valid range 0.00 to 1.00 Fraction).");
+  }
+}
+
+TEST_F(RangeLimits, SaturationBoundsAreInclusive) {
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::PSatT, tripleT)) << engine.LastError();
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::PSatT, criticalT)) << engine.LastError();
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::TSatP, tripleP)) << engine.LastError();
+  EXPECT_TRUE(succeeds(engine, &ZvThermoInt::TSatP, criticalP)) << engine.LastError();
+  for (const PairMember& member : saturationMembers()) {
+    const bool fromT = member.name[4] == 'T';
+    for (const double bound : {fromT ? tripleT : tripleP, fromT ? criticalT : criticalP}) {
+      engine.ClearTraceInfo();
+      double value = untouched;
+      (engine.*member.call)(&value, bound, 0.5);
+      EXPECT_FALSE(contains(engine.LastError(), "out of range"))
+          << member.name << " at " << bound << ": " << engine.LastError();
+    }
+  }
+  double h = untouched, hVap = untouched, hLiq = untouched, tSat = untouched;
+  for (const double Q : {0.0, 1.0}) {
+    EXPECT_EQ(engine.HVLTSat_PQ(&h, &hVap, &hLiq, &tSat, tripleP, Q), 1) << engine.LastError();
+  }
+}
+
+// What lies outside the hard range lies outside the strict one too; only the error is told.
+TEST_F(RangeLimits, AHardErrorComesWithoutAStrictWarning) {
+  const auto expectAnErrorAlone = [&](PairOperation member, double first, double second) {
+    const std::string trace = warningsOf(member, first, second);
+    EXPECT_TRUE(contains(trace, "error: ")) << trace;
+    EXPECT_FALSE(contains(trace, "warning: ")) << trace;
+  };
+  for (const PairMember& member : pairMembers()) {
+    const bool fromT = member.first() == 'T';
+    if (member.isFromPT()) {
+      expectAnErrorAlone(member.call, 1.0, 259.0);
+      expectAnErrorAlone(member.call, 1.0, 2501.0);
+      expectAnErrorAlone(member.call, 3001.0, 500.0);
+      expectAnErrorAlone(member.call, -1.0, 500.0);
+      continue;
+    }
+    for (const double first : {fromT ? 259.0 : -1.0, fromT ? 2501.0 : 3001.0}) {
+      expectAnErrorAlone(member.call, first, 1.0);
+    }
+  }
+  // Of the viscosity, above 100 MPa is a warning, and above the limit of the temperature an error.
+  expectAnErrorAlone(&ZvThermoInt::MPT, 351.0, 500.0);
+  expectAnErrorAlone(&ZvThermoInt::MPT, 1001.0, 300.0);
+  expectAnErrorAlone(&ZvThermoInt::MPT, 101.0, 900.0);
+}
+
+TEST_F(RangeLimits, AStrictWarningOfOneInputStandsBeforeTheErrorOfTheNext) {
+  EXPECT_EQ(warningsOf(&ZvThermoInt::HPT, 3001.0, 1300.0),
+            "HPT\n  warning: " + temperatureWarning +
+                "\n  error: Pressure parameter out of range (Valid range 0.00 to 3000.00 MPa).\n");
 }
 
 TEST_F(RangeLimits, AnErrorMakesOneNodeAtAnyLevel) {

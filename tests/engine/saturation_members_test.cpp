@@ -2,6 +2,8 @@
 // levels of accuracy.
 #include <gtest/gtest.h>
 
+#include <ctime>
+
 #include "steam/property.h"
 #include "support/engine.h"
 #include "support/failures.h"
@@ -183,6 +185,38 @@ TEST(SaturationMembers, MixturesFromTemperatureAndPressureAgree) {
       }
     }
   }
+}
+
+// The lines that a call leaves, with the numbers of the notes cut off.
+std::vector<std::string> outlineOf(const ZvThermoInt& engine) {
+  std::vector<std::string> lines;
+  const std::string trace = traceOf(engine);
+  for (std::size_t begin = 0; begin < trace.size();) {
+    const std::size_t end = trace.find('\n', begin);
+    const std::string line = trace.substr(begin, end - begin);
+    lines.push_back(line.substr(0, std::min(line.find(" ="), line.find(" :"))));
+    begin = end + 1;
+  }
+  return lines;
+}
+
+TEST(SaturationMembers, PSatTNotesTheProcessorTimeBeforeAndAfterItsSolve) {
+  ZvThermoInt engine;
+  engine.SetTraceLevel(2);
+  engine.ClearTraceInfo();
+  const std::clock_t before = std::clock();
+  valueOf(engine, &ZvThermoInt::PSatT, 450.0);
+  const std::clock_t after = std::clock();
+  ASSERT_EQ(outlineOf(engine), (std::vector<std::string>{"PSatT", "  note: Time", "  PSatT",
+                                                         "    note: Solver", "  note: Time"}));
+  const ZvFunctionCall* first = engine.diagnostics().root().firstChild()->firstChild();
+  const ZvFunctionCall* second = first->nextSibling()->nextSibling();
+  const auto clockOf = [](const ZvFunctionCall& note) {
+    return std::stol(std::string(note.text().substr(7)));
+  };
+  EXPECT_LE(before, clockOf(*first));
+  EXPECT_LE(clockOf(*first), clockOf(*second));
+  EXPECT_LE(clockOf(*second), after);
 }
 
 TEST(SaturationMembers, ProcessorTimeNotesBelongToTheHighestLevel) {

@@ -153,6 +153,62 @@ TEST_F(TraceMembers, SaturationRoutinesHaveTheirOwnEntries) {
   }
 }
 
+// The calls of a record, nested in parentheses: "HSatTQ(HSatTQ(PSatT))".
+std::string callsOf(const ZvFunctionCall& call) {
+  std::string nested;
+  for (const ZvFunctionCall* child = call.firstChild(); child != nullptr;
+       child = child->nextSibling()) {
+    if (child->kind() != ZvFunctionCall::Kind::call) continue;
+    nested += (nested.empty() ? "" : " ") + callsOf(*child);
+  }
+  return std::string(call.text()) + (nested.empty() ? "" : "(" + nested + ")");
+}
+
+TEST_F(TraceMembers, InnerNodesCarryTheNamesOfTheirRoutines) {
+  engine.SetTraceLevel(2);
+  double a = 0.0, b = 0.0, c = 0.0;
+  const auto expectCalls = [&](const std::string& calls, int success) {
+    EXPECT_EQ(success, 1) << engine.LastError();
+    EXPECT_EQ(keptCalls(engine), 1);
+    EXPECT_EQ(callsOf(*engine.diagnostics().root().firstChild()), calls);
+    engine.ClearTraceInfo();
+  };
+  engine.ClearTraceInfo();
+  for (const PairMember& member : saturationMembers()) {
+    const bool fromT = member.name[4] == 'T';
+    // The V members mix densities.
+    std::string routine(member.name);
+    if (member.result() == 'V') routine[0] = 'R';
+    expectCalls(fmt::format("{}({}({}))", member.name, routine, fromT ? "PSatT" : "TSatP"),
+                (engine.*member.call)(&value, fromT ? 450.0 : 1.0, 0.5));
+  }
+  expectCalls("PSatT(PSatT)", engine.PSatT(&value, 450.0));
+  expectCalls("TSatP(TSatP)", engine.TSatP(&value, 1.0));
+  expectCalls("HVLTSat_PQ(TSatP)", engine.HVLTSat_PQ(&value, &a, &b, &c, 1.0, 0.5));
+  expectCalls("HPT", engine.HPT(&value, 1.0, 800.0));
+  expectCalls("TPH", engine.TPH(&value, 30.0, 3000.0));
+  expectCalls("QTS_PH(HSat_PH(TSatP))", engine.QTS_PH(&value, &a, &b, 1.0, 1500.0));
+  for (const auto& [member, routine, first, second] :
+       std::vector<std::tuple<PairOperation, std::string, double, double>>{
+           {&ZvThermoInt::QPH, "HSat_PH(TSatP)", 1.0, 1500.0},
+           {&ZvThermoInt::QPS, "SSat_PS(TSatP)", 1.0, 4.0},
+           {&ZvThermoInt::QPU, "USat_PU(TSatP)", 1.0, 1500.0},
+           {&ZvThermoInt::QPR, "RSat_PR(TSatP)", 1.0, 50.0},
+           {&ZvThermoInt::QPV, "RSat_PR(TSatP)", 1.0, 0.02},
+           {&ZvThermoInt::QTH, "HSat_TH(PSatT)", 450.0, 1500.0},
+           {&ZvThermoInt::QTS, "SSat_TS(PSatT)", 450.0, 4.0},
+           {&ZvThermoInt::QTU, "USat_TU(PSatT)", 450.0, 1500.0},
+           {&ZvThermoInt::QTR, "RSat_TR(PSatT)", 450.0, 50.0},
+           {&ZvThermoInt::QTV, "RSat_TR(PSatT)", 450.0, 0.02}}) {
+    const int success = (engine.*member)(&value, first, second);
+    const ZvFunctionCall* call = engine.diagnostics().root().firstChild();
+    ASSERT_NE(call, nullptr);
+    expectCalls(std::string(call->text()) + "(" + routine + ")", success);
+  }
+  expectCalls("HPU(USat_PU(TSatP) HSatPQ(HSatPQ(TSatP)))", engine.HPU(&value, 1.0, 1500.0));
+  expectCalls("PTS(SSat_TS(PSatT) PSatT(PSatT))", engine.PTS(&value, 450.0, 4.0));
+}
+
 TEST_F(TraceMembers, ClearingEmptiesTraceLastErrorAndCustomTexts) {
   engine.AddCustomTraceTitle("Cell");
   callThatFails();
@@ -235,6 +291,54 @@ TEST_F(TraceMembers, TracedPutsEmptyCustomTexts) {
   EXPECT_TRUE(emptiedBy([&] { engine.SetUserUnit("T", "K"); }));
   EXPECT_TRUE(emptiedBy([&] { engine.GetUserUnit("T", &text); }));
   EXPECT_TRUE(emptiedBy([&] { engine.Convert("T", "K", "C", 1.0, &value); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetUserUnitIndex(0, "K"); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.GetUserUnitIndex(0, &text); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetCustomUserUnitIndex(0, "K", 1.0, 0.0); }));
+  // Also when they refuse, with or without a word.
+  EXPECT_TRUE(emptiedBy([&] { engine.SetSolverTol(1.0); }));
+  EXPECT_TRUE(emptiedBy([&] { engine.SetCustomUserUnitIndex(27, "K", 1.0, 0.0); }));
+}
+
+TEST_F(TraceMembers, WhatIsNotTracedKeepsCustomTextsAndTheOldestCall) {
+  engine.AddCustomTraceTitle("Cell");
+  engine.SetMaxTraceSize(2);
+  callThatFails();
+  callThatFails();
+  engine.SetCustomTraceText(0, "A1");
+  ResultArray alarms;
+  EXPECT_EQ(engine.SetAppLevel(2), 1);
+  EXPECT_EQ(engine.SetAppLevel(0), 1);
+  EXPECT_EQ(engine.SetAppLevel(3), 1);
+  EXPECT_EQ(engine.SetAppLevel(1), 0);
+  EXPECT_EQ(engine.SetAppLevel(4), 0);
+  EXPECT_EQ(engine.SetAppLevel(2), 1);
+  EXPECT_EQ(engine.SetReturnModelUnits(1), 1);
+  EXPECT_EQ(engine.SetReturnThermoUnits(1), 1);
+  EXPECT_EQ(engine.SetReturnModelTokens(1), 1);
+  EXPECT_EQ(engine.SetFunctionCallTracing(1), 1);
+  EXPECT_EQ(engine.SetAppName("x"), 1);
+  EXPECT_EQ(engine.SetAppHelpFile("y"), 1);
+  EXPECT_EQ(engine.SetUomHelpContext(1), 1);
+  EXPECT_EQ(engine.GetAlarms(&alarms), 1);
+  EXPECT_EQ(engine.ShowTraceDlg(), 2);
+  EXPECT_EQ(engine.ShowSelectUomDlg(), 2);
+  EXPECT_EQ(engine.CritT(), 647.126);
+  EXPECT_EQ(customText(0), "A1");
+  EXPECT_EQ(keptCalls(engine), 2);
+}
+
+TEST_F(TraceMembers, SwitchingTracingOffInsideACallLeavesNoDeadNodeToLaterCalls) {
+  engine.call("Outer", [&] {
+    callThatFails();
+    EXPECT_EQ(engine.SetFunctionCallTracing(0), 1);
+    return true;
+  });
+  EXPECT_EQ(engine.SetFunctionCallTracing(1), 1);
+  EXPECT_EQ(engine.TPH(&value, 1.0, -1.0), 0);
+  EXPECT_EQ(traceOf(engine),
+            "Outer\n  HPT\n    error: Temperature parameter out of range (Valid range 260.00 to "
+            "2500.00 K).\nTPH\n  error: Enthalpy parameter out of range.\n");
+  EXPECT_EQ(engine.AddExternalError("Sheet", "It broke."), 1);
 }
 
 TEST_F(TraceMembers, CustomTextsStayWhileTracingIsOff) {
@@ -387,8 +491,51 @@ TEST_F(TraceMembers, AFailedCallKeepsTheStoredState) {
   EXPECT_NEAR(before.temperature, 773.15, 1e-6);
   EXPECT_EQ(engine.HPT(&value, 0.0, 500.0), 0);
   EXPECT_EQ(engine.HPT(&value, correlatedPSat(450.0), 450.0), 0);
+  // No steam is so hot: the solver runs, to no state.
+  engine.SetTraceLevel(2);
+  for (const auto& [member, first, second] :
+       std::vector<std::tuple<PairOperation, double, double>>{{&ZvThermoInt::TPH, 30.0, 9000.0},
+                                                              {&ZvThermoInt::TPS, 30.0, 16.0},
+                                                              {&ZvThermoInt::TPU, 30.0, 9000.0},
+                                                              {&ZvThermoInt::PTS, 700.0, 0.5}}) {
+    EXPECT_EQ(errorOf(engine, member, first, second), "Solution Error.");
+    EXPECT_TRUE(contains(traceOf(engine), "note: Solver : ")) << traceOf(engine);
+  }
   EXPECT_EQ(engine.steam().state().temperature, before.temperature);
   EXPECT_EQ(engine.steam().state().density, before.density);
+  EXPECT_EQ(engine.steam().state().quality, before.quality);
+}
+
+// Evaluations of a call's solves, by their notes.
+int evaluationsOf(const ZvFunctionCall& call) {
+  int sum = 0;
+  for (const ZvFunctionCall* child = call.firstChild(); child != nullptr;
+       child = child->nextSibling()) {
+    int evaluations = 0;
+    if (child->kind() == ZvFunctionCall::Kind::note) {
+      std::sscanf(std::string(child->text()).c_str(), "Solver : Iter = %d", &evaluations);
+    }
+    sum += evaluations + evaluationsOf(*child);
+  }
+  return sum;
+}
+
+TEST_F(TraceMembers, ToleranceAndIterationsReachTheSolver) {
+  engine.SetTraceLevel(2);
+  const auto evaluations = [&](double h) {
+    engine.ClearTraceInfo();
+    engine.TPH(&value, 30.0, h);
+    return evaluationsOf(engine.diagnostics().root());
+  };
+  std::array<int, 3> all{};
+  const std::array<double, 3> tolerances{0.99e-6, 1e-9, 1.1e-14};
+  for (std::size_t i = 0; i < tolerances.size(); ++i) {
+    ASSERT_EQ(engine.SetSolverTol(tolerances.at(i)), 1);
+    for (double h = 200.0; h < 4000.0; h += 100.0) all.at(i) += evaluations(h);
+  }
+  EXPECT_GT(all[0], 0);
+  EXPECT_LT(all[0], all[1]);
+  EXPECT_LT(all[1], all[2]);
 }
 
 }  // namespace

@@ -20,6 +20,7 @@ struct Problem : ZvSolverCallBack {
   double x[2] = {1.0, 1.0};
   int evaluations = 0;
   int stopAfter = 1 << 30;
+  int stop = -2;
 
   explicit Problem(Residuals r) : residuals(r) {}
   void evaluate(int /*m*/, int n, double* at, double* f, int& flag) override {
@@ -32,7 +33,7 @@ struct Problem : ZvSolverCallBack {
       return;
     }
     residuals(at, f);
-    if (++evaluations >= stopAfter) flag = -2;
+    if (++evaluations >= stopAfter) flag = stop;
   }
 };
 
@@ -71,12 +72,33 @@ TEST(Solver, BeginsWith800IterationsAndATolerance) {
   EXPECT_EQ(solver.tolerance(), 1e-9);
 }
 
-TEST(Solver, AnswersTheNegativeFlagThatStoppedIt) {
-  Problem problem(circleAndLine);
-  problem.stopAfter = 4;
-  ZvSolver solver(problem);
-  EXPECT_EQ(solver.Solve(2, 2), -2);
-  EXPECT_EQ(problem.evaluations, 4);
+// In the first evaluation, among those of a Jacobian, and in a step.
+TEST(Solver, AnswersTheNegativeFlagThatStoppedItAtOnce) {
+  for (int evaluation = 1; evaluation <= 12; ++evaluation) {
+    for (const int stop : {-1, -2}) {
+      Problem problem(circleAndLine);
+      problem.stopAfter = evaluation;
+      problem.stop = stop;
+      ZvSolver solver(problem);
+      EXPECT_EQ(solver.Solve(2, 2), stop);
+      EXPECT_EQ(problem.evaluations, evaluation);
+    }
+  }
+}
+
+TEST(Solver, StepsUntilTheToleranceIsMet) {
+  int last = 0;
+  for (const double tolerance : {0.99e-6, 1e-9, 1.1e-14}) {
+    Problem problem([](const double* x, double* f) {  // a double root: every step halves the error
+      f[0] = (x[0] - 3.0) * (x[0] - 3.0);
+      f[1] = x[1] - 1.0;
+    });
+    ZvSolver solver(problem);
+    ASSERT_TRUE(solver.setTolerance(tolerance));
+    static_cast<void>(solver.Solve(2, 2));
+    EXPECT_GT(problem.evaluations, last) << tolerance;
+    last = problem.evaluations;
+  }
 }
 
 TEST(Solver, KeepsItsSettingsWhenNewOnesAreOutOfRange) {

@@ -101,8 +101,9 @@ class AutomationUnitsServer final : public UnitsServer {
 
   bool declareGroup(std::string_view group, std::string_view internalUnit) override {
     short status = 0;
-    return call(registerGroup, group, true, &status) &&
-           call(declareInternalUnit, group, internalUnit, &status);
+    // A server that knows the group already refuses to register it, and still needs the unit.
+    const bool registered = call(registerGroup, group, true, &status);
+    return call(declareInternalUnit, group, internalUnit, &status) && registered;
   }
   bool setUserUnit(std::string_view group, std::string_view unit, short& status) override {
     return call(setUnit, group, unit, &status);

@@ -2,6 +2,8 @@
 // test's own under that program's name.
 #include <fmt/format.h>
 
+#include <algorithm>
+
 #include "client.h"
 #include "support/table.h"
 
@@ -173,6 +175,18 @@ TEST_F(UnitsMode, IsEnteredWithTheSetUpAndAllGroups) {
   log.clear();
   EXPECT_EQ(steam->put_AppLevel(1), S_OK);  // as it is
   EXPECT_EQ(log, Log());
+}
+
+TEST_F(UnitsMode, DeclaresTheInternalUnitOfAGroupThatTheServerRefusesToRegister) {
+  units.refused = 7;
+  EXPECT_EQ(steam->put_AppLevel(1), S_OK);
+  EXPECT_EQ(mode(), 1);
+  for (const Row& row : readTable("unit-groups.csv")) {
+    EXPECT_EQ(std::ranges::count(log, fmt::format("17: '{}' '{}' &short", row.text("name"),
+                                                  row.text("internal unit"))),
+              1)
+        << row.text("name");
+  }
 }
 
 TEST_F(UnitsMode, ConvertsThroughTheServer) {
