@@ -1,10 +1,9 @@
 // The property members: one protocol over one table.
 #include "engine/property_members.h"
 
-#include <fmt/printf.h>
-
 #include <cmath>
 
+#include "diagnostics/formatting.h"
 #include "engine/thermo_engine.h"
 #include "steam/constants.h"
 #include "steam/saturation_correlations.h"
