@@ -13,6 +13,7 @@
 #include "engine/thermo_engine.h"
 #include "equipment/brent.h"
 #include "equipment/model_results.h"
+#include "equipment/plausibility.h"
 #include "steam/solver.h"
 
 namespace calvex {
@@ -140,6 +141,15 @@ struct Ejector {
     return EjectorBalance(engine, dhIs, R, model.Hms, model.Hss, user.Pss, user.Pds);
   }
 
+  // The pressures' order, for warnings and for the cause of a failure.
+  template <class Report>
+  void judge(Report report) const {
+    using namespace plausibility;
+    report(engine, {{motiveTooWeak, model.pMs, model.Pss},
+                    {dischargeAboveMotive, model.Pds, model.pMs},
+                    {dischargeBelowSuction, model.Pds, model.Pss}});
+  }
+
   // Written so that a NaN fails.
   bool validEfficiency(double etaD) const {
     if (!(etaD <= 1.0)) return engine.fail("Calculated diffuser efficiency greater than 1.0 !");
@@ -188,13 +198,19 @@ int ThermoCompA(ZvThermoInt& engine, double* pHOut, double* pPerfF, double* pERa
     if (!ejector.valid()) return false;
     if (!(R >= 0.0)) return engine.fail("Motive/Suction steam ratio must be non-negative!");
 
-    const std::optional<double> dhIs = ejector.isentropicDrop();
-    if (!dhIs) return false;
-    const std::optional<Mixing> mixing = ejector.balance(*dhIs, R);
-    if (!mixing || !ejector.validEfficiency(mixing->etaD)) return false;
-    const double pf =
-        PerformanceFactor(engine.diagnostics(), *mixing).solve(engine.steam().solver());
-    return ejector.give(pHOut, R, pPerfF, pf, pERatio, pCRatio);
+    return explained(
+        engine,
+        [&] {
+          const std::optional<double> dhIs = ejector.isentropicDrop();
+          if (!dhIs) return false;
+          const std::optional<Mixing> mixing = ejector.balance(*dhIs, R);
+          if (!mixing || !ejector.validEfficiency(mixing->etaD)) return false;
+          const double pf =
+              PerformanceFactor(engine.diagnostics(), *mixing).solve(engine.steam().solver());
+          ejector.judge(warnIfBroken);
+          return ejector.give(pHOut, R, pPerfF, pf, pERatio, pCRatio);
+        },
+        [&] { ejector.judge(explainFailure); });
   });
 }
 
@@ -212,26 +228,34 @@ int ThermoCompB(ZvThermoInt& engine, double* pHOut, double* pRs, double* pERatio
       return false;
     }
 
-    const std::optional<double> dhIs = ejector.isentropicDrop();
-    if (!dhIs) return false;
-    double etaD = 0.0;  // of the last evaluation
-    const auto g = [&](double R) -> std::optional<double> {
-      const std::optional<Mixing> mixing = ejector.balance(*dhIs, R);
-      if (!mixing) return std::nullopt;
-      etaD = mixing->etaD;
-      return etaD - DiffuserCorrelation(pf, mixing->ke);
-    };
+    return explained(
+        engine,
+        [&] {
+          const std::optional<double> dhIs = ejector.isentropicDrop();
+          if (!dhIs) return false;
+          double etaD = 0.0;  // of the last evaluation
+          const auto g = [&](double R) -> std::optional<double> {
+            const std::optional<Mixing> mixing = ejector.balance(*dhIs, R);
+            if (!mixing) return std::nullopt;
+            etaD = mixing->etaD;
+            return etaD - DiffuserCorrelation(pf, mixing->ke);
+          };
 
-    constexpr double aMin = 0.8;
-    constexpr double b = 4.0;
-    const double a = 1.0 / (std::sqrt(*dhIs / ejector.model.Hss) + 1.0) + 0.0001;
-    if (std::isnan(a)) return engine.fail(Message::solutionError);  // no drop to suction pressure
-    const std::optional<Bracket> bracket = bracketRatio(g, a < aMin ? aMin : a, b);
-    if (!bracket) return false;
-    if (!bracketsRoot(*bracket)) return engine.fail("Unable to bracket the root of the equations!");
-    const std::optional<double> R = brentRoot(g, *bracket, {3e-8, 5e-7});
-    if (!R || !ejector.validEfficiency(etaD)) return false;
-    return ejector.give(pHOut, *R, pRs, *R, pERatio, pCRatio);
+          constexpr double aMin = 0.8;
+          constexpr double b = 4.0;
+          const double a = 1.0 / (std::sqrt(*dhIs / ejector.model.Hss) + 1.0) + 0.0001;
+          if (std::isnan(a))
+            return engine.fail(Message::solutionError);  // no drop to suction pressure
+          const std::optional<Bracket> bracket = bracketRatio(g, a < aMin ? aMin : a, b);
+          if (!bracket) return false;
+          if (!bracketsRoot(*bracket))
+            return engine.fail("Unable to bracket the root of the equations!");
+          const std::optional<double> R = brentRoot(g, *bracket, {3e-8, 5e-7});
+          if (!R || !ejector.validEfficiency(etaD)) return false;
+          ejector.judge(warnIfBroken);
+          return ejector.give(pHOut, *R, pRs, *R, pERatio, pCRatio);
+        },
+        [&] { ejector.judge(explainFailure); });
   });
 }
 
