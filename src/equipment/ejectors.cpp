@@ -141,13 +141,12 @@ struct Ejector {
     return EjectorBalance(engine, dhIs, R, model.Hms, model.Hss, user.Pss, user.Pds);
   }
 
-  // The pressures' order, for warnings and for the cause of a failure.
-  template <class Report>
-  void judge(Report report) const {
+  // A failure by the order of the pressures, which is not tested.
+  void explain() const {
     using namespace plausibility;
-    report(engine, {{motiveTooWeak, model.pMs, model.Pss},
-                    {dischargeAboveMotive, model.Pds, model.pMs},
-                    {dischargeBelowSuction, model.Pds, model.Pss}});
+    explainFailure(engine, {{motiveTooWeak, model.pMs, model.Pss},
+                            {dischargeAboveMotive, model.Pds, model.pMs},
+                            {dischargeBelowSuction, model.Pds, model.Pss}});
   }
 
   // Written so that a NaN fails.
@@ -207,10 +206,9 @@ int ThermoCompA(ZvThermoInt& engine, double* pHOut, double* pPerfF, double* pERa
           if (!mixing || !ejector.validEfficiency(mixing->etaD)) return false;
           const double pf =
               PerformanceFactor(engine.diagnostics(), *mixing).solve(engine.steam().solver());
-          ejector.judge(warnIfBroken);
           return ejector.give(pHOut, R, pPerfF, pf, pERatio, pCRatio);
         },
-        [&] { ejector.judge(explainFailure); });
+        [&] { ejector.explain(); });
   });
 }
 
@@ -252,10 +250,9 @@ int ThermoCompB(ZvThermoInt& engine, double* pHOut, double* pRs, double* pERatio
             return engine.fail("Unable to bracket the root of the equations!");
           const std::optional<double> R = brentRoot(g, *bracket, {3e-8, 5e-7});
           if (!R || !ejector.validEfficiency(etaD)) return false;
-          ejector.judge(warnIfBroken);
           return ejector.give(pHOut, *R, pRs, *R, pERatio, pCRatio);
         },
-        [&] { ejector.judge(explainFailure); });
+        [&] { ejector.explain(); });
   });
 }
 

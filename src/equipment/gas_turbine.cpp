@@ -234,13 +234,15 @@ int GasTurbineA(ZvThermoInt& engine, double* pTWhb, double* pDWhbFuel, double* p
     const Comparison airUsedUp{plausibility::airUsedUp, oxygen, 0.0};
     const Comparison oxygenUsedUp{plausibility::oxygenUsedUp, MinO2Stack, oxygen};
     const Comparison demandBelowBaseLoad{plausibility::demandBelowBaseLoad, demand, baseLoad};
+    const Comparison feedAboveBoiling{plausibility::feedAboveBoiling, boiler->BFWTemp,
+                                      boiler->tSat};
     warnIfBroken(engine, {noFuel,
                           fuelTooWeak,
                           exhaustTooCold,
                           {plausibility::exhaustCannotBoil, exhaustT, boiler->tSat + approach},
                           {plausibility::steamAboveExhaust,
                            units.toInternal(UnitGroup::temperature, SteamTemp), exhaustT},
-                          {plausibility::feedAboveBoiling, boiler->BFWTemp, boiler->tSat},
+                          feedAboveBoiling,
                           airUsedUp});
 
     const auto give = [&](double TWhb, double fuelDuty, double dewPtActual, double dewPtMax,
@@ -272,7 +274,10 @@ int GasTurbineA(ZvThermoInt& engine, double* pTWhb, double* pDWhbFuel, double* p
     const double maxFuel = (gas.O2 - gas.total() * MinO2Stack) / (MinO2Stack + 2.0) * molarMassCH4;
     const Gas maxFired = gas.fired(maxFuel / molarMassCH4);
     const Firing firing = supplementaryFiring(*boiler, exhaustT, gas, demand, maxFuel);
-    if (!std::isfinite(firing.duty)) return engine.fail(Message::solutionError);
+    if (!std::isfinite(firing.duty)) {
+      engine.fail(Message::solutionError);
+      return explainFailure(engine, {feedAboveBoiling});
+    }
     double dewPtActual = 0.0;
     double dewPtMax = 0.0;
     if (!dewPoint(engine, &dewPtActual, firing.gas.H2O / firing.gas.total()) ||

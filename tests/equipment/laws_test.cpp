@@ -359,6 +359,20 @@ TEST_P(EveryModel, GivesTheSameInMixedUnits) {
   });
 }
 
+TEST_P(EveryModel, IsNotWarnedOfASensiblePlant) {
+  const Law& law = GetParam();
+  Plant plant;
+  ASSERT_EQ(plant.engine().SetTraceLevel(1), 1);
+  ZvThermoInt steam;
+  test::Grid grid(law.name);
+  forPoints(law.dimensions, randomPoints, seed, [&](Point at) {
+    const std::vector<double> x = law.inputs(at, steam);
+    plant.engine().ClearTraceInfo();
+    plant(law.name, x);
+    grid.holds(plant.trace().empty(), text(x) + ": " + plant.trace());
+  });
+}
+
 INSTANTIATE_TEST_SUITE_P(Laws, EveryModel, testing::ValuesIn(laws()),
                          [](const auto& each) { return std::string(each.param.name); });
 
