@@ -18,6 +18,19 @@
 
 namespace calvex {
 
+// With k = ke in Btu/lb and a proportional to pf:
+// etaD = 1 - a k / (k + k1) - (1 - a) k / (k - k0)
+double DiffuserCorrelation(double pf, double ke) {
+  constexpr double BtuPerLb = 0.42992261392949266;  // of a kJ/kg
+  constexpr double a1 = 1.21462383974304;
+  constexpr double k0 = 6.74374434162094e-9;
+  constexpr double k1 = 582.414319479662;
+  const double k = ke * BtuPerLb;
+  const double a = pf * a1;
+  if (!(k > k0)) return 1.0;
+  return 1.0 - a * k / (k + k1) - (1.0 - a) * k / (k - k0);
+}
+
 namespace {
 
 struct Mixing {
@@ -43,19 +56,6 @@ std::optional<Mixing> EjectorBalance(ZvThermoInt& engine, double dhIs, double R,
     return std::nullopt;
   }
   return Mixing{(units.toInternal(UnitGroup::enthalpy, h2) - hStatic) / ke, ke};
-}
-
-// The empirical diffuser efficiency, with k = ke in Btu/lb and a proportional to pf:
-// etaD = 1 - a k / (k + k1) - (1 - a) k / (k - k0)
-double DiffuserCorrelation(double pf, double ke) {
-  constexpr double BtuPerLb = 0.42992261392949266;  // of a kJ/kg
-  constexpr double a1 = 1.21462383974304;
-  constexpr double k0 = 6.74374434162094e-9;
-  constexpr double k1 = 582.414319479662;
-  const double k = ke * BtuPerLb;
-  const double a = pf * a1;
-  if (!(k > k0)) return 1.0;
-  return 1.0 - a * k / (k + k1) - (1.0 - a) * k / (k - k0);
 }
 
 // DiffuserCorrelation(pf, ke) = etaD for pf, as a problem of the engine's solver.

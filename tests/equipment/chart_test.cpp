@@ -45,6 +45,11 @@ TEST(ThermocompressorChart, NoMotiveFlowDoesNotCompress) {
   }
 }
 
+TEST(ThermocompressorChart, BeginsAtAFlowRatioOfExactlyOneInTenThousand) {
+  EXPECT_EQ(ChartCompressionRatio(5.0, std::nextafter(1e-4, 0.0)), 1.0);
+  EXPECT_NEAR(ChartCompressionRatio(5.0, 1e-4) - 1.0, 4e-4 * (points[0].at5 - 1.0), 1e-15);
+}
+
 TEST(ThermocompressorChart, AHundredfoldMotiveFlowCompressesToTheMotivePressure) {
   for (const double ER : {2.0, 5.0, 9.0, 20.0, 80.0}) {
     EXPECT_NEAR(ChartCompressionRatio(ER, 100.0), ER, 1e-12 * ER);
