@@ -185,6 +185,28 @@ TEST(WaterPump, RefusesAnInletThatIsNotLiquid) {
   EXPECT_EQ(plant("WaterPump", {HSatPQ(plant, 0.12, 0.0), 0.12, 6.0, 1.0, 0.7}).success, 1);
 }
 
+TEST(WaterPump, CountsAMillionthOfVapourAsLiquidAtBothEnds) {
+  for (const char* unit : {"Fraction", "%"}) {
+    Plant plant;
+    ASSERT_EQ(plant.engine().SetUserUnit("Quality", unit), 1);
+    const double share = unit[0] == '%' ? 100.0 : 1.0;
+    for (const double Q : {0.5e-6, 0.97e-6, 1.03e-6, 2e-6}) {
+      const double h = HSatPQ(plant, 0.12, Q * share);
+      EXPECT_EQ(plant("WaterPump", {h, 0.12, 6.0, 1.0, 0.7}).success, Q < 1e-6) << unit << Q;
+      // An inlet of the same pressure but for a trifle, and an outlet that is heated to Q.
+      const double P = 6.0;
+      const double PIn = P * (1.0 - 1e-9);
+      const double end = HSatPQ(plant, P, Q * share);
+      const double start = end - 2e-4;
+      double density = 0.0;
+      ASSERT_EQ(plant.engine().RPH(&density, PIn, start), 1);
+      const double efficiency = (P - PIn) * 1000.0 / density / (end - start);
+      EXPECT_EQ(plant("WaterPump", {start, PIn, P, 1.0, efficiency}).success, Q < 1e-6)
+          << unit << Q << plant.engine().LastError();
+    }
+  }
+}
+
 TEST(WaterPump, WritesItsResultsBeforeItFindsTheOutletNotLiquid) {
   Plant plant;
   const Answer y = plant("WaterPump", {HSatPQ(plant, 0.3, 0.0), 0.3, 1.0, 1.0, 0.003});
