@@ -160,6 +160,8 @@ inline constexpr PlausibilityRule dutyTooHigh{"Duty", above, "the most of the ch
                                               "the given flow condenses to less"};
 inline constexpr PlausibilityRule noSuctionFlow{"Suction flow", notAbove, "", massFlow,
                                                 "the ratio of motive to suction flow has no value"};
+inline constexpr PlausibilityRule negativeMotiveFlow{"Motive flow", below, "", massFlow,
+                                                     "the chart has no such ratio of flows"};
 inline constexpr PlausibilityRule noMotiveFlow{
     "Discharge pressure", notAbove, "the suction pressure", pressure,
     "it takes no motive flow, so that the given one draws any suction flow"};

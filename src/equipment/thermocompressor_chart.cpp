@@ -359,7 +359,10 @@ int ThermoCompressorA(ZvThermoInt& engine, double* pDSP, double* pDST, double* p
     if (!unit.findEnthalpies()) return false;
     const std::optional<Discharge> discharge = unit.discharge(R, DSP);
     if (!discharge) {
-      return suction <= 0.0 ? explainFailure(engine, {noSuction}) : unit.judge(explainFailure, P);
+      const bool flows = suction > 0.0 && motive >= 0.0;
+      return flows ? unit.judge(explainFailure, P)
+                   : explainFailure(engine,
+                                    {noSuction, {plausibility::negativeMotiveFlow, motive, 0.0}});
     }
     const double duty = discharge->dutyPerFlow * flow;
     unit.warn({discharge->DST, DSP, motive, suction, flow, duty});
