@@ -298,8 +298,9 @@ TEST_F(EjectorsByHand, SolutionOfADutyIsExact) {
   }
 }
 
-TEST_F(EjectorsByHand, EveryModelAnswersTheSameInMixedUnits) {
+TEST_F(EjectorsByHand, EveryModelAnswersTheSameInAnyUnits) {
   using namespace models;
+  expectSameInUnits(thermoCompA, ejectorExample, chooseOffsetUnits);
   for (int i = 0; i < 40; ++i) {
     const double MSP = spread(0.3, 8.0);
     const double SSP = spread(0.01, MSP / 2.0);
@@ -308,11 +309,13 @@ TEST_F(EjectorsByHand, EveryModelAnswersTheSameInMixedUnits) {
     const double R = spread(0.3, 20.0);
     std::vector<double> a;
     ASSERT_EQ(property(chartA, {MSP, MST, R, SSP, SST, 1.0}, a), 1);
-    expectSameInMixedUnits(chartA, {MSP, MST, R, SSP, SST, 1.0});
-    expectSameInMixedUnits(chartB, {MSP, MST, SSP, SST, a[0], a[3]});
-    expectSameInMixedUnits(chartC, {MSP, MST, SSP, SST, a[0], a[2]});
-    expectSameInMixedUnits(chartD, {MSP, MST, SSP, SST, a[0], 1.0});
-    expectSameInMixedUnits(chartE, {MSP, MST, SSP, SST, a[0], R});
+    for (const auto choose : {chooseMixedUnits, chooseOffsetUnits}) {
+      expectSameInUnits(chartA, {MSP, MST, R, SSP, SST, 1.0}, choose);
+      expectSameInUnits(chartB, {MSP, MST, SSP, SST, a[0], a[3]}, choose);
+      expectSameInUnits(chartC, {MSP, MST, SSP, SST, a[0], a[2]}, choose);
+      expectSameInUnits(chartD, {MSP, MST, SSP, SST, a[0], 1.0}, choose);
+      expectSameInUnits(chartE, {MSP, MST, SSP, SST, a[0], R}, choose);
+    }
   }
 }
 

@@ -277,6 +277,7 @@ TEST_F(GasTurbine, AnswersTheSameInMixedUnits) {
     std::vector<double> in(gasTurbineExample);
     in[7] = demand;
     expectSameInMixedUnits(gasTurbine, in);
+    expectSameInUnits(gasTurbine, in, chooseOffsetUnits);
   }
 }
 

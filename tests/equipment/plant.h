@@ -16,6 +16,7 @@
 
 #include "diagnostics/outline.h"
 #include "equipment/heat_exchangers.h"
+#include "equipment/own_units.h"
 #include "server/zv_calvex.h"
 
 namespace calvex {
@@ -50,27 +51,7 @@ class Plant {
     }
   }
 
-  /// Client's own units, all different: x of them is (x + offset) * factor. Enthalpy and entropy
-  /// have offsets as temperature and pressure do; a difference has another unit than its quantity.
-  void useOffsetUnits() {
-    struct Unit {
-      UnitGroup group;
-      double factor, offset;
-    };
-    using enum UnitGroup;
-    constexpr Unit units[] = {{temperature, 0.8, 90.0}, {temperatureDifference, 1.7, 0.0},
-                              {pressure, 3e5, -0.2},    {pressureDifference, 7e4, 0.0},
-                              {enthalpy, 3.1, offset},  {entropy, 0.7, 1.3},
-                              {massFlow, 0.3, 0.0},     {heatDuty, 11.0, 0.0},
-                              {power, 2.5, 0.0},        {efficiency, 0.01, 0.0},
-                              {ratio, 0.04, 0.0},       {quality, 0.02, 0.0},
-                              {density, 1.9, 0.0}};
-    ASSERT_EQ(engine().SetAppLevel(3), 1);
-    for (const auto& [group, factor, shift] : units) {
-      ASSERT_EQ(engine().SetCustomUserUnitIndex(static_cast<short>(group), "own", factor, shift),
-                1);
-    }
-  }
+  void useOffsetUnits() { chooseOffsetUnits(engine()); }
   /// What the offset of the enthalpy unit is in kJ/kg: a difference of enthalpies that is converted
   /// as an enthalpy gains it.
   double enthalpyShift() { return engine().units().toInternal(UnitGroup::enthalpy, 0.0); }
@@ -163,7 +144,6 @@ class Plant {
     return answer;
   }
 
-  static constexpr double offset = -12.0;  // of the enthalpy unit
   Module module_;
   ZvCalvex object_{module_};
 };
