@@ -1,9 +1,8 @@
 #include "equipment/plausibility.h"
 
-#include <fmt/printf.h>
-
 #include <limits>
 
+#include "diagnostics/formatting.h"
 #include "diagnostics/thermo_exception.h"
 #include "steam/constants.h"
 
