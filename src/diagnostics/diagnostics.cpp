@@ -71,6 +71,13 @@ void Diagnostics::postError(std::string_view text) {
   if (!tracing()) return;
   record(ZvFunctionCall::Kind::error, text);
   lastError_ = text;
+  cause_.clear();
+}
+
+void Diagnostics::postCause(std::string_view text) {
+  if (!tracing()) return;
+  record(ZvFunctionCall::Kind::error, text);
+  cause_ = text;
 }
 
 void Diagnostics::postRangeError(std::string_view name) {
@@ -109,6 +116,7 @@ void Diagnostics::clear() noexcept {
   current_ = root_;
   callDepth_ = 0;
   lastError_.clear();
+  cause_.clear();
   emptyColumnTexts();
 }
 
@@ -143,6 +151,7 @@ bool Diagnostics::addExternalError(std::string_view name, std::string_view text)
   pool_.make(ZvFunctionCall::Kind::externalError, &node).ownText_ = text;
   emptyColumnTexts();
   lastError_ = text;
+  cause_.clear();
   return true;
 }
 

@@ -48,6 +48,9 @@ class Diagnostics {
   void postRangeError(std::string_view name, std::string_view lower, std::string_view upper);
   void postRangeError(std::string_view name, std::string_view lower, std::string_view upper,
                       std::string_view unit);
+  /// What is behind the error just posted, where its own text does not say so: a second error node.
+  /// The last error stays.
+  void postCause(std::string_view text);
   [[nodiscard]] bool wantsWarnings() const noexcept { return tracing() && level_ >= 1; }
   [[nodiscard]] bool wantsNotes() const noexcept { return tracing() && level_ >= 2; }
   void postWarning(std::string_view text);
@@ -58,6 +61,8 @@ class Diagnostics {
   // The record ----------------------------------------------------------------------------------
   /// The text of the last error that was recorded; a successful call does not empty it.
   [[nodiscard]] const std::string& lastError() const noexcept { return lastError_; }
+  /// What is behind the last error; empty where its own text says all.
+  [[nodiscard]] const std::string& cause() const noexcept { return cause_; }
   [[nodiscard]] const ZvFunctionCall& root() const noexcept { return *root_; }
   void updateImages() noexcept { root_->UpdateImage(); }
   /// Empties the trace, the last error and the column texts; the column titles stay.
@@ -90,6 +95,7 @@ class Diagnostics {
   int tracing_ = 1;
   short level_ = 0;
   std::string lastError_;
+  std::string cause_;
   /// One for each column; the columns' titles are the root's column values.
   std::vector<std::string> customTexts_;
 };

@@ -1,5 +1,6 @@
 // What every call goes through: range checks, results in the client's unit, failures.
 #include <cmath>
+#include <limits>
 
 #include "diagnostics/formatting.h"
 #include "engine/thermo_engine.h"
@@ -43,7 +44,27 @@ bool ZvThermoInt::validRange(std::string_view name, double value, double lower, 
     return fmt::sprintf("%.2f", units_.toUser(group, limit));
   };
   diagnostics_.postRangeError(name, bound(lower), bound(upper), unitName(group));
+  explainRange(name, value, lower, upper, group);
   return false;
+}
+
+// Bounds of two decimals can hide what is wrong: 0.0005 MPa lies within "0.00 to 22.05".
+void ZvThermoInt::explainRange(std::string_view name, double value, double lower, double upper,
+                               UnitGroup group) {
+  const auto shown = [&](double x) { return std::round(units_.toUser(group, x) * 100.0); };
+  if (!(shown(value) >= shown(lower) && shown(value) <= shown(upper))) return;
+  const auto text = [&](double x) {
+    return fmt::sprintf("%.10g %s", units_.toUser(group, x), unitName(group));
+  };
+  // The least number above zero stands for a bound that is itself refused.
+  const bool open = value < lower && lower == std::numeric_limits<double>::denorm_min();
+  diagnostics_.postCause(fmt::sprintf("%s %s is %s %s.", name, text(value),
+                                      open            ? "not above"
+                                      : value < lower ? "below"
+                                                      : "above",
+                                      text(open            ? 0.0
+                                           : value < lower ? lower
+                                                           : upper)));
 }
 
 bool ZvThermoInt::notNegative(std::string_view name, double value) {

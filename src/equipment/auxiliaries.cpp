@@ -2,9 +2,12 @@
 #include "equipment/auxiliaries.h"
 
 #include "equipment/model.h"
+#include "equipment/plausibility.h"
 #include "steam/constants.h"
 
 namespace calvex {
+
+using namespace plausibility;
 
 namespace {
 
@@ -25,6 +28,19 @@ struct Saturation {
 bool saturationAt(ZvThermoInt& engine, double P, Saturation& line) {
   double mixture = 0.0;
   return engine.HVLTSat_PQ(&mixture, &line.HVap, &line.HLiq, &line.T, P, quality(engine, 0.5)) != 0;
+}
+
+// Where steam should leave.
+void warnIfWater(ZvThermoInt& engine, double P, double T) {
+  if (!engine.diagnostics().wantsWarnings()) return;
+  const UserUnits& units = engine.units();
+  // On the line the temperature may differ from the boiling temperature in its last digits.
+  constexpr double rounding = 1e-6;  // K
+  const double boiling = boilingTemperature(units.toInternal(UnitGroup::pressure, P));
+  const double temperature = units.toInternal(UnitGroup::temperature, T);
+  if (temperature + rounding < boiling) {
+    warnIfBroken(engine, {{outletIsWater, temperature, boiling}});
+  }
 }
 
 // Steam h_in and water h_w, kJ/kg, mixed to h_s at (POp, TOp): what both desuperheaters check and
@@ -48,7 +64,30 @@ bool mixing(ZvThermoInt& engine, double* pHs, double HIn, double Hw, double POp,
     return false;
   }
   mix.hs = units.toInternal(UnitGroup::enthalpy, *pHs);
+  warnIfBroken(engine, {{sprayHeats, mix.hs, mix.hIn}, {sprayDoesNotCool, mix.hw, mix.hs}});
+  warnIfWater(engine, POp, TOp);
   return true;
+}
+
+void warnOfNegativeFlows(ZvThermoInt& engine, double in, double spray, double out) {
+  warnIfNegative(engine, {{"Inlet steam flow", in, UnitGroup::massFlow},
+                          {"Spray water flow", spray, UnitGroup::massFlow},
+                          {"Outlet steam flow", out, UnitGroup::massFlow}});
+}
+
+// The enthalpy of the deaerator's feed water, metastable above its boiling point. It is refused
+// where the metastable liquid ends: what the equation then has at (P, T) is vapour.
+bool feedWaterEnthalpy(ZvThermoInt& engine, double P, double T, double& hw) {
+  constexpr double mostOfLiquid = 2086.0;  // kJ/kg, the enthalpy of the critical point
+  return explained(
+      engine,
+      [&] {
+        hw = engine.steam().waterEnthalpy(P, T);
+        return hw <= mostOfLiquid || engine.fail(Message::solutionError);
+      },
+      [&] {
+        explainFailure(engine, {{feedIsNoLiquid, T, boilingTemperature(P)}});
+      });
 }
 
 // The density at (P, H) in kg/m3, or the message when that is not a liquid.
@@ -91,8 +130,18 @@ int boiler(ZvThermoInt& engine, std::string_view name, double* pMBd, double* pDu
         !engine.HSatPQ(pHBd, POut, quality(engine, 0.0))) {
       return false;
     }
-    const double duty = units.toInternal(UnitGroup::enthalpy, *pHBd) * blowdown +
-                        units.toInternal(UnitGroup::enthalpy, *pHOut) * steam - feed * hIn;
+    const double hOut = units.toInternal(UnitGroup::enthalpy, *pHOut);
+    const double duty =
+        units.toInternal(UnitGroup::enthalpy, *pHBd) * blowdown + hOut * steam - feed * hIn;
+    warnIfWater(engine, POut, TOut);
+    warnIfBroken(engine, {{feedAboveSteam, hIn, hOut}});
+    warnIfNegative(engine, {{"Steam flow", steam, UnitGroup::massFlow},
+                            {"Blowdown flow", blowdown, UnitGroup::massFlow},
+                            {"Feed water flow", feed, UnitGroup::massFlow},
+                            {"Absorbed duty", duty, UnitGroup::heatDuty}});
+    if (Eff != nullptr) {
+      warnIfNegative(engine, {{"Fired duty", duty / efficiency, UnitGroup::heatDuty}});
+    }
     return engine.give(pDuty, UnitGroup::heatDuty, duty) &&
            (Eff == nullptr || engine.give(pQFired, UnitGroup::heatDuty, duty / efficiency));
   });
@@ -113,7 +162,8 @@ int DeAerator(ZvThermoInt& engine, double* pHd, double* pTd, double* pMw, double
                            constants::criticalTemperature, UnitGroup::temperature)) {
       return false;
     }
-    const double hw = engine.steam().waterEnthalpy(P, T);
+    double hw = 0.0;
+    if (!feedWaterEnthalpy(engine, P, T, hw)) return false;
     Saturation line;
     if (!saturationAt(engine, POp, line)) return false;
     *pTd = line.T;
@@ -127,6 +177,12 @@ int DeAerator(ZvThermoInt& engine, double* pHd, double* pTd, double* pMw, double
     const double divisor = hw - hs;
     const double Ms = water * ((1.0 + ratio) * hw - out) / divisor;
     const double Mw = (1.0 + ratio) * water - Ms;
+    warnIfBroken(engine, {{feedBoils, T, units.toInternal(UnitGroup::temperature, line.T)},
+                          {steamCannotHeat, hs, out / (1.0 + ratio)}});
+    warnIfNegative(engine, {{"Deaerated water flow", water, UnitGroup::massFlow},
+                            {"Vent flow", ratio * water, UnitGroup::massFlow},
+                            {"Steam flow", Ms, UnitGroup::massFlow},
+                            {"Feed water flow", Mw, UnitGroup::massFlow}});
     return giveQuotient(engine, pMs, UnitGroup::massFlow, Ms, divisor) &&
            giveQuotient(engine, pMw, UnitGroup::massFlow, Mw, divisor);
   });
@@ -140,6 +196,7 @@ int DeSuperHeater(ZvThermoInt& engine, double* pHs, double* pMw, double* pMs, do
     const double in = engine.units().toInternal(UnitGroup::massFlow, MIn);
     const double divisor = mix.hw - mix.hs;
     const double out = in * (mix.hw - mix.hIn) / divisor;
+    warnOfNegativeFlows(engine, in, out - in, out);
     return giveQuotient(engine, pMs, UnitGroup::massFlow, out, divisor) &&
            giveQuotient(engine, pMw, UnitGroup::massFlow, out - in, divisor);
   });
@@ -153,6 +210,7 @@ int DeSuperHeaterB(ZvThermoInt& engine, double* pHs, double* pMw, double* pMs, d
     const double out = engine.units().toInternal(UnitGroup::massFlow, Mout);
     const double divisor = mix.hw - mix.hIn;
     const double spray = out * (mix.hs - mix.hIn) / divisor;
+    warnOfNegativeFlows(engine, out - spray, spray, out);
     return giveQuotient(engine, pMw, UnitGroup::massFlow, spray, divisor) &&
            giveQuotient(engine, pMs, UnitGroup::massFlow, out - spray, divisor);
   });
@@ -178,6 +236,7 @@ int WaterPump(ZvThermoInt& engine, double* pHOut, double* pPower, double HIn, do
     if (!liquidDensity(engine, PIn, HIn, "Inlet conditions are not liquid.", density)) return false;
     const double rise = (pOut - pIn) * 1000.0;  // kPa, so that rise / density is in kJ/kg
     const double flow = units.toInternal(UnitGroup::massFlow, m);
+    warnIfNegative(engine, {{"Flow", flow, UnitGroup::massFlow}});
     return engine.give(pPower, UnitGroup::power, flow / density * rise / efficiency) &&
            engine.give(pHOut, UnitGroup::enthalpy, hIn + rise / (density * efficiency)) &&
            liquidDensity(engine, POut, *pHOut, "Outlet conditions are not liquid.", density);
@@ -188,11 +247,16 @@ int LetDownValve(ZvThermoInt& engine, double* pTOut, double* pQOut, double HIn, 
                  double POut) {
   return engine.call("LetDownValve", [&] {
     const UserUnits& units = engine.units();
+    const double pIn = units.toInternal(UnitGroup::pressure, PIn);
+    const double pOut = units.toInternal(UnitGroup::pressure, POut);
+    if (!engine.notNegative("Inlet Steam Enthalpy", units.toInternal(UnitGroup::enthalpy, HIn)) ||
+        !engine.validPressure("Inlet Pressure", pIn) ||
+        !engine.validPressure("Outlet Pressure", pOut)) {
+      return false;
+    }
+    warnIfBroken(engine, {{valveRaisesPressure, pOut, pIn}});
     double density = 0.0;
-    return engine.notNegative("Inlet Steam Enthalpy", units.toInternal(UnitGroup::enthalpy, HIn)) &&
-           engine.validPressure("Inlet Pressure", units.toInternal(UnitGroup::pressure, PIn)) &&
-           engine.validPressure("Outlet Pressure", units.toInternal(UnitGroup::pressure, POut)) &&
-           engine.QTR_PH(pQOut, pTOut, &density, POut, HIn) != 0;
+    return engine.QTR_PH(pQOut, pTOut, &density, POut, HIn) != 0;
   });
 }
 
@@ -219,6 +283,8 @@ int FlashVessel(ZvThermoInt& engine, double* pTOut, double* pMVap, double* pMLiq
         !saturationAt(engine, POp, line)) {
       return false;
     }
+    warnIfNegative(
+        engine, {{"Inlet flow", units.toInternal(UnitGroup::massFlow, MIn), UnitGroup::massFlow}});
     // A stream on or beyond a side of the line keeps its enthalpy and has no other phase.
     const bool liquid = HIn <= line.HLiq;
     const bool vapour = !liquid && HIn >= line.HVap;

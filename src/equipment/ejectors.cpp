@@ -13,9 +13,23 @@
 #include "engine/thermo_engine.h"
 #include "equipment/brent.h"
 #include "equipment/model_results.h"
+#include "equipment/plausibility.h"
 #include "steam/solver.h"
 
 namespace calvex {
+
+// With k = ke in Btu/lb and a proportional to pf:
+// etaD = 1 - a k / (k + k1) - (1 - a) k / (k - k0)
+double DiffuserCorrelation(double pf, double ke) {
+  constexpr double BtuPerLb = 0.42992261392949266;  // of a kJ/kg
+  constexpr double a1 = 1.21462383974304;
+  constexpr double k0 = 6.74374434162094e-9;
+  constexpr double k1 = 582.414319479662;
+  const double k = ke * BtuPerLb;
+  const double a = pf * a1;
+  if (!(k > k0)) return 1.0;
+  return 1.0 - a * k / (k + k1) - (1.0 - a) * k / (k - k0);
+}
 
 namespace {
 
@@ -42,19 +56,6 @@ std::optional<Mixing> EjectorBalance(ZvThermoInt& engine, double dhIs, double R,
     return std::nullopt;
   }
   return Mixing{(units.toInternal(UnitGroup::enthalpy, h2) - hStatic) / ke, ke};
-}
-
-// The empirical diffuser efficiency, with k = ke in Btu/lb and a proportional to pf:
-// etaD = 1 - a k / (k + k1) - (1 - a) k / (k - k0)
-double DiffuserCorrelation(double pf, double ke) {
-  constexpr double BtuPerLb = 0.42992261392949266;  // of a kJ/kg
-  constexpr double a1 = 1.21462383974304;
-  constexpr double k0 = 6.74374434162094e-9;
-  constexpr double k1 = 582.414319479662;
-  const double k = ke * BtuPerLb;
-  const double a = pf * a1;
-  if (!(k > k0)) return 1.0;
-  return 1.0 - a * k / (k + k1) - (1.0 - a) * k / (k - k0);
 }
 
 // DiffuserCorrelation(pf, ke) = etaD for pf, as a problem of the engine's solver.
@@ -140,6 +141,14 @@ struct Ejector {
     return EjectorBalance(engine, dhIs, R, model.Hms, model.Hss, user.Pss, user.Pds);
   }
 
+  // A failure by the order of the pressures, which is not tested.
+  void explain() const {
+    using namespace plausibility;
+    explainFailure(engine, {{motiveTooWeak, model.pMs, model.Pss},
+                            {dischargeAboveMotive, model.Pds, model.pMs},
+                            {dischargeBelowSuction, model.Pds, model.Pss}});
+  }
+
   // Written so that a NaN fails.
   bool validEfficiency(double etaD) const {
     if (!(etaD <= 1.0)) return engine.fail("Calculated diffuser efficiency greater than 1.0 !");
@@ -188,13 +197,18 @@ int ThermoCompA(ZvThermoInt& engine, double* pHOut, double* pPerfF, double* pERa
     if (!ejector.valid()) return false;
     if (!(R >= 0.0)) return engine.fail("Motive/Suction steam ratio must be non-negative!");
 
-    const std::optional<double> dhIs = ejector.isentropicDrop();
-    if (!dhIs) return false;
-    const std::optional<Mixing> mixing = ejector.balance(*dhIs, R);
-    if (!mixing || !ejector.validEfficiency(mixing->etaD)) return false;
-    const double pf =
-        PerformanceFactor(engine.diagnostics(), *mixing).solve(engine.steam().solver());
-    return ejector.give(pHOut, R, pPerfF, pf, pERatio, pCRatio);
+    return explained(
+        engine,
+        [&] {
+          const std::optional<double> dhIs = ejector.isentropicDrop();
+          if (!dhIs) return false;
+          const std::optional<Mixing> mixing = ejector.balance(*dhIs, R);
+          if (!mixing || !ejector.validEfficiency(mixing->etaD)) return false;
+          const double pf =
+              PerformanceFactor(engine.diagnostics(), *mixing).solve(engine.steam().solver());
+          return ejector.give(pHOut, R, pPerfF, pf, pERatio, pCRatio);
+        },
+        [&] { ejector.explain(); });
   });
 }
 
@@ -212,26 +226,33 @@ int ThermoCompB(ZvThermoInt& engine, double* pHOut, double* pRs, double* pERatio
       return false;
     }
 
-    const std::optional<double> dhIs = ejector.isentropicDrop();
-    if (!dhIs) return false;
-    double etaD = 0.0;  // of the last evaluation
-    const auto g = [&](double R) -> std::optional<double> {
-      const std::optional<Mixing> mixing = ejector.balance(*dhIs, R);
-      if (!mixing) return std::nullopt;
-      etaD = mixing->etaD;
-      return etaD - DiffuserCorrelation(pf, mixing->ke);
-    };
+    return explained(
+        engine,
+        [&] {
+          const std::optional<double> dhIs = ejector.isentropicDrop();
+          if (!dhIs) return false;
+          double etaD = 0.0;  // of the last evaluation
+          const auto g = [&](double R) -> std::optional<double> {
+            const std::optional<Mixing> mixing = ejector.balance(*dhIs, R);
+            if (!mixing) return std::nullopt;
+            etaD = mixing->etaD;
+            return etaD - DiffuserCorrelation(pf, mixing->ke);
+          };
 
-    constexpr double aMin = 0.8;
-    constexpr double b = 4.0;
-    const double a = 1.0 / (std::sqrt(*dhIs / ejector.model.Hss) + 1.0) + 0.0001;
-    if (std::isnan(a)) return engine.fail(Message::solutionError);  // no drop to suction pressure
-    const std::optional<Bracket> bracket = bracketRatio(g, a < aMin ? aMin : a, b);
-    if (!bracket) return false;
-    if (!bracketsRoot(*bracket)) return engine.fail("Unable to bracket the root of the equations!");
-    const std::optional<double> R = brentRoot(g, *bracket, {3e-8, 5e-7});
-    if (!R || !ejector.validEfficiency(etaD)) return false;
-    return ejector.give(pHOut, *R, pRs, *R, pERatio, pCRatio);
+          constexpr double aMin = 0.8;
+          constexpr double b = 4.0;
+          const double a = 1.0 / (std::sqrt(*dhIs / ejector.model.Hss) + 1.0) + 0.0001;
+          if (std::isnan(a))
+            return engine.fail(Message::solutionError);  // no drop to suction pressure
+          const std::optional<Bracket> bracket = bracketRatio(g, a < aMin ? aMin : a, b);
+          if (!bracket) return false;
+          if (!bracketsRoot(*bracket))
+            return engine.fail("Unable to bracket the root of the equations!");
+          const std::optional<double> R = brentRoot(g, *bracket, {3e-8, 5e-7});
+          if (!R || !ejector.validEfficiency(etaD)) return false;
+          return ejector.give(pHOut, *R, pRs, *R, pERatio, pCRatio);
+        },
+        [&] { ejector.explain(); });
   });
 }
 

@@ -9,6 +9,10 @@ namespace calvex {
 
 class ZvThermoInt;
 
+/// The empirical diffuser efficiency of a performance factor and the mixed stream's kinetic energy
+/// ke, kJ/kg; 1 where there is next to none.
+double DiffuserCorrelation(double pf, double ke);
+
 /// Performance factor from the motive/suction flow ratio Rs.
 int ThermoCompA(ZvThermoInt& engine, double* pHOut, double* pPerfF, double* pERatio,
                 double* pCRatio, double Hms, double pMs, double Hss, double Pss, double Pds,

@@ -11,6 +11,7 @@
 
 #include "engine/thermo_engine.h"
 #include "equipment/model_results.h"
+#include "equipment/plausibility.h"
 
 namespace calvex {
 
@@ -213,7 +214,13 @@ int GasTurbineA(ZvThermoInt& engine, double* pTWhb, double* pDWhbFuel, double* p
     }
 
     const Exhaust exhaust = turbineExhaust(power, FPRatio, air, exhaustT);
-    if (!std::isfinite(exhaust.flow)) return engine.fail(Message::solutionError);
+    const Comparison noFuel{plausibility::noFuel, FPRatio, 0.0};
+    const Comparison fuelTooWeak{plausibility::fuelTooWeak, power, exhaust.fuelDuty};
+    const Comparison exhaustTooCold{plausibility::exhaustTooCold, exhaustT, air};
+    if (!std::isfinite(exhaust.flow)) {
+      engine.fail(Message::solutionError);
+      return explainFailure(engine, {noFuel, exhaustTooCold});
+    }
     const std::optional<Boiler> boiler =
         waterSide(engine, SteamPress, SteamTemp, BFWTemp, approach);
     if (!boiler) return false;
@@ -223,8 +230,28 @@ int GasTurbineA(ZvThermoInt& engine, double* pTWhb, double* pDWhbFuel, double* p
     const double Qgt = exhaust.fuelDuty;
     const Gas& gas = exhaust.gas;
 
+    const double oxygen = gas.O2 / gas.total();
+    const Comparison airUsedUp{plausibility::airUsedUp, oxygen, 0.0};
+    const Comparison oxygenUsedUp{plausibility::oxygenUsedUp, MinO2Stack, oxygen};
+    const Comparison demandBelowBaseLoad{plausibility::demandBelowBaseLoad, demand, baseLoad};
+    const Comparison feedAboveBoiling{plausibility::feedAboveBoiling, boiler->BFWTemp,
+                                      boiler->tSat};
+    warnIfBroken(engine, {noFuel,
+                          fuelTooWeak,
+                          exhaustTooCold,
+                          {plausibility::exhaustCannotBoil, exhaustT, boiler->tSat + approach},
+                          {plausibility::steamAboveExhaust,
+                           units.toInternal(UnitGroup::temperature, SteamTemp), exhaustT},
+                          feedAboveBoiling,
+                          airUsedUp});
+
     const auto give = [&](double TWhb, double fuelDuty, double dewPtActual, double dewPtMax,
                           double O2, double heatLoss, double duty) {
+      warnIfNegative(engine, {{"Turbine fuel duty", Qgt, UnitGroup::heatDuty},
+                              {"Boiler fuel duty", fuelDuty, UnitGroup::heatDuty},
+                              {"Steam demand", demand, UnitGroup::massFlow},
+                              {"Base load", baseLoad, UnitGroup::massFlow},
+                              {"Actual steam flow", duty / boiler->dh, UnitGroup::massFlow}});
       return giveAll(engine, {{pTWhb, TWhb, UnitGroup::temperature},
                               {pDWhbFuel, fuelDuty, UnitGroup::heatDuty},
                               {pTDewPtActual, dewPtActual},
@@ -238,20 +265,26 @@ int GasTurbineA(ZvThermoInt& engine, double* pTWhb, double* pDWhbFuel, double* p
     };
 
     if (std::fabs(1.0 - demand / baseLoad) < equalWithin) {
-      return give(noFiringTemperature, 0.0, noFiringTemperature, noFiringTemperature,
-                  gas.O2 / gas.total(), unused, Q);
+      return give(noFiringTemperature, 0.0, noFiringTemperature, noFiringTemperature, oxygen,
+                  unused, Q);
     }
+    warnIfBroken(engine, {oxygenUsedUp, demandBelowBaseLoad});
 
     // The fuel that leaves MinO2Stack of oxygen.
     const double maxFuel = (gas.O2 - gas.total() * MinO2Stack) / (MinO2Stack + 2.0) * molarMassCH4;
     const Gas maxFired = gas.fired(maxFuel / molarMassCH4);
     const Firing firing = supplementaryFiring(*boiler, exhaustT, gas, demand, maxFuel);
-    if (!std::isfinite(firing.duty)) return engine.fail(Message::solutionError);
+    if (!std::isfinite(firing.duty)) {
+      engine.fail(Message::solutionError);
+      return explainFailure(engine, {feedAboveBoiling});
+    }
     double dewPtActual = 0.0;
     double dewPtMax = 0.0;
     if (!dewPoint(engine, &dewPtActual, firing.gas.H2O / firing.gas.total()) ||
         !dewPoint(engine, &dewPtMax, maxFired.H2O / maxFired.total())) {
-      return false;
+      // The pressure of that failure is the water vapour's in the stack.
+      return explainFailure(engine, {noFuel, fuelTooWeak, exhaustTooCold, airUsedUp, oxygenUsedUp,
+                                     demandBelowBaseLoad});
     }
     const double stackLoss = (firing.temperature - air) * cp * firing.gas.mass() - firing.duty;
     return give(firing.temperature, firing.fuelDuty(), dewPtActual, dewPtMax,

@@ -2,6 +2,7 @@
 #include "equipment/heat_exchangers.h"
 
 #include "equipment/model.h"
+#include "equipment/plausibility.h"
 
 namespace calvex {
 
@@ -29,6 +30,30 @@ double difference(const UserUnits& units, double a, double b) {
   return units.toInternal(UnitGroup::enthalpy, a) - units.toInternal(UnitGroup::enthalpy, b);
 }
 
+// What both exchangers' streams must obey. Pressure drops, temperatures and enthalpies in the
+// client's units, flows in kg/s.
+struct StreamEnds {
+  double drop, TIn, TOut, hIn, hOut;
+};
+void warnOfStreams(ZvThermoInt& engine, const StreamEnds& cold, const StreamEnds& hot,
+                   double coldFlow, double hotFlow) {
+  using namespace plausibility;
+  const auto internal = [&](UnitGroup group, double x) {
+    return engine.units().toInternal(group, x);
+  };
+  const auto drop = [&](double x) { return internal(UnitGroup::pressureDifference, x); };
+  const auto T = [&](double x) { return internal(UnitGroup::temperature, x); };
+  const auto h = [&](double x) { return internal(UnitGroup::enthalpy, x); };
+  warnIfBroken(engine, {{coldPressureRises, drop(cold.drop), 0.0},
+                        {hotPressureRises, drop(hot.drop), 0.0},
+                        {coldEndsAboveHot, T(cold.TOut), T(hot.TIn)},
+                        {coldStartsAboveHot, T(cold.TIn), T(hot.TOut)},
+                        {coldStreamIsCooled, h(cold.hOut), h(cold.hIn)},
+                        {hotStreamIsHeated, h(hot.hOut), h(hot.hIn)}});
+  warnIfNegative(engine, {{"Cold flow", coldFlow, UnitGroup::massFlow},
+                          {"Hot flow", hotFlow, UnitGroup::massFlow}});
+}
+
 }  // namespace
 
 int HeatExchangerA(ZvThermoInt& engine, double* pHCIn, double* pHCOut, double* pHHIn,
@@ -53,9 +78,11 @@ int HeatExchangerA(ZvThermoInt& engine, double* pHCIn, double* pHCOut, double* p
         !engine.HPTQ(pHHOut, hotPressureOut, HotTempOut, HotQualityOut)) {
       return false;
     }
-    const double duty =
-        difference(units, *pHCOut, *pHCIn) * units.toInternal(UnitGroup::massFlow, ColdFlowIn);
+    const double coldFlow = units.toInternal(UnitGroup::massFlow, ColdFlowIn);
+    const double duty = difference(units, *pHCOut, *pHCIn) * coldFlow;
     const double given = difference(units, *pHHIn, *pHHOut);
+    warnOfStreams(engine, {ColdDP, ColdTempIn, ColdTempOut, *pHCIn, *pHCOut},
+                  {HotDP, HotTempIn, HotTempOut, *pHHIn, *pHHOut}, coldFlow, duty / given);
     return engine.give(pDuty, UnitGroup::heatDuty, duty) &&
            giveQuotient(engine, pMHOut, UnitGroup::massFlow, duty / given, given);
   });
@@ -83,12 +110,19 @@ int HeatExchangerB(ZvThermoInt& engine, double* pHCIn, double* pHCOut, double* p
       return false;
     }
     const double duty = units.toInternal(UnitGroup::heatDuty, HXDuty);
-    const double hCOut = units.toInternal(UnitGroup::enthalpy, *pHCIn) +
-                         duty / units.toInternal(UnitGroup::massFlow, ColdFlowIn);
+    const double coldFlow = units.toInternal(UnitGroup::massFlow, ColdFlowIn);
+    const double hCOut = units.toInternal(UnitGroup::enthalpy, *pHCIn) + duty / coldFlow;
     const double given = difference(units, *pHHIn, *pHHOut);
-    return engine.give(pHCOut, UnitGroup::enthalpy, hCOut) &&
-           giveQuotient(engine, pMHOut, UnitGroup::massFlow, duty / given, given) &&
-           engine.TPH(pTCOut, coldPressureOut, *pHCOut) != 0;
+    if (!engine.give(pHCOut, UnitGroup::enthalpy, hCOut)) {
+      return explainFailure(engine, {{plausibility::noColdFlow, coldFlow, 0.0}});
+    }
+    if (!giveQuotient(engine, pMHOut, UnitGroup::massFlow, duty / given, given) ||
+        !engine.TPH(pTCOut, coldPressureOut, *pHCOut)) {
+      return false;
+    }
+    warnOfStreams(engine, {ColdDP, ColdTempIn, *pTCOut, *pHCIn, *pHCOut},
+                  {HotDP, HotTempIn, HotTempOut, *pHHIn, *pHHOut}, coldFlow, duty / given);
+    return true;
   });
 }
 

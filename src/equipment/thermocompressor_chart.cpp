@@ -13,6 +13,8 @@
 #include "engine/thermo_engine.h"
 #include "equipment/brent.h"
 #include "equipment/model_results.h"
+#include "equipment/plausibility.h"
+#include "steam/constants.h"
 
 namespace calvex {
 
@@ -66,6 +68,12 @@ std::array<double, curves> compressionRatios(double ER) {
   return y;
 }
 
+// The expansion ratio at which the last curve reaches the motive pressure: ER = exp(A ln ER + B).
+double leastER() {
+  const PowerLaw& law = chart[curves - 1].lowER;
+  return std::exp(law.B / (1.0 - law.A));
+}
+
 double between(double x, double x0, double y0, double x1, double y1) {
   return y0 + (y1 - y0) * (x - x0) / (x1 - x0);
 }
@@ -117,6 +125,15 @@ struct Discharge {
   double dutyPerFlow;
 };
 
+// Discharge temperature (and pressure) in the client's unit; flows and duty in model units.
+struct Balance {
+  double DST, DSP;
+  double MSF = 0.0;
+  double SSF = 0.0;
+  double DSF = 0.0;
+  double HXDuty = 0.0;
+};
+
 // One call.
 class Thermocompressor {
  public:
@@ -128,6 +145,7 @@ class Thermocompressor {
   double duty(double D) const { return engine_.units().toInternal(UnitGroup::heatDuty, D); }
 
   double ER() const { return MSP_ / SSP_; }
+  double MSP() const { return MSP_; }
   double SSP() const { return SSP_; }
 
   bool validPressures(const Labels& names) const {
@@ -167,6 +185,24 @@ class Thermocompressor {
     return Discharge{DST, h - units.toInternal(UnitGroup::enthalpy, hLiquid)};
   }
 
+  // The pressures' order, for warnings and for the cause of a failure; the discharge pressure in
+  // MPa.
+  template <class Report>
+  bool judge(Report report, double DSP) const {
+    using namespace plausibility;
+    return report(engine_, {{motiveTooWeak, MSP_, SSP_},
+                            {dischargeAboveMotive, DSP, MSP_},
+                            {dischargeBelowSuction, DSP, SSP_},
+                            {chartEnds, ER(), leastER()}});
+  }
+  void warn(const Balance& x) const {
+    judge(warnIfBroken, pressure(x.DSP));
+    warnIfNegative(engine_, {{"Motive flow", x.MSF, UnitGroup::massFlow},
+                             {"Suction flow", x.SSF, UnitGroup::massFlow},
+                             {"Discharge flow", x.DSF, UnitGroup::massFlow},
+                             {"Duty", x.HXDuty, UnitGroup::heatDuty}});
+  }
+
  private:
   double quality(double Q) const { return engine_.units().toUser(UnitGroup::quality, Q); }
   bool validTemperature(const char* name, double T) const {
@@ -187,15 +223,6 @@ class Thermocompressor {
   double hS_ = 0.0;
 };
 
-// Discharge temperature (and pressure) in the client's unit; flows and duty in model units.
-struct Balance {
-  double DST, DSP;
-  double MSF = 0.0;
-  double SSF = 0.0;
-  double DSF = 0.0;
-  double HXDuty = 0.0;
-};
-
 // Which quantity comes with the supply and the discharge pressure.
 enum class Given { HXDuty, DSF, SSF, MSF };
 
@@ -214,7 +241,10 @@ std::optional<Balance> atPressure(ZvThermoInt& engine, Given given, const Supply
   const double R = ChartEntrainmentRatio(unit.ER(), DSP / unit.SSP());
   if (!unit.findEnthalpies()) return std::nullopt;
   const std::optional<Discharge> discharge = unit.discharge(R, userDSP);
-  if (!discharge) return std::nullopt;
+  if (!discharge) {
+    unit.judge(explainFailure, DSP);
+    return std::nullopt;
+  }
 
   Balance x{.DST = discharge->DST, .DSP = userDSP};
   switch (given) {
@@ -236,6 +266,12 @@ std::optional<Balance> atPressure(ZvThermoInt& engine, Given given, const Supply
       break;
   }
   x.HXDuty = discharge->dutyPerFlow * x.DSF;
+  if (!std::isfinite(x.SSF)) {
+    engine.fail(Message::solutionError);
+    explainFailure(engine, {{plausibility::noMotiveFlow, DSP, unit.SSP()}});
+    return std::nullopt;
+  }
+  unit.warn(x);
   return x;
 }
 
@@ -273,13 +309,18 @@ std::optional<Balance> atDuty(ZvThermoInt& engine, Given given, const Supply& su
 
   const double a = std::log(RNone);
   const std::optional<double> fa = residual(a);
-  if (!fa) return std::nullopt;
   const double b = std::log(RFull);
-  const std::optional<double> fb = residual(b);
-  if (!fb) return std::nullopt;
+  const std::optional<double> fb = fa ? residual(b) : std::nullopt;
+  if (!fb) {
+    explainFailure(engine, {{plausibility::chartPassesCriticalPressure, unit.MSP(),
+                             constants::criticalPressure}});
+    return std::nullopt;
+  }
   const Bracket bracket{a, *fa, b, *fb};
   if (!bracketsRoot(bracket)) {
     engine.fail("Unable to bracket the root of the equations!");
+    explainFailure(engine, {{plausibility::dutyTooLow, HXDuty, std::min(*fa, *fb) + HXDuty},
+                            {plausibility::dutyTooHigh, HXDuty, std::max(*fa, *fb) + HXDuty}});
     return std::nullopt;
   }
   const std::optional<double> lnR = brentRoot(residual, bracket, fine);
@@ -289,6 +330,7 @@ std::optional<Balance> atDuty(ZvThermoInt& engine, Given given, const Supply& su
     engine.fail(Message::solutionError);
     return std::nullopt;
   }
+  if (x) unit.warn(*x);
   return x;
 }
 
@@ -307,16 +349,27 @@ int ThermoCompressorA(ZvThermoInt& engine, double* pDSP, double* pDST, double* p
     const double suction = unit.flow(SSF);
     const double flow = motive + suction;
     const double R = motive / suction;
-    if (!std::isfinite(R)) return engine.fail(Message::solutionError);
-    const double DSP = engine.units().toUser(UnitGroup::pressure,
-                                             ChartCompressionRatio(unit.ER(), R) * unit.SSP());
+    const Comparison noSuction{plausibility::noSuctionFlow, suction, 0.0};
+    if (!std::isfinite(R)) {
+      engine.fail(Message::solutionError);
+      return explainFailure(engine, {noSuction});
+    }
+    const double P = ChartCompressionRatio(unit.ER(), R) * unit.SSP();
+    const double DSP = engine.units().toUser(UnitGroup::pressure, P);
     if (!unit.findEnthalpies()) return false;
     const std::optional<Discharge> discharge = unit.discharge(R, DSP);
-    return discharge &&
-           giveAll(engine, {{pDSP, DSP},
+    if (!discharge) {
+      const bool flows = suction > 0.0 && motive >= 0.0;
+      return flows ? unit.judge(explainFailure, P)
+                   : explainFailure(engine,
+                                    {noSuction, {plausibility::negativeMotiveFlow, motive, 0.0}});
+    }
+    const double duty = discharge->dutyPerFlow * flow;
+    unit.warn({discharge->DST, DSP, motive, suction, flow, duty});
+    return giveAll(engine, {{pDSP, DSP},
                             {pDST, discharge->DST},
                             {pDSF, flow, UnitGroup::massFlow},
-                            {pHXDuty, discharge->dutyPerFlow * flow, UnitGroup::heatDuty}});
+                            {pHXDuty, duty, UnitGroup::heatDuty}});
   });
 }
 

@@ -16,9 +16,11 @@
 #include "equipment/turbines_compressors.h"
 
 #include <array>
+#include <cmath>
 #include <span>
 
 #include "equipment/model.h"
+#include "equipment/plausibility.h"
 
 namespace calvex {
 
@@ -30,24 +32,31 @@ enum class Machine { turbine, compressor };
 
 // An outlet's names in messages, and the message about a pressure that goes the wrong way.
 struct OutletTexts {
+  std::string_view flow;
   std::string_view pressure;
   std::string_view efficiency;
   std::array<std::string_view, 2> wrongOrder;  // of a turbine, of a compressor
 };
 constexpr OutletTexts onlyOutlet = {
+    "Flow",
     "Outlet Pressure",
     "Efficiency",
     {"Inlet pressure less than outlet pressure.", "Outlet pressure less than inlet pressure."}};
 constexpr OutletTexts outletOfSeveral[maxOutlets] = {
-    {"Outlet Pressure 1",
+    {"Flow at outlet 1",
+     "Outlet Pressure 1",
      "Efficiency 1",
      {"Inlet pressure less than outlet pressure 1.",
       "Outlet pressure 1 less than inlet pressure."}},
-    {"Outlet Pressure 2",
+    {"Flow at outlet 2",
+     "Outlet Pressure 2",
      "Efficiency 2",
      {"Outlet pressure 1 less than outlet pressure 2.",
       "Outlet pressure 2 less than outlet pressure 1."}},
-    {"Outlet Pressure 3", "Efficiency 3", {"Outlet pressure 2 less than outlet pressure 3.", {}}},
+    {"Flow at outlet 3",
+     "Outlet Pressure 3",
+     "Efficiency 3",
+     {"Outlet pressure 2 less than outlet pressure 3.", {}}},
 };
 
 struct Inlet {
@@ -108,10 +117,31 @@ struct Stages {
     return true;
   }
 
+  // The entropy that the client gave, against that of pressure and enthalpy. An entropy in a table
+  // with two decimals is off by half as much.
+  void compareEntropies() const {
+    constexpr double atOdds = 0.01;  // kJ/(kg.K)
+    if (inlet.S == nullptr || !engine.diagnostics().wantsWarnings()) return;
+    const double given = internal(UnitGroup::entropy, *inlet.S);
+    const double found =
+        entropyFrom(internal(UnitGroup::pressure, inlet.P), internal(UnitGroup::enthalpy, inlet.H));
+    if (!(std::fabs(given - found) > atOdds)) return;
+    warnIfBroken(engine, {{plausibility::entropyTooHigh, given, found},
+                          {plausibility::entropyTooLow, given, found}});
+  }
+
+  // Of a failure at a pressure for which that property is too high.
+  bool explainHeat(const PlausibilityRule& rule, Property property, double P, double value) const {
+    const double most = hottest(property, internal(UnitGroup::pressure, P));
+    return explainFailure(engine, {{rule, internal(*rule.group, value), most}});
+  }
+
   // Writes the outlet enthalpy; dh in kJ/kg.
   bool expand(double pIn, double hIn, double sIn, const Outlet& outlet, double& dh) const {
     double hIsentropic = 0.0;
-    if (!engine.HPS(&hIsentropic, outlet.P, sIn)) return false;
+    if (!engine.HPS(&hIsentropic, outlet.P, sIn)) {
+      return explainHeat(plausibility::idealOutletTooHot, Property::entropy, outlet.P, sIn);
+    }
     // At the inlet's own pressure there is no work, not the last digits of two solves. Not so with
     // the client's entropy, which need not be that of the inlet.
     if (outlet.P == pIn && inlet.S == nullptr) hIsentropic = hIn;
@@ -128,11 +158,18 @@ struct Stages {
     return engine.give(outlet.H, hOut);
   }
 
-  bool lastState() const {
-    const Outlet& last = outlets.back();
-    if (lastS != nullptr) return engine.QTS_PH(last.Q, last.T, lastS, last.P, *last.H) != 0;
+  // The outlet's temperature and quality, and its entropy or else its density.
+  bool stateOf(const Outlet& outlet, double* s) const {
     double density = 0.0;
-    return !wantsTQ || engine.QTR_PH(last.Q, last.T, &density, last.P, *last.H) != 0;
+    const bool found = s != nullptr
+                           ? engine.QTS_PH(outlet.Q, outlet.T, s, outlet.P, *outlet.H) != 0
+                           : engine.QTR_PH(outlet.Q, outlet.T, &density, outlet.P, *outlet.H) != 0;
+    return found ||
+           explainHeat(plausibility::outletTooHot, Property::enthalpy, outlet.P, *outlet.H);
+  }
+
+  bool lastState() const {
+    return (lastS == nullptr && !wantsTQ) || stateOf(outlets.back(), lastS);
   }
 
   // The balance is struck from the works. A single outlet's state is found after it, as its result
@@ -146,8 +183,9 @@ struct Stages {
     if (inlet.S != nullptr) {
       s = *inlet.S;
     } else if (!engine.SPH(&s, P, h)) {
-      return false;
+      return explainHeat(plausibility::inletTooHot, Property::enthalpy, P, h);
     }
+    compareEntropies();
     std::array<double, maxOutlets> works{};
     double work = 0.0;
     for (std::size_t k = 0; k < outlets.size(); ++k) {
@@ -159,13 +197,21 @@ struct Stages {
       P = outlet.P;
       h = *outlet.H;
       works[k] = work += dh;
-      if (!last && !engine.QTS_PH(outlet.Q, outlet.T, &s, P, h)) return false;
+      if (!last && !stateOf(outlet, &s)) return false;
     }
     const std::span<const double> done(works.data(), outlets.size());
     if (outlets.size() == 1) return balance(done) && lastState();
     return lastState() && balance(done);
   }
 };
+
+void warnOfNegativeFlows(const Stages& stages, std::span<const double> flows) {
+  for (std::size_t k = 0; k < flows.size(); ++k) {
+    warnIfNegative(stages.engine,
+                   {{stages.texts(k).flow, stages.internal(UnitGroup::massFlow, flows[k]),
+                     UnitGroup::massFlow}});
+  }
+}
 
 // The power of the flows that leave, in kW.
 double powerOf(const Stages& stages, std::span<const double> flows, std::span<const double> works) {
@@ -181,6 +227,7 @@ int powerFromFlows(std::string_view name, const Stages& stages, double* pPower,
   ZvThermoInt& engine = stages.engine;
   return engine.call(name, [&] {
     return stages.run([&](std::span<const double> works) {
+      warnOfNegativeFlows(stages, flows);
       return engine.give(pPower, UnitGroup::power, powerOf(stages, flows, works));
     });
   });
@@ -192,8 +239,18 @@ int lastFlowFromPower(std::string_view name, const Stages& stages, double* pFlow
   ZvThermoInt& engine = stages.engine;
   return engine.call(name, [&] {
     return stages.run([&](std::span<const double> works) {
-      const double rest = stages.internal(UnitGroup::power, Power) - powerOf(stages, flows, works);
-      return giveQuotient(engine, pFlow, UnitGroup::massFlow, rest / works.back(), works.back());
+      using namespace plausibility;
+      const double given = stages.internal(UnitGroup::power, Power);
+      const double extracted = powerOf(stages, flows, works);
+      const double work = works.back();
+      const double flow = (given - extracted) / work;
+      warnOfNegativeFlows(stages, flows);
+      warnIfBroken(engine, {{negativePower, given, 0.0},
+                            {extractionsTakeAll, extracted, std::fmax(given, 0.0)},
+                            {noWork, work, 0.0}});
+      warnIfNegative(engine, {{stages.texts(flows.size()).flow, flow, UnitGroup::massFlow}});
+      return giveQuotient(engine, pFlow, UnitGroup::massFlow, flow, work) ||
+             explainFailure(engine, {{noWork, work, 0.0}});
     });
   });
 }

@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "engine/thermo_engine.h"
+#include "equipment/own_units.h"
 #include "support/engine.h"
 
 namespace calvex {
@@ -88,11 +89,12 @@ struct ModelUnderTest {
   int (*run)(ZvThermoInt& engine, double* out, const double* in);
 };
 
-/// The model answers in mixed units what it answers in model units.
-inline void expectSameInMixedUnits(const ModelUnderTest& model, const std::vector<double>& in) {
+/// The model answers in such units what it answers in model units.
+inline void expectSameInUnits(const ModelUnderTest& model, const std::vector<double>& in,
+                              void (*choose)(ZvThermoInt&)) {
   ZvThermoInt plain;
   ZvThermoInt mixed;
-  chooseMixedUnits(mixed);
+  choose(mixed);
   std::vector<double> converted(in);
   for (std::size_t i = 0; i < in.size(); ++i) {
     if (model.inputs[i]) converted[i] = mixed.units().toUser(*model.inputs[i], in[i]);
@@ -107,6 +109,10 @@ inline void expectSameInMixedUnits(const ModelUnderTest& model, const std::vecto
         model.outputs[i] ? mixed.units().toInternal(*model.outputs[i], actual[i]) : actual[i];
     EXPECT_NEAR(value, expected[i], 1e-9 * std::fabs(expected[i])) << model.name << " output " << i;
   }
+}
+
+inline void expectSameInMixedUnits(const ModelUnderTest& model, const std::vector<double>& in) {
+  expectSameInUnits(model, in, chooseMixedUnits);
 }
 
 /// Whatever the inputs, the model returns, without a NaN or an infinity when it succeeds, without

@@ -1,14 +1,11 @@
 // The gas turbine and its boiler: anchors, balances, both pinch cases, limits and messages.
-#include "equipment/gas_turbine.h"
-
-#include <gtest/gtest.h>
-
-#include "equipment/call_checks.h"
+#include "equipment/models.h"
 
 namespace calvex {
 namespace {
 
 using enum UnitGroup;
+using namespace models;
 
 constexpr double cp = 1.1;                // kJ/(kg.K)
 constexpr double heatingValue = 44310.0;  // kJ/kg
@@ -38,26 +35,6 @@ int run(ZvThermoInt& engine, Outputs& out, const Inputs& in) {
                      in.SteamPress, in.SteamTemp, in.BFWTemp, in.SteamDemand, in.DTMin,
                      in.MinO2Stack);
 }
-
-const ModelUnderTest gasTurbine{"GasTurbineA",
-                                {temperature, heatDuty, temperature, temperature, ratio, heatDuty,
-                                 heatDuty, ratio, massFlow, massFlow},
-                                {power,
-                                 {},
-                                 temperature,
-                                 temperature,
-                                 pressure,
-                                 temperature,
-                                 temperature,
-                                 massFlow,
-                                 temperatureDifference,
-                                 {}},
-                                [](ZvThermoInt& engine, double* o, const double* x) {
-                                  return GasTurbineA(engine, o, o + 1, o + 2, o + 3, o + 4, o + 5,
-                                                     o + 6, o + 7, o + 8, o + 9, x[0], x[1], x[2],
-                                                     x[3], x[4], x[5], x[6], x[7], x[8], x[9]);
-                                }};
-const std::vector<double> example{5000.0, 0.3, 288.15, 800.0, 4.0, 673.0, 378.0, 4.0, 15.0, 0.03};
 
 class GasTurbine : public testing::Test {
  protected:
@@ -252,7 +229,7 @@ TEST_F(GasTurbine, SaturatedSteamIsAccepted) {
 }
 
 TEST_F(GasTurbine, FaultsAreReportedInOrder) {
-  std::vector<double> in(example);
+  std::vector<double> in(gasTurbineExample);
   in[4] = -1.0;
   in[5] = 100.0;
   in[6] = 100.0;
@@ -297,9 +274,10 @@ TEST_F(GasTurbine, TraceOfAFailureShowsTheCallThatFailed) {
 
 TEST_F(GasTurbine, AnswersTheSameInMixedUnits) {
   for (const double demand : {1.0, 4.0, 6.0, 20.0}) {
-    std::vector<double> in(example);
+    std::vector<double> in(gasTurbineExample);
     in[7] = demand;
     expectSameInMixedUnits(gasTurbine, in);
+    expectSameInUnits(gasTurbine, in, chooseOffsetUnits);
   }
 }
 
@@ -341,7 +319,7 @@ TEST_F(GasTurbine, RandomPlantsMeetTheirDemandOrTheirOxygenLimit) {
 }
 
 TEST_F(GasTurbine, ArbitraryInputsNeverGiveANaN) {
-  expectSanityOnArbitraryDoubles(gasTurbine, 31, 4000, example);
+  expectSanityOnArbitraryDoubles(gasTurbine, 31, 4000, gasTurbineExample);
 }
 
 }  // namespace

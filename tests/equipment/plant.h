@@ -16,6 +16,7 @@
 
 #include "diagnostics/outline.h"
 #include "equipment/heat_exchangers.h"
+#include "equipment/own_units.h"
 #include "server/zv_calvex.h"
 
 namespace calvex {
@@ -49,6 +50,11 @@ class Plant {
       ASSERT_EQ(engine().SetUserUnit(group, unit), 1) << group << ' ' << unit;
     }
   }
+
+  void useOffsetUnits() { chooseOffsetUnits(engine()); }
+  /// What the offset of the enthalpy unit is in kJ/kg: a difference of enthalpies that is converted
+  /// as an enthalpy gains it.
+  double enthalpyShift() { return engine().units().toInternal(UnitGroup::enthalpy, 0.0); }
 
   /// Values in the client's units.
   Answer call(std::string_view name, const std::vector<double>& inputs) {
