@@ -132,6 +132,8 @@ std::optional<double> density(double P, double T, Side side) {
   temperature.prepare(T, TemperaturePart::Order::pressure);
   const auto f = [&](double density) { return pressure(temperature, density) - P; };
   const double idealGas = 1000.0 * P / (constants::gasConstant * T);
+  // From a denormal number no factor leads on: 5e-324 MPa.
+  if (!std::isnormal(idealGas / 20.0)) return std::nullopt;
   const bool twoSides = T < criticalTemperature;
   // Away from the critical point, where the curve bends both ways.
   if (T > 700.0 || (twoSides && side == Side::vapour && T < 640.0)) {
