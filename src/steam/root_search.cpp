@@ -153,6 +153,7 @@ std::optional<double> superheatedLiquid(double P, double T, double saturated) {
   TemperaturePart temperature;
   temperature.prepare(T, TemperaturePart::Order::pressure);
   const auto f = [&](double density) { return pressure(temperature, density) - P; };
+  if (!(f(saturated) > 0.0)) return saturated;  // on the line, but for its rounding
   // The liquid ends before it has lost half of its density.
   const auto interval = firstChange(f, saturated, 0.5 * saturated, scaledBy(0.99));
   if (!interval) return std::nullopt;
