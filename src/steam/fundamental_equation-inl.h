@@ -37,6 +37,9 @@ class TemperaturePartOf {
  public:
   using Order = TemperatureOrder;
 
+  // Written out: an instruction set holds for what is written, not for what is implied.
+  TemperaturePartOf() : T_(N(0.0)) {}
+
   /// Moves to temperature T (K) and makes sure that all of `order` is known.
   void prepare(const N& T, Order order) {
     if (T != T_) {
@@ -70,10 +73,10 @@ class TemperaturePartOf {
   void computeSlopes();
   void computeCurvatures();
 
-  N T_ = N(0.0);
+  N T_;
   Order known_ = Order::none;
-  N logReduced_ = N(0.0);                                                // ln(T/T0)
-  std::array<N, coefficients::highestTemperatureExponent + 1> power_{};  // x^0 .. x^6
+  N logReduced_;                                                // ln(T/T0)
+  std::array<N, coefficients::highestTemperatureExponent + 1> power_;  // x^0 .. x^6
 };
 
 /// The fundamental equation at one density and temperature.
