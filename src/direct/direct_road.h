@@ -91,8 +91,8 @@ struct Target {
 struct Result {
   Letter letter;
   Target<double> value;
-  Target<double> byFirst;
-  Target<double> bySecond;
+  Target<double> byFirst{};
+  Target<double> bySecond{};
 };
 
 /// A client's unit: model value = (x + offset) * factor, as in the catalogue of units.
@@ -113,11 +113,11 @@ struct Request {
   Column first;
   Column second;
   std::span<const Result> results;  ///< computed in one pass, at one solve a state
-  Target<Phase> phase;              ///< `none` for a failed point
+  Target<Phase> phase{};            ///< `none` for a failed point
   /// 0 for success, else the number of the message (diagnostics/messages.h).
-  Target<short> status;
+  Target<short> status{};
   /// dP/dT of the saturation line at the temperature of a state of two phases, 0 of one phase.
-  Target<double> lineSlope;
+  Target<double> lineSlope{};
   const Units* units = nullptr;  ///< null: the engine's own
 };
 

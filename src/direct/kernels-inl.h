@@ -249,7 +249,9 @@ OnePhase<N> solvePT(const N& P, const N& T, const N& density) {
 template <Letter second, class N>
 OnePhase<N> solveFromP(const N& P, const N& x, const N& T, const N& density) {
   OnePhase<N> state = stateFrom<Letter::P, second>(P, x, T, density);
-  state.found = state.found && nearStart(state.density, density) && inRange(state.T, P);
+  // In dense cold water an isobar has several temperatures with one enthalpy.
+  const MaskOf<N> single = P < N(500.0) || state.T > N(700.0);
+  state.found = state.found && nearStart(state.density, density) && inRange(state.T, P) && single;
   return state;
 }
 
@@ -272,7 +274,7 @@ OnePhase<N> solvePR(const N& P, const N& density, const N& start) {
     if (every(found)) break;
   }
   // The liquid's density has its maximum below 285 K, and two temperatures around it.
-  const MaskOf<N> single = T > N(290.0) || r < N(0.3);
+  const MaskOf<N> single = (T > N(290.0) || r < N(0.3)) && (P < N(500.0) || T > N(700.0));
   return {T, density, found && single && inRange(T, P) && besideLine(T, density)};
 }
 

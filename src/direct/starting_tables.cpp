@@ -192,6 +192,12 @@ struct State {
   double density;
 };
 
+State stateAt(double P, double T, double start) {
+  TemperaturePart part;
+  part.prepare(T, TemperatureOrder::energy);
+  return {T, density(part, P, start)};
+}
+
 // Along an isobar from a known state, in steps of one column: the parabola of the last three states
 // starts the next; where there is none, the last line is followed.
 template <Letter second>
@@ -277,13 +283,21 @@ std::unique_ptr<StateTable> buildStatesFromP(Focus focus, double low, double hig
         if (column < last) March<second>(*table, layer, row, P, start).run(column + 1, last);
       }
     } else {
-      TemperaturePart part;
-      part.prepare(900.0, TemperatureOrder::energy);
-      const State start{900.0, density(part, P, 1000.0 * P / (gasConstant * 900.0 + P))};
-      const int column = columnAt(start);
+      // Cold states are reached from a cold one, hot states from a hot one: between them, next to
+      // the critical pressure, a step may end on another branch.
+      const State cold = stateAt(P, 300.0, 1000.0);
+      const State hot = stateAt(P, 900.0, 1000.0 * P / (gasConstant * 900.0 + P));
+      const int coldColumn = columnAt(cold);
+      const int hotColumn = columnAt(hot);
+      const int middle = std::max(
+          columnAt(State{constants::criticalTemperature, constants::criticalDensity}), coldColumn);
       for (int layer = 0; layer < 2; ++layer) {
-        March<second>(*table, layer, row, P, start).run(column, 0);
-        if (column < last) March<second>(*table, layer, row, P, start).run(column + 1, last);
+        March<second>(*table, layer, row, P, cold).run(coldColumn, 0);
+        March<second>(*table, layer, row, P, cold).run(coldColumn, std::min(middle, hotColumn));
+        if (middle < hotColumn) {
+          March<second>(*table, layer, row, P, hot).run(hotColumn, middle + 1);
+        }
+        March<second>(*table, layer, row, P, hot).run(hotColumn, last);
       }
     }
   }
