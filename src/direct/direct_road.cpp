@@ -2,13 +2,9 @@
 // members' own solve, and out.
 #include "direct/direct_road.h"
 
-#include <fmt/printf.h>
-
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <limits>
-#include <type_traits>
 
 #include "direct/kernels.h"
 #include "direct/member_road.h"
@@ -24,154 +20,146 @@ constexpr int twoPhaseMessage = static_cast<int>(Message::twoPhase);
 // What is asked of a block.
 struct Order {
   const Kernels& kernels;
-  Pair pair;        // of densities, where the client gives volumes
-  Letters letters;  // with the pressure where a range depends on it
-  bool derivatives = false;
+  Pair pair;      // of densities, where the client gives volumes
+  Wanted wanted;  // with the pressure where a range depends on it
 };
 
-// The answers to a block: 0 and the place among the states of one phase or two, or a message.
-struct Answers {
-  States one;
-  States two;
-  Values ones;
-  Values twos;
-  int oneCount = 0;
-  int twoCount = 0;
-  std::array<short, blockSize> status;
-  std::array<bool, blockSize> isTwo;
-  std::array<short, blockSize> place;
-};
+using Places = std::array<short, blockSize>;
 
-// Lanes that no state fills repeat the last one.
-void pad(Block& block, int count, int lanes) {
-  const auto n = static_cast<std::size_t>(count);
-  const std::size_t full = (n + static_cast<std::size_t>(lanes) - 1) /
-                           static_cast<std::size_t>(lanes) * static_cast<std::size_t>(lanes);
-  std::fill(block.begin() + count, block.begin() + static_cast<std::ptrdiff_t>(full), block[n - 1]);
-}
-
-// The states that go one way, side by side.
-struct Selection {
+// The states of a block that go one way, with the place of each in the block.
+struct Group {
+  States states;
+  Values values;
+  Places origin;
   int count = 0;
-  std::array<short, blockSize> index;
+
+  // Lanes that no state fills repeat the last one.
+  void pad(int lanes) {
+    const int full = (count + lanes - 1) / lanes * lanes;
+    if (full == count) return;
+    for (Block* block : {&states.first, &states.second, &states.T, &states.density, &states.vapour,
+                         &states.quality, &states.pressure, &states.way}) {
+      std::fill(block->begin() + count, block->begin() + full,
+                (*block)[static_cast<std::size_t>(count - 1)]);
+    }
+  }
 };
 
-void copyState(const States& from, std::size_t i, States& to, std::size_t j) {
-  to.first[j] = from.first[i];
-  to.second[j] = from.second[i];
-  to.way[j] = from.way[i];
-  to.T[j] = from.T[i];
-  to.density[j] = from.density[i];
-  to.vapour[j] = from.vapour[i];
-}
-
-void padAll(States& states, int count, int lanes) {
-  if (count % lanes == 0) return;
-  for (Block* block : {&states.first, &states.second, &states.way, &states.T, &states.density,
-                       &states.vapour, &states.quality, &states.pressure}) {
-    pad(*block, count, lanes);
-  }
-}
+// The answers to a block: 0 and where the state is, or a message.
+struct Answers {
+  Block first;  // the inputs, model units
+  Block second;
+  Group one;
+  Group two;
+  Places status;
+  Places place;
+  std::array<bool, blockSize> isTwo;
+  bool plain = false;  // all are of one phase, each in its own place
+};
 
 MemberRoad& memberRoad() {
   thread_local MemberRoad road;
   return road;
 }
 
-// Decides, solves and evaluates `count` states, whose inputs stand in `states`.
-void work(const Order& order, int count, States& states, Answers& answers) {
-  const Kernels& kernels = order.kernels;
-  const int lanes = kernels.lanes;
-  if (count % lanes != 0) {
-    pad(states.first, count, lanes);
-    pad(states.second, count, lanes);
-  }
-  kernels.decide(order.pair, count, states);
-
-  // The inputs of a member's solve are the client's, one by one.
-  Selection left;
-  const auto leave = [&](short i) { left.index[static_cast<std::size_t>(left.count++)] = i; };
-  std::array<short, blockSize> origin;  // of the states of two phases, and of one
-  std::array<short, blockSize> originOne;
-  answers.oneCount = 0;
-  answers.twoCount = 0;
+// Parts the decided states by the way that they go; `left` are the members'.
+int part(int count, Answers& answers, Places& left) {
+  Group& one = answers.one;
+  Group& two = answers.two;
+  States& states = one.states;
+  one.count = 0;
+  two.count = 0;
+  int leftCount = 0;
   for (int i = 0; i < count; ++i) {
     const auto at = static_cast<std::size_t>(i);
-    switch (static_cast<Way>(states.way[at])) {
-      case Way::onePhase:
-        originOne[static_cast<std::size_t>(answers.oneCount)] = static_cast<short>(i);
-        copyState(states, at, answers.one, static_cast<std::size_t>(answers.oneCount++));
-        break;
-      case Way::twoPhases:
-        origin[static_cast<std::size_t>(answers.twoCount)] = static_cast<short>(i);
-        copyState(states, at, answers.two, static_cast<std::size_t>(answers.twoCount++));
-        break;
-      default:
-        leave(static_cast<short>(i));
+    const Way way = static_cast<Way>(states.way[at]);
+    if (way == Way::member) {
+      left[static_cast<std::size_t>(leftCount++)] = static_cast<short>(i);
+      continue;
+    }
+    Group& group = way == Way::onePhase ? one : two;
+    const auto to = static_cast<std::size_t>(group.count++);
+    group.origin[to] = static_cast<short>(i);
+    if (way == Way::onePhase && to == at) continue;
+    for (Block States::*block : {&States::first, &States::second, &States::way, &States::T,
+                                 &States::density, &States::vapour}) {
+      (group.states.*block)[to] = (states.*block)[at];
     }
   }
-  const auto settle = [&](States& found, int& known, std::array<short, blockSize>& from,
-                          bool isTwo) {
-    int kept = 0;
-    for (int k = 0; k < known; ++k) {
-      const auto at = static_cast<std::size_t>(k);
-      const auto to = static_cast<std::size_t>(kept);
-      const auto i = static_cast<std::size_t>(from[at]);
-      if (static_cast<Way>(found.way[at]) == Way::member) {
-        leave(from[at]);
-        continue;
-      }
-      if (kept != k) {
-        copyState(found, at, found, to);
-        if (isTwo) {
-          found.quality[to] = found.quality[at];
-          found.pressure[to] = found.pressure[at];
-        }
-      }
-      answers.status[i] = 0;
-      answers.isTwo[i] = isTwo;
-      answers.place[i] = static_cast<short>(kept++);
-    }
-    known = kept;
-  };
-  if (answers.oneCount > 0) {
-    padAll(answers.one, answers.oneCount, lanes);
-    kernels.solve(order.pair, answers.oneCount, answers.one);
-    settle(answers.one, answers.oneCount, originOne, false);
-  }
-  if (answers.twoCount > 0) {
-    padAll(answers.two, answers.twoCount, lanes);
-    kernels.solveTwoPhases(order.pair, answers.twoCount, answers.two);
-    settle(answers.two, answers.twoCount, origin, true);
-  }
+  return leftCount;
+}
 
-  for (int k = 0; k < left.count; ++k) {
-    const auto i = static_cast<std::size_t>(left.index[static_cast<std::size_t>(k)]);
+// Notes where the states of a group are; those that were not found are left to the members.
+int settle(const Group& group, bool isTwo, Answers& answers, Places& left, int leftCount) {
+  for (int k = 0; k < group.count; ++k) {
+    const auto at = static_cast<std::size_t>(k);
+    const auto i = static_cast<std::size_t>(group.origin[at]);
+    answers.status[i] = 0;
+    answers.isTwo[i] = isTwo;
+    answers.place[i] = static_cast<short>(k);
+    if (static_cast<Way>(group.states.way[at]) == Way::member) {
+      left[static_cast<std::size_t>(leftCount++)] = group.origin[at];
+    }
+  }
+  return leftCount;
+}
+
+// The members' own solve, one by one. A state that the lanes lost has a place already; the others,
+// from `firstLost` on in `left`, get one.
+void solveAsMember(const Order& order, const Places& left, int leftCount, int firstLost,
+                   Answers& answers) {
+  const int lanes = order.kernels.lanes;
+  for (int k = 0; k < leftCount; ++k) {
+    const auto i = static_cast<std::size_t>(left[static_cast<std::size_t>(k)]);
     FoundState found;
-    const int status = memberRoad().find(order.pair, states.first[i], states.second[i], found);
+    const int status = memberRoad().find(order.pair, answers.first[i], answers.second[i], found);
     answers.status[i] = static_cast<short>(status);
     if (status != 0) continue;
+    Group& group = found.twoPhases ? answers.two : answers.one;
+    const bool hasPlace = k >= firstLost && answers.isTwo[i] == found.twoPhases;
+    const int to = hasPlace ? answers.place[i] : group.count++;
     answers.isTwo[i] = found.twoPhases;
-    States& states2 = found.twoPhases ? answers.two : answers.one;
-    int& n = found.twoPhases ? answers.twoCount : answers.oneCount;
-    answers.place[i] = static_cast<short>(n);
-    const auto at = static_cast<std::size_t>(n++);
-    states2.T[at] = found.T;
-    states2.density[at] = found.density;
-    states2.vapour[at] = found.vapour;
-    states2.pressure[at] = found.pressure;
-    states2.quality[at] = found.quality;
+    answers.place[i] = static_cast<short>(to);
+    const auto at = static_cast<std::size_t>(to);
+    group.states.T[at] = found.T;
+    group.states.density[at] = found.density;
+    group.states.vapour[at] = found.vapour;
+    group.states.pressure[at] = found.pressure;
+    group.states.quality[at] = found.quality;
+    group.pad(lanes);
+    const int begin = to / lanes * lanes;
+    (found.twoPhases ? order.kernels.mixtures : order.kernels.properties)(
+        order.wanted, begin, begin + lanes, group.states, group.values);
   }
+}
 
-  if (answers.oneCount > 0) {
-    padAll(answers.one, answers.oneCount, lanes);
-    kernels.properties(order.letters, order.derivatives, answers.oneCount, answers.one,
-                       answers.ones);
+// Decides, solves and evaluates the `count` states whose inputs stand in `answers`.
+void work(const Order& order, int count, Answers& answers) {
+  const Kernels& kernels = order.kernels;
+  Group& one = answers.one;
+  Group& two = answers.two;
+  const auto n = static_cast<std::size_t>(count);
+  std::copy_n(answers.first.begin(), n, one.states.first.begin());
+  std::copy_n(answers.second.begin(), n, one.states.second.begin());
+  one.count = count;
+  one.pad(kernels.lanes);
+  kernels.decide(order.pair, count, one.states);
+
+  Places left;
+  int leftCount = part(count, answers, left);
+  if (one.count > 0) {
+    one.pad(kernels.lanes);
+    kernels.solve(order.pair, order.wanted, one.count, one.states, one.values);
   }
-  if (answers.twoCount > 0) {
-    padAll(answers.two, answers.twoCount, lanes);
-    kernels.mixtures(order.letters, order.derivatives, answers.twoCount, answers.two, answers.twos);
+  if (two.count > 0) {
+    two.pad(kernels.lanes);
+    kernels.solveTwoPhases(order.pair, order.wanted, two.count, two.states, two.values);
   }
+  const int decided = leftCount;
+  leftCount = settle(one, false, answers, left, leftCount);
+  leftCount = settle(two, true, answers, left, leftCount);
+  answers.plain = one.count == count && leftCount == decided;
+  if (leftCount > 0) solveAsMember(order, left, leftCount, decided, answers);
 }
 
 // Above the critical point the members call a state with less than this a liquid's.
@@ -216,17 +204,18 @@ struct Point {
         at(static_cast<std::size_t>(all.place[i])),
         isTwo(all.isTwo[i]),
         pair(givenBy) {}
-  [[nodiscard]] const Values& values() const { return isTwo ? answers.twos : answers.ones; }
+  [[nodiscard]] const Group& group() const { return isTwo ? answers.two : answers.one; }
   [[nodiscard]] double value(Letter letter) const {
-    return values().value[static_cast<std::size_t>(letter)][at];
+    return group().values.value[static_cast<std::size_t>(letter)][at];
   }
   [[nodiscard]] double byX(Letter letter) const {
-    return values().byX[static_cast<std::size_t>(letter)][at];
+    return group().values.byX[static_cast<std::size_t>(letter)][at];
   }
   [[nodiscard]] double byY(Letter letter) const {
-    return values().byY[static_cast<std::size_t>(letter)][at];
+    return group().values.byY[static_cast<std::size_t>(letter)][at];
   }
-  [[nodiscard]] double T() const { return isTwo ? answers.two.T[at] : answers.one.T[at]; }
+  [[nodiscard]] double T() const { return group().states.T[at]; }
+  [[nodiscard]] double density() const { return group().states.density[at]; }
 };
 
 // The letters' own reasons to fail, in the order in which they were asked for.
@@ -237,6 +226,9 @@ int statusOf(const Point& point, Letter letter, double P) {
 
 double toModel(const Unit& unit, double x) { return (x + unit.offset) * unit.factor; }
 double toClient(const Unit& unit, double x) { return x / unit.factor - unit.offset; }
+
+// A volume of 0 has no density, and a negative one fails as it is.
+double volumeToDensity(double volume) { return volume >= 0.0 ? 1.0 / volume : volume; }
 
 Pair ofDensity(Pair pair) {
   return pair == Pair::PV ? Pair::PR : pair == Pair::TV ? Pair::TR : pair;
@@ -260,9 +252,74 @@ Derivatives derivatives(const Point& point, Letter letter, Letter a, Letter b) {
   return {(fx * by - fy * bx) / determinant, (ax * fy - ay * fx) / determinant};
 }
 
+// Why a state that was found, or was not, is no answer to what is asked of it, 0 if it is one.
+int statusOf(const Request& request, const Answers& answers, std::size_t i, Pair pair) {
+  int status = answers.status[i];
+  if (request.pair == Pair::PT) {
+    // A correlation's range is asked before the state.
+    for (const Result& result : request.results) {
+      const int own = checkTransport(result.letter, answers.first[i], answers.second[i]);
+      if (own != 0) return own;
+      if (status != 0) return status;
+    }
+  }
+  if (status != 0) return status;
+  const Point point(answers, i, pair);
+  const double P = firstOf(pair) == Letter::P ? answers.first[i] : point.value(Letter::P);
+  for (const Result& result : request.results) {
+    status = statusOf(point, result.letter, P);
+    if (status != 0) return status;
+    if (result.letter != Letter::Q && !std::isfinite(point.value(result.letter))) {
+      return static_cast<int>(Message::solutionError);
+    }
+  }
+  return 0;
+}
+
+Phase phaseOf(const Answers& answers, std::size_t i, Pair pair) {
+  const Point point(answers, i, pair);
+  if (point.isTwo) return Phase::twoPhase;
+  return phaseOf(point.T(), point.density(),
+                 firstOf(pair) == Letter::P ? answers.first[i] : point.value(Letter::P));
+}
+
+// A letter's values of a whole block, in its places, model units; NaN where a state failed.
+void collect(const Request& request, const Answers& answers, Letter letter, int count,
+             Block& values) {
+  const Pair pair = ofDensity(request.pair);
+  const auto n = static_cast<std::size_t>(count);
+  // What was given is answered as it was given.
+  const Block* given = letter == firstOf(request.pair)                           ? &answers.first
+                       : letter == secondOf(request.pair) && letter != Letter::V ? &answers.second
+                                                                                 : nullptr;
+  const auto letterAt = static_cast<std::size_t>(letter);
+  if (answers.plain && (given != nullptr || letter != Letter::Q)) {
+    const Block& source = given != nullptr ? *given : answers.one.values.value[letterAt];
+    std::copy_n(source.begin(), n, values.begin());
+  } else {
+    for (std::size_t i = 0; i < n; ++i) {
+      if (answers.status[i] != 0) {
+        values[i] = nothing;
+      } else if (given != nullptr) {
+        values[i] = (*given)[i];
+      } else if (letter == Letter::Q && !answers.isTwo[i]) {
+        values[i] = qualityOfOnePhase(request.pair, answers.second[i], phaseOf(answers, i, pair));
+      } else {
+        values[i] = Point(answers, i, pair).value(letter);
+      }
+    }
+  }
+}
+
 template <class T>
-void write(const Target<T>& target, std::size_t i, T x) {
-  if (target.data != nullptr) target.data[static_cast<std::ptrdiff_t>(i) * target.stride] = x;
+void writeColumn(const Target<T>& target, std::size_t begin, int count, const T* values) {
+  if (target.data == nullptr) return;
+  T* to = target.data + static_cast<std::ptrdiff_t>(begin) * target.stride;
+  if (target.stride == 1) {
+    std::copy_n(values, count, to);
+  } else {
+    for (int i = 0; i < count; ++i) to[i * target.stride] = values[i];
+  }
 }
 
 void evaluateBlock(const Request& request, const Order& order, std::size_t begin, int count) {
@@ -271,111 +328,111 @@ void evaluateBlock(const Request& request, const Order& order, std::size_t begin
   const Letter b = secondOf(request.pair);
   const Unit& unitA = units[static_cast<std::size_t>(a)];
   const Unit& unitB = units[static_cast<std::size_t>(b)];
-  States states;
-  for (int i = 0; i < count; ++i) {
-    const auto at = static_cast<std::ptrdiff_t>(begin) + i;
-    states.first[static_cast<std::size_t>(i)] =
-        toModel(unitA, request.first.data[at * request.first.stride]);
-    states.second[static_cast<std::size_t>(i)] =
-        toModel(unitB, request.second.data[at * request.second.stride]);
-  }
-  if (b == Letter::V) {
-    for (int i = 0; i < count; ++i) {
-      double& x = states.second[static_cast<std::size_t>(i)];
-      x = x >= 0.0 ? 1.0 / x : x;
-    }
-  }
+  const auto n = static_cast<std::size_t>(count);
   Answers answers;
-  work(order, count, states, answers);
+  for (std::size_t i = 0; i < n; ++i) {
+    const auto at = static_cast<std::ptrdiff_t>(begin + i);
+    answers.first[i] = toModel(unitA, request.first.data[at * request.first.stride]);
+    answers.second[i] = toModel(unitB, request.second.data[at * request.second.stride]);
+    if (b == Letter::V) answers.second[i] = volumeToDensity(answers.second[i]);
+  }
+  work(order, count, answers);
 
-  for (int i = 0; i < count; ++i) {
-    const auto at = static_cast<std::size_t>(i);
-    const std::size_t to = begin + at;
-    const Point point(answers, at, order.pair);
-    int status = answers.status[at];
-    // A correlation's range is asked before a state from (P, T).
-    if (request.pair == Pair::PT && (order.letters & transportRanges) != 0) {
-      for (const Result& result : request.results) {
-        const int own = checkTransport(result.letter, states.first[at], states.second[at]);
-        if (own != 0) {
-          status = own;
-          break;
-        }
-        if (status != 0) break;
-      }
-    }
-    double P = nothing;
-    double density = nothing;
-    if (status == 0) {
-      P = a == Letter::P ? states.first[at] : point.value(Letter::P);
-      density = point.isTwo ? nothing : answers.one.density[point.at];
-      for (const Result& result : request.results) {
-        status = statusOf(point, result.letter, P);
-        if (status != 0) break;
-      }
-    }
-    const bool good = status == 0;
-    const Phase phase = !good         ? Phase::none
-                        : point.isTwo ? Phase::twoPhase
-                                      : phaseOf(point.T(), density, P);
+  bool allGood = answers.plain && (order.wanted.letters & transportRanges) == 0;
+  if (allGood) {
     for (const Result& result : request.results) {
-      const Unit& unit = units[static_cast<std::size_t>(result.letter)];
-      double value = nothing;
-      Derivatives slopes{nothing, nothing};
-      if (good) {
-        // What was given is answered as it was given.
-        if (result.letter == a) {
-          value = states.first[at];
-        } else if (result.letter == Letter::Q && !point.isTwo) {
-          value = qualityOfOnePhase(request.pair, states.second[at], phase);
-        } else if (result.letter == b && b != Letter::V) {
-          value = states.second[at];
-        } else {
-          value = point.value(result.letter);
-        }
-        if (!std::isfinite(value)) {
-          status = static_cast<int>(Message::solutionError);
-        } else {
-          value = toClient(unit, value);
-        }
-        if (order.derivatives && !(result.letter == Letter::Q && !point.isTwo)) {
-          slopes = derivatives(point, result.letter, a, b);
-          slopes.byFirst *= unitA.factor / unit.factor;
-          slopes.bySecond *= unitB.factor / unit.factor;
-        }
-      }
-      write(result.value, to, value);
-      write(result.byFirst, to, slopes.byFirst);
-      write(result.bySecond, to, slopes.bySecond);
-    }
-    write(request.phase, to, phase);
-    write(request.status, to, static_cast<short>(status));
-    if (request.lineSlope.data != nullptr) {
-      const double slope = good && point.isTwo ? answers.twos.lineSlope[point.at]
-                           : good              ? 0.0
-                                               : nothing;
-      write(request.lineSlope, to,
-            slope * units[static_cast<std::size_t>(Letter::T)].factor /
-                units[static_cast<std::size_t>(Letter::P)].factor);
+      if (result.letter == Letter::Q) continue;
+      const Block& values = answers.one.values.value[static_cast<std::size_t>(result.letter)];
+      for (std::size_t i = 0; i < n; ++i) allGood &= std::isfinite(values[i]);
     }
   }
+  if (!allGood) {
+    for (std::size_t i = 0; i < n; ++i) {
+      answers.status[i] = static_cast<short>(statusOf(request, answers, i, order.pair));
+      answers.plain = answers.plain && answers.status[i] == 0;
+    }
+  }
+  writeColumn(request.status, begin, count, answers.status.data());
+
+  Block column;
+  for (const Result& result : request.results) {
+    const Unit& unit = units[static_cast<std::size_t>(result.letter)];
+    collect(request, answers, result.letter, count, column);
+    if (unit.factor != 1.0 || unit.offset != 0.0) {
+      for (std::size_t i = 0; i < n; ++i) column[i] = toClient(unit, column[i]);
+    }
+    writeColumn(result.value, begin, count, column.data());
+    if (result.byFirst.data == nullptr && result.bySecond.data == nullptr) continue;
+    Block byFirst;
+    Block bySecond;
+    for (std::size_t i = 0; i < n; ++i) {
+      Derivatives slopes{nothing, nothing};
+      const bool exists =
+          result.letter != Letter::Q || (answers.status[i] == 0 && answers.isTwo[i]);
+      if (answers.status[i] == 0 && exists) {
+        slopes = derivatives(Point(answers, i, order.pair), result.letter, a, b);
+      }
+      byFirst[i] = slopes.byFirst * unitA.factor / unit.factor;
+      bySecond[i] = slopes.bySecond * unitB.factor / unit.factor;
+    }
+    writeColumn(result.byFirst, begin, count, byFirst.data());
+    writeColumn(result.bySecond, begin, count, bySecond.data());
+  }
+  if (request.phase.data != nullptr) {
+    std::array<Phase, blockSize> phases;
+    for (std::size_t i = 0; i < n; ++i) {
+      phases[i] = answers.status[i] == 0 ? phaseOf(answers, i, order.pair) : Phase::none;
+    }
+    writeColumn(request.phase, begin, count, phases.data());
+  }
+  if (request.lineSlope.data != nullptr) {
+    const double factor = units[static_cast<std::size_t>(Letter::T)].factor /
+                          units[static_cast<std::size_t>(Letter::P)].factor;
+    for (std::size_t i = 0; i < n; ++i) {
+      column[i] =
+          answers.status[i] != 0 ? nothing
+          : answers.isTwo[i]
+              ? answers.two.values.lineSlope[static_cast<std::size_t>(answers.place[i])] * factor
+              : 0.0;
+    }
+    writeColumn(request.lineSlope, begin, count, column.data());
+  }
+}
+
+int onLine(Pair pair, double given, Letter letter, double& value, double* slope) {
+  const Order order{oneLane(), pair, {bit(letter) | lineSlopeWanted, false}};
+  Answers answers;
+  answers.first[0] = given;
+  answers.second[0] = 0.0;
+  work(order, 1, answers);
+  const bool good = answers.status[0] == 0;
+  const auto at = static_cast<std::size_t>(good ? answers.place[0] : 0);
+  value = good ? answers.two.values.value[static_cast<std::size_t>(letter)][at] : nothing;
+  if (slope != nullptr) *slope = good ? answers.two.values.lineSlope[at] : nothing;
+  return answers.status[0];
+}
+
+Wanted wantedBy(const Request& request) {
+  Wanted wanted;
+  for (const Result& result : request.results) {
+    wanted.letters |= bit(result.letter);
+    wanted.derivatives =
+        wanted.derivatives || result.byFirst.data != nullptr || result.bySecond.data != nullptr;
+  }
+  const bool needsP =
+      (wanted.letters & (transportRanges | bit(Letter::Q))) != 0 || request.phase.data != nullptr;
+  if (needsP) wanted.letters |= bit(Letter::P);
+  if (wanted.derivatives) {
+    wanted.letters |= bit(firstOf(request.pair)) | bit(secondOf(request.pair));
+  }
+  if (request.lineSlope.data != nullptr) wanted.letters |= lineSlopeWanted;
+  return wanted;
 }
 
 }  // namespace
 
 void evaluate(const Request& request, std::size_t begin, std::size_t end) noexcept {
-  Order order{kernels(), ofDensity(request.pair), 0};
-  for (const Result& result : request.results) {
-    order.letters |= bit(result.letter);
-    order.derivatives =
-        order.derivatives || result.byFirst.data != nullptr || result.bySecond.data != nullptr;
-  }
-  const bool needsP = (order.letters & transportRanges) != 0 || request.phase.data != nullptr;
-  if (needsP && firstOf(request.pair) != Letter::P) order.letters |= bit(Letter::P);
-  if (order.derivatives) {
-    order.letters |= bit(firstOf(request.pair)) | bit(secondOf(request.pair));
-  }
-  if (request.lineSlope.data != nullptr) order.letters |= lineSlopeWanted;
+  const Order order{kernels(), ofDensity(request.pair), wantedBy(request)};
   for (std::size_t start = begin; start < end; start += blockSize) {
     evaluateBlock(request, order, start,
                   static_cast<int>(std::min<std::size_t>(blockSize, end - start)));
@@ -384,48 +441,35 @@ void evaluate(const Request& request, std::size_t begin, std::size_t end) noexce
 
 int evaluate(Pair pair, double first, double second, std::span<const Letter> letters,
              double* values) noexcept {
-  Order order{oneLane(), ofDensity(pair), 0};
-  for (const Letter letter : letters) order.letters |= bit(letter);
-  if (firstOf(pair) != Letter::P) order.letters |= bit(Letter::P);
-  States states;
-  states.first[0] = first;
-  states.second[0] = secondOf(pair) == Letter::V && second >= 0.0 ? 1.0 / second : second;
+  std::array<Result, letterCount> results;
+  Request request{pair, {}, {}, {results.data(), std::min(letters.size(), results.size())}};
+  for (std::size_t i = 0; i < request.results.size(); ++i) results[i].letter = letters[i];
+  const Order order{oneLane(), ofDensity(pair), wantedBy(request)};
   Answers answers;
-  work(order, 1, states, answers);
-
-  int status = answers.status[0];
-  const Point point(answers, 0, order.pair);
-  double P = first;
-  if (status == 0 && firstOf(pair) != Letter::P) P = point.value(Letter::P);
+  answers.first[0] = first;
+  answers.second[0] = secondOf(pair) == Letter::V ? volumeToDensity(second) : second;
+  work(order, 1, answers);
+  answers.status[0] = static_cast<short>(statusOf(request, answers, 0, order.pair));
+  Block value;
   for (std::size_t i = 0; i < letters.size(); ++i) {
-    if (pair == Pair::PT) {
-      if (const int own = checkTransport(letters[i], first, second); own != 0) status = own;
-    }
-    if (status == 0) status = statusOf(point, letters[i], P);
-    if (status != 0) break;
+    collect(request, answers, letters[i], 1, value);
+    values[i] = answers.status[0] == 0 ? value[0] : nothing;
   }
-  for (std::size_t i = 0; i < letters.size(); ++i) {
-    const Letter letter = letters[i];
-    double value = nothing;
-    if (status == 0) {
-      if (letter == Letter::Q && !point.isTwo) {
-        value =
-            qualityOfOnePhase(pair, second, phaseOf(point.T(), answers.one.density[point.at], P));
-      } else {
-        value = letter == firstOf(pair)    ? first
-                : letter == secondOf(pair) ? second
-                                           : point.value(letter);
-      }
-    }
-    values[i] = value;
-  }
-  return status;
+  return answers.status[0];
 }
 
 double evaluate(Pair pair, double first, double second, Letter letter) noexcept {
   double value = nothing;
   evaluate(pair, first, second, {&letter, 1}, &value);
   return value;
+}
+
+int saturationPressure(double T, double& P, double* slope) noexcept {
+  return onLine(Pair::TQ, T, Letter::P, P, slope);
+}
+
+int saturationTemperature(double P, double& T, double* slope) noexcept {
+  return onLine(Pair::PQ, P, Letter::T, T, slope);
 }
 
 }  // namespace calvex::direct

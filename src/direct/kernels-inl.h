@@ -46,18 +46,22 @@ HWY_INLINE void startFromP(const StateTable& table, const N& P, const N& logP, c
   }
 }
 
+// The columns of a property on the line, and its value where both meet.
 template <Letter second>
 struct LineColumns;
 template <>
 struct LineColumns<Letter::H> {
+  static constexpr double critical = 2085.0;
   static constexpr LineTable::Name liquid = LineTable::hL, vapour = LineTable::hV;
 };
 template <>
 struct LineColumns<Letter::S> {
+  static constexpr double critical = 4.41;
   static constexpr LineTable::Name liquid = LineTable::sL, vapour = LineTable::sV;
 };
 template <>
 struct LineColumns<Letter::U> {
+  static constexpr double critical = 2015.0;
   static constexpr LineTable::Name liquid = LineTable::uL, vapour = LineTable::uV;
 };
 template <>
@@ -83,7 +87,9 @@ Decision<N> decidePT(const N& P, const N& T) {
   const MaskOf<N> subcritical = T < N(constants::criticalTemperature);
   const MaskOf<N> near = subcritical && (abs(P - Ps) < nearPressure * Ps ||
                                          (T < N(lowestTemperature) && P < N(lowestOfLine)));
-  const N layer = select(subcritical && P > Ps, N(0.0), N(1.0));
+  // Beyond the critical point the isochore of its density goes on from the line.
+  const N boundary = select(subcritical, Ps, constants::criticalPressure + 0.27 * (T - cold));
+  const N layer = select(P > boundary, N(0.0), N(1.0));
   Decision<N> d;
   const N safeP = select(sane, P, N(1.0));
   startFromP<Letter::T>(statesFromPT(), safeP, log(safeP), select(sane, T, N(600.0)), layer, d.T,
@@ -113,7 +119,9 @@ Decision<N> decideFromP(const StateTable& table, const N& P, const N& x) {
       hasLiquid && subcritical && safeX > liquid + margin && safeX < vapour - margin;
   const MaskOf<N> isSupercritical = safeP > N(constants::criticalPressure * 1.002);
   Decision<N> d;
-  startFromP<second>(table, safeP, logP, safeX, select(isLiquid, N(0.0), N(1.0)), d.T, d.density);
+  const MaskOf<N> liquidLike =
+      isLiquid || (!subcritical && safeX < N(LineColumns<second>::critical));
+  startFromP<second>(table, safeP, logP, safeX, select(liquidLike, N(0.0), N(1.0)), d.T, d.density);
   d.vapour = N(0.0);
   if (any(isMixture)) {
     d.T = select(isMixture, place(line.column[LineTable::T]), d.T);
@@ -238,9 +246,7 @@ HWY_INLINE MaskOf<N> nearStart(const N& density, const N& start) {
 }
 
 template <class N>
-OnePhase<N> solvePT(const N& P, const N& T, const N& density) {
-  TemperaturePartOf<N> part;
-  part.prepareAll(T, TemperatureOrder::pressure);
+OnePhase<N> solvePT(const TemperaturePartOf<N>& part, const N& P, const N& density) {
   OnePhase<N> state = densityAt(part, P, density);
   state.found = state.found && nearStart(state.density, density);
   return state;
@@ -375,82 +381,6 @@ void decideBlock(Pair pair, int count, States& states) {
   }
 }
 
-template <class N>
-HWY_INLINE OnePhase<N> solve(Pair pair, const N& a, const N& b, const N& T, const N& density) {
-  switch (pair) {
-    case Pair::PT:
-      return solvePT(a, b, density);
-    case Pair::PH:
-      return solveFromP<Letter::H>(a, b, T, density);
-    case Pair::PS:
-      return solveFromP<Letter::S>(a, b, T, density);
-    case Pair::PU:
-      return solveFromP<Letter::U>(a, b, T, density);
-    case Pair::PR:
-      return solvePR(a, b, T);
-    case Pair::TH:
-      return solveFromT<Letter::H>(a, b, density);
-    case Pair::TS:
-      return solveFromT<Letter::S>(a, b, density);
-    case Pair::TU:
-      return solveFromT<Letter::U>(a, b, density);
-    default:
-      return solveTR(a, b);
-  }
-}
-
-template <class N>
-void solveBlock(Pair pair, int count, States& states) {
-  for (int i = 0; i < count; i += NumberOf<N>::count) {
-    const Chunk<N> chunk{states, i};
-    const OnePhase<N> state = solve(pair, chunk(states.first), chunk(states.second),
-                                    chunk(states.T), chunk(states.density));
-    chunk.store(select(state.found, chunk(states.way), N(member)), states.way);
-    chunk.store(state.T, states.T);
-    chunk.store(state.density, states.density);
-  }
-}
-
-// Both saturated values of a property and with them the vapour fraction of a mixture.
-template <class N>
-HWY_INLINE N qualityOf(Letter letter, const N& x, const Equilibrium<N>& line) {
-  if (letter == Letter::Q) return x;
-  if (letter == Letter::R) {
-    return (1.0 / x - 1.0 / line.liquid) / (1.0 / line.vapour - 1.0 / line.liquid);
-  }
-  TemperaturePartOf<N> part;
-  part.prepareAll(line.T, TemperatureOrder::energy);
-  const Property property = propertyOf(letter);
-  const N liquid =
-      PropertiesOf<N>::ofFirstDerivatives(property, part, HelmholtzPointOf<N>(part, line.liquid));
-  const N vapour =
-      PropertiesOf<N>::ofFirstDerivatives(property, part, HelmholtzPointOf<N>(part, line.vapour));
-  return (x - liquid) / (vapour - liquid);
-}
-
-template <class N>
-void solveTwoPhasesBlock(Pair pair, int count, States& states) {
-  const bool fromP = firstOf(pair) == Letter::P;
-  const Letter second = secondOf(pair);
-  for (int i = 0; i < count; i += NumberOf<N>::count) {
-    const Chunk<N> chunk{states, i};
-    const N a = chunk(states.first);
-    const N liquid = chunk(states.density);
-    const N vapour = chunk(states.vapour);
-    const Equilibrium<N> line = fromP ? equilibriumAtP(a, chunk(states.T), liquid, vapour)
-                                      : equilibriumAtT(a, liquid, vapour);
-    const N quality = qualityOf(second, chunk(states.second), line);
-    MaskOf<N> found = line.found;
-    if (second != Letter::Q) found = found && within(quality, nearQuality, 1.0 - nearQuality);
-    chunk.store(select(found, N(twoPhases), N(member)), states.way);
-    chunk.store(line.T, states.T);
-    chunk.store(line.P, states.pressure);
-    chunk.store(line.liquid, states.density);
-    chunk.store(line.vapour, states.vapour);
-    chunk.store(quality, states.quality);
-  }
-}
-
 // Properties -------------------------------------------------------------------------------------
 
 template <class N>
@@ -480,12 +410,20 @@ constexpr Letters energyLetters = bit(Letter::P) | bit(Letter::H) | bit(Letter::
                                   bit(Letter::U) | bit(Letter::A) | bit(Letter::G) | bit(Letter::Z);
 constexpr Letters transportLetters = bit(Letter::M) | bit(Letter::K) | bit(Letter::N);
 
-// M is the number type of the properties: N, or N with derivatives.
+// Order of the temperature part that letters need.
+HWY_INLINE TemperatureOrder orderOf(Letters letters) {
+  return (letters & curvatureLetters) != 0 ? TemperatureOrder::curvature : TemperatureOrder::energy;
+}
+
+// Letters at a temperature and density with their temperature part, which is prepared to the order
+// of the letters; M is the number type of the properties: N, or N with derivatives.
 template <class N, class M>
-HWY_INLINE void propertiesAt(Letters letters, const M& T, const M& density, int at,
-                             Values& values) {
+HWY_NOINLINE void putProperties(Letters letters, const TemperaturePartOf<M>& part, const M& density,
+                                int at, Values& values) {
   using Properties = PropertiesOf<M>;
-  constexpr Letters special = curvatureLetters | energyLetters | transportLetters | bit(Letter::Q);
+  const M& T = part.T();
+  constexpr Letters special =
+      curvatureLetters | energyLetters | transportLetters | bit(Letter::Q) | lineSlopeWanted;
   for (Letters rest = letters & ~special; rest != 0; rest &= rest - 1) {
     const auto letter = static_cast<std::size_t>(std::countr_zero(rest));
     put(Properties::ofTemperatureAndDensity(propertyOf(static_cast<Letter>(letter)), T, density),
@@ -498,9 +436,6 @@ HWY_INLINE void propertiesAt(Letters letters, const M& T, const M& density, int 
   }
   if ((letters & (curvatureLetters | energyLetters)) == 0) return;
 
-  TemperaturePartOf<M> part;
-  part.prepareAll(T, (letters & curvatureLetters) != 0 ? TemperatureOrder::curvature
-                                                       : TemperatureOrder::energy);
   const HelmholtzPointOf<M> point(part, density);
   for (Letters rest = letters & energyLetters; rest != 0; rest &= rest - 1) {
     const auto letter = static_cast<std::size_t>(std::countr_zero(rest));
@@ -523,17 +458,27 @@ HWY_INLINE void propertiesAt(Letters letters, const M& T, const M& density, int 
 }
 
 template <class N>
-void propertiesBlock(Letters letters, bool derivatives, int count, const States& states,
+HWY_INLINE void putStates(const Wanted& wanted, const N& T, const N& density, int at,
+                          Values& values) {
+  if (wanted.derivatives) {
+    TemperaturePartOf<Dual<N>> part;
+    part.prepareAll(Dual<N>(T, N(1.0), N(0.0)), orderOf(wanted.letters));
+    putProperties<N>(wanted.letters, part, Dual<N>(density, N(0.0), N(1.0)), at, values);
+  } else {
+    TemperaturePartOf<N> part;
+    part.prepareAll(T, (wanted.letters & (curvatureLetters | energyLetters)) != 0
+                           ? orderOf(wanted.letters)
+                           : TemperatureOrder::none);
+    putProperties<N>(wanted.letters, part, density, at, values);
+  }
+}
+
+template <class N>
+void propertiesBlock(const Wanted& wanted, int begin, int end, const States& states,
                      Values& values) {
-  for (int i = 0; i < count; i += NumberOf<N>::count) {
-    const N T = NumberOf<N>::load(states.T.data() + i);
-    const N density = NumberOf<N>::load(states.density.data() + i);
-    if (derivatives) {
-      propertiesAt<N>(letters, Dual<N>(T, N(1.0), N(0.0)), Dual<N>(density, N(0.0), N(1.0)), i,
-                      values);
-    } else {
-      propertiesAt<N>(letters, T, density, i, values);
-    }
+  for (int i = begin; i < end; i += NumberOf<N>::count) {
+    putStates(wanted, NumberOf<N>::load(states.T.data() + i),
+              NumberOf<N>::load(states.density.data() + i), i, values);
   }
 }
 
@@ -581,11 +526,11 @@ HWY_INLINE void putMixture(const N& x, const N& byT, const N& byQ, bool derivati
 }
 
 template <class N>
-void mixturesBlock(Letters letters, bool derivatives, int count, const States& states,
-                   Values& values) {
+void mixturesBlock(const Wanted& wanted, int begin, int end, const States& states, Values& values) {
+  const auto [letters, derivatives] = wanted;
   constexpr Letters ofPhases = bit(Letter::H) | bit(Letter::S) | bit(Letter::U);
   const bool slopes = derivatives || (letters & lineSlopeWanted) != 0;
-  for (int i = 0; i < count; i += NumberOf<N>::count) {
+  for (int i = begin; i < end; i += NumberOf<N>::count) {
     const N T = NumberOf<N>::load(states.T.data() + i);
     const N liquid = NumberOf<N>::load(states.density.data() + i);
     const N vapour = NumberOf<N>::load(states.vapour.data() + i);
@@ -649,6 +594,106 @@ void mixturesBlock(Letters letters, bool derivatives, int count, const States& s
       }
     }
   }
+}
+
+template <class N>
+HWY_INLINE OnePhase<N> solve(Pair pair, const N& a, const N& b, const N& T, const N& density) {
+  switch (pair) {
+    case Pair::PH:
+      return solveFromP<Letter::H>(a, b, T, density);
+    case Pair::PS:
+      return solveFromP<Letter::S>(a, b, T, density);
+    case Pair::PU:
+      return solveFromP<Letter::U>(a, b, T, density);
+    case Pair::PR:
+      return solvePR(a, b, T);
+    case Pair::TH:
+      return solveFromT<Letter::H>(a, b, density);
+    case Pair::TS:
+      return solveFromT<Letter::S>(a, b, density);
+    case Pair::TU:
+      return solveFromT<Letter::U>(a, b, density);
+    default:
+      return solveTR(a, b);
+  }
+}
+
+template <class N>
+HWY_INLINE void storeState(const OnePhase<N>& state, const Chunk<N>& chunk, States& states) {
+  chunk.store(select(state.found, chunk(states.way), N(member)), states.way);
+  chunk.store(state.T, states.T);
+  chunk.store(state.density, states.density);
+}
+
+template <class N>
+void solveBlock(Pair pair, const Wanted& wanted, int count, States& states, Values& values) {
+  if (pair == Pair::PT) {
+    // The temperature is known, and what depends on it is computed once.
+    const TemperatureOrder order =
+        wanted.derivatives ? TemperatureOrder::pressure : orderOf(wanted.letters);
+    for (int i = 0; i < count; i += NumberOf<N>::count) {
+      const Chunk<N> chunk{states, i};
+      TemperaturePartOf<N> part;
+      part.prepareAll(chunk(states.second), order);
+      const OnePhase<N> state = solvePT(part, chunk(states.first), chunk(states.density));
+      storeState(state, chunk, states);
+      if (wanted.derivatives) {
+        putStates(wanted, state.T, state.density, i, values);
+      } else {
+        putProperties<N>(wanted.letters, part, state.density, i, values);
+      }
+    }
+    return;
+  }
+  for (int i = 0; i < count; i += NumberOf<N>::count) {
+    const Chunk<N> chunk{states, i};
+    const OnePhase<N> state = solve(pair, chunk(states.first), chunk(states.second),
+                                    chunk(states.T), chunk(states.density));
+    storeState(state, chunk, states);
+    if (wanted.letters != 0) putStates(wanted, state.T, state.density, i, values);
+  }
+}
+
+// Both saturated values of a property and with them the vapour fraction of a mixture.
+template <class N>
+HWY_INLINE N qualityOf(Letter letter, const N& x, const Equilibrium<N>& line) {
+  if (letter == Letter::Q) return x;
+  if (letter == Letter::R) {
+    return (1.0 / x - 1.0 / line.liquid) / (1.0 / line.vapour - 1.0 / line.liquid);
+  }
+  TemperaturePartOf<N> part;
+  part.prepareAll(line.T, TemperatureOrder::energy);
+  const Property property = propertyOf(letter);
+  const N liquid =
+      PropertiesOf<N>::ofFirstDerivatives(property, part, HelmholtzPointOf<N>(part, line.liquid));
+  const N vapour =
+      PropertiesOf<N>::ofFirstDerivatives(property, part, HelmholtzPointOf<N>(part, line.vapour));
+  return (x - liquid) / (vapour - liquid);
+}
+
+template <class N>
+void solveTwoPhasesBlock(Pair pair, const Wanted& wanted, int count, States& states,
+                         Values& values) {
+  const bool fromP = firstOf(pair) == Letter::P;
+  const Letter second = secondOf(pair);
+  for (int i = 0; i < count; i += NumberOf<N>::count) {
+    const Chunk<N> chunk{states, i};
+    const N a = chunk(states.first);
+    const N liquid = chunk(states.density);
+    const N vapour = chunk(states.vapour);
+    const Equilibrium<N> line = fromP ? equilibriumAtP(a, chunk(states.T), liquid, vapour)
+                                      : equilibriumAtT(a, liquid, vapour);
+    const N quality = qualityOf(second, chunk(states.second), line);
+    MaskOf<N> found = line.found;
+    if (second != Letter::Q) found = found && within(quality, nearQuality, 1.0 - nearQuality);
+    chunk.store(select(found, N(twoPhases), N(member)), states.way);
+    chunk.store(line.T, states.T);
+    chunk.store(line.P, states.pressure);
+    chunk.store(line.liquid, states.density);
+    chunk.store(line.vapour, states.vapour);
+    chunk.store(quality, states.quality);
+  }
+  if (wanted.letters != 0) mixturesBlock<N>(wanted, 0, count, states, values);
 }
 
 template <class N>

@@ -50,7 +50,9 @@ namespace saturation {
 #include "direct/kernels-inl.h"
 
 Kernels lanesHere() { return kernelsOf<Lanes>(hwy::TargetName(HWY_TARGET)); }
+#if HWY_TARGET == HWY_AVX2 || HWY_TARGET == HWY_STATIC_TARGET
 Kernels oneLaneHere() { return kernelsOf<double>("one lane"); }
+#endif
 
 }  // namespace calvex::direct::HWY_NAMESPACE
 HWY_AFTER_NAMESPACE();
@@ -86,40 +88,42 @@ bool machineHas([[maybe_unused]] std::int64_t target) {
   return (target & (HWY_BASELINE_TARGETS | HWY_STATIC_TARGET)) != 0;
 }
 
-// Each compiled set with its lanes and its one lane, best first.
 struct Compiled {
   std::int64_t target;
-  Kernels (*lanes)();
-  Kernels (*oneLane)();
+  Kernels (*kernels)();
 };
+// Best first.
 constexpr Compiled compiled[] = {
 #if HWY_TARGETS & HWY_AVX3
-    {HWY_AVX3, &N_AVX3::lanesHere, &N_AVX3::oneLaneHere},
+    {HWY_AVX3, &N_AVX3::lanesHere},
 #endif
 #if HWY_TARGETS & HWY_AVX2
-    {HWY_AVX2, &N_AVX2::lanesHere, &N_AVX2::oneLaneHere},
+    {HWY_AVX2, &N_AVX2::lanesHere},
 #endif
 #if HWY_TARGETS & HWY_SSE4
-    {HWY_SSE4, &N_SSE4::lanesHere, &N_SSE4::oneLaneHere},
+    {HWY_SSE4, &N_SSE4::lanesHere},
 #endif
-    {HWY_STATIC_TARGET, &HWY_STATIC_DISPATCH(lanesHere), &HWY_STATIC_DISPATCH(oneLaneHere)},
+#if HWY_TARGETS & HWY_AVX2
+    {HWY_AVX2, &N_AVX2::oneLaneHere},
+#else
+    {HWY_STATIC_TARGET, &HWY_STATIC_DISPATCH(lanesHere)},
+#endif
+    {HWY_STATIC_TARGET, &HWY_STATIC_DISPATCH(oneLaneHere)},
 };
 
+// The sets that the machine has; the last one has one lane.
 struct Machine {
-  std::array<Kernels, std::size(compiled) + 1> sets{};
-  std::array<std::string_view, std::size(compiled) + 1> names;
+  std::array<Kernels, std::size(compiled)> sets{};
+  std::array<std::string_view, std::size(compiled)> names;
   std::size_t count = 0;
 
   Machine() {
     for (const Compiled& set : compiled) {
       if (!machineHas(set.target)) continue;
-      if (count == 0) sets.back() = set.oneLane();
-      sets[count++] = set.lanes();
+      sets[count] = set.kernels();
+      names[count] = sets[count].name;
+      if (sets[count++].lanes == 1) break;
     }
-    // One lane of the best set comes last; a set of one lane is the same.
-    if (sets[count - 1].lanes == 1) --count;
-    sets[count++] = sets.back();
-    for (std::size_t i = 0; i < count; ++i) names[i] = sets[i].name;
   }
 };
 

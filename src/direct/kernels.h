@@ -52,20 +52,28 @@ inline constexpr Letters lineSlopeWanted = 1U << letterCount;
 /// The property that a letter stands for; not of Q.
 [[nodiscard]] Property propertyOf(Letter letter) noexcept;
 
+/// The properties that are computed.
+struct Wanted {
+  Letters letters = 0;
+  bool derivatives = false;
+};
+
 struct Kernels {
   std::string_view name;
   int lanes;
   /// Sets `way` and where to start.
   void (*decide)(Pair pair, int count, States& states);
-  /// From the starting points to the states; a state that is not found, or that may not be the
-  /// members' answer, goes to the member.
-  void (*solve)(Pair pair, int count, States& states);
+  /// From the starting points to the states and their properties; a state that is not found, or
+  /// that may not be the members' answer, goes to the member.
+  void (*solve)(Pair pair, const Wanted& wanted, int count, States& states, Values& values);
   /// The same for two phases, with the quality.
-  void (*solveTwoPhases)(Pair pair, int count, States& states);
-  void (*properties)(Letters letters, bool derivatives, int count, const States& states,
+  void (*solveTwoPhases)(Pair pair, const Wanted& wanted, int count, States& states,
+                         Values& values);
+  /// The properties of known states, from one place of the block to another; multiples of the
+  /// lanes.
+  void (*properties)(const Wanted& wanted, int begin, int end, const States& states,
                      Values& values);
-  void (*mixtures)(Letters letters, bool derivatives, int count, const States& states,
-                   Values& values);
+  void (*mixtures)(const Wanted& wanted, int begin, int end, const States& states, Values& values);
 };
 
 /// The sets of this machine, best first.

@@ -174,7 +174,7 @@ std::unique_ptr<StateTable> buildStatesFromPT() {
         gas = density(part, P, row == 0 ? 1000.0 * P / (gasConstant * T) : gas * 1.14);
       }
       if (!subcritical) {
-        dense = std::max(gas, constants::criticalDensity);
+        dense = gas;
       } else if (P < Ps) {
         dense = liquid * (1.0 + std::clamp((P - Ps) * slopeL, -0.2, 0.0));
       } else {
