@@ -13,8 +13,11 @@ using ByDensityExponent = std::array<N, coefficients::densityExponents.size()>;
 template <class N>
 inline constexpr double gaussianHorizon = 60.0;
 
-/// Whether the (any) number is below the limit.
-inline bool anyBelow(double x, double limit) { return x < limit; }
+/// Whether the number is below the limit; of many at once, whether any is.
+template <class N>
+bool anyBelow(const N& x, double limit) {
+  return x < limit;
+}
 
 template <class N>
 bool inSight(const N& exponent) {

@@ -6,16 +6,24 @@
 
 #include "steam/property.h"
 
-namespace calvex::test {
+namespace calvex {
+
+namespace test {
 
 /// Eager arithmetic: an expression of the formulas is a number at once.
 using Fifty = boost::multiprecision::number<boost::multiprecision::cpp_bin_float<50>,
                                             boost::multiprecision::et_off>;
 
-[[nodiscard]] inline bool anyBelow(const Fifty& x, double limit) { return x < limit; }
+}  // namespace test
 
-/// As evaluate of steam/property.h.
-[[nodiscard]] inline Fifty evaluate(Property property, const Fifty& T, const Fifty& density) {
+/// A Gaussian factor that 50 digits cannot see.
+template <>
+inline constexpr double gaussianHorizon<test::Fifty> = 150.0;
+
+namespace test {
+
+/// As `evaluate` of steam/property.h.
+[[nodiscard]] inline Fifty exactly(Property property, const Fifty& T, const Fifty& density) {
   using Properties = PropertiesOf<Fifty>;
   const TemperatureOrder order = orderOf(property);
   if (order == TemperatureOrder::none) {
@@ -29,12 +37,5 @@ using Fifty = boost::multiprecision::number<boost::multiprecision::cpp_bin_float
              : Properties::ofFirstDerivatives(property, part, point);
 }
 
-}  // namespace calvex::test
-
-namespace calvex {
-
-/// A Gaussian factor that 50 digits cannot see.
-template <>
-inline constexpr double gaussianHorizon<test::Fifty> = 150.0;
-
+}  // namespace test
 }  // namespace calvex
