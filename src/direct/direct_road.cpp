@@ -104,6 +104,26 @@ int settle(const Group& group, bool isTwo, Answers& answers, Places& left, int l
   return leftCount;
 }
 
+// The members' solver stops within its tolerance; a step of Newton's method ends where the lanes
+// do.
+void polish(const Order& order, const Answers& answers, std::size_t i, States& states,
+            std::size_t at) {
+  States one;
+  one.first[0] = answers.first[i];
+  one.second[0] = answers.second[i];
+  one.way[0] = static_cast<double>(Way::onePhase);
+  one.T[0] = states.T[at];
+  one.density[0] = states.density[at];
+  Values none;
+  oneLane().solve(order.pair, {}, 1, one, none);
+  constexpr double same = 1e-7;
+  if (std::fabs(one.T[0] / states.T[at] - 1.0) < same &&
+      std::fabs(one.density[0] / states.density[at] - 1.0) < same) {
+    states.T[at] = one.T[0];
+    states.density[at] = one.density[0];
+  }
+}
+
 // The members' own solve, one by one. A state that the lanes lost has a place already; the others,
 // from `firstLost` on in `left`, get one.
 void solveAsMember(const Order& order, const Places& left, int leftCount, int firstLost,
@@ -128,6 +148,7 @@ void solveAsMember(const Order& order, const Places& left, int leftCount, int fi
     group.states.quality[at] = found.quality;
     group.pad(lanes);
     const int begin = to / lanes * lanes;
+    if (!found.twoPhases) polish(order, answers, i, group.states, at);
     (found.twoPhases ? order.kernels.mixtures : order.kernels.properties)(
         order.wanted, begin, begin + lanes, group.states, group.values);
   }
@@ -293,6 +314,19 @@ void collect(const Request& request, const Answers& answers, Letter letter, int 
                        : letter == secondOf(request.pair) && letter != Letter::V ? &answers.second
                                                                                  : nullptr;
   const auto letterAt = static_cast<std::size_t>(letter);
+  // Cold water's density does not resolve the pressure: where it is known, Z is that of the
+  // pressure.
+  if (letter == Letter::Z && firstOf(pair) == Letter::P) {
+    for (std::size_t i = 0; i < n; ++i) {
+      if (answers.status[i] != 0) {
+        values[i] = nothing;
+        continue;
+      }
+      const Point point(answers, i, pair);
+      values[i] = compressibilityFactor(answers.first[i], point.T(), point.density());
+    }
+    return;
+  }
   if (answers.plain && (given != nullptr || letter != Letter::Q)) {
     const Block& source = given != nullptr ? *given : answers.one.values.value[letterAt];
     std::copy_n(source.begin(), n, values.begin());

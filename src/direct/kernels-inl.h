@@ -320,11 +320,62 @@ OnePhase<N> solveFromT(const N& T, const N& x, const N& start) {
 }
 
 template <class N>
+OnePhase<N> solveHS(const N& h, const N& s, const N& T, const N& density) {
+  OnePhase<N> state = stateFrom<Letter::H, Letter::S>(h, s, T, density);
+  TemperaturePartOf<N> part;
+  part.prepareAll(state.T, TemperatureOrder::pressure);
+  const N P = HelmholtzPointOf<N>(part, state.density).pressure();
+  state.found = state.found && inRange(state.T, P) && besideLine(state.T, state.density);
+  return state;
+}
+
+template <class N>
 OnePhase<N> solveTR(const N& T, const N& density) {
   TemperaturePartOf<N> part;
   part.prepareAll(T, TemperatureOrder::pressure);
   const HelmholtzPointOf<N> point(part, density);
   return {T, density, point.pressureSlope() > N(0.0) && inRange(T, point.pressure())};
+}
+
+// (h, s): interpolated between states, where there are nine, else the next one.
+template <class N>
+Decision<N> decideHS(const N& h, const N& s) {
+  const StateTable& table = statesFromHS();
+  const MaskOf<N> sane = within(h, 0.0, 11000.0) && within(s, 0.0, 14.9);
+  const N safeH = select(sane, h, N(3000.0));
+  const N safeS = select(sane, s, N(7.0));
+  N T;
+  N logDensity;
+  readStates(table, safeS, safeH, N(0.0), T, logDensity);
+  N nextT;
+  N nextLog;
+  nearestState(table, safeS, safeH, nextT, nextLog);
+  const MaskOf<N> between = within(T, 200.0, 3000.0);
+  const MaskOf<N> known = between || within(nextT, 200.0, 3000.0);
+  Decision<N> d;
+  d.T = select(between, T, nextT);
+  d.density = exp(select(between, logDensity, select(known, nextLog, N(0.0))));
+  d.vapour = N(0.0);
+  d.way = select(sane && known, N(onePhase), select(sane, N(twoPhases), N(member)));
+  return d;
+}
+
+// (h, s) in two phases: any temperature of the line starts.
+template <class N>
+HWY_INLINE void startInTwoPhases(const N& h, const N& s, N& T, N& liquid, N& vapour) {
+  const LineTable& line = lineByTemperature();
+  T = N(450.0);
+  // On the line g(T) = h - T s with the g of the table; dg/dT is -s' but for v' dP/dT.
+  for (int step = 0; step < 6; ++step) {
+    const LinePlace<N> place = placeAtT(line, T);
+    const N sL = place(line.column[LineTable::sL]);
+    const N excess = h - place(line.column[LineTable::hL]) - T * (s - sL);
+    T = min(max(T + excess / max(s - sL, N(0.05)), N(constants::triplePointTemperature)),
+            N(lineTop - 0.1));
+  }
+  const LinePlace<N> place = placeAtT(line, T);
+  liquid = place(line.column[LineTable::liquid]);
+  vapour = place(line.column[LineTable::vapour]);
 }
 
 template <class N>
@@ -364,6 +415,8 @@ HWY_INLINE Decision<N> decide(Pair pair, const N& a, const N& b) {
       return decidePQ(a, b);
     case Pair::TQ:
       return decideTQ(a, b);
+    case Pair::HS:
+      return decideHS(a, b);
     default:
       return {N(member), N(0.0), N(0.0), N(0.0)};
   }
@@ -613,6 +666,8 @@ HWY_INLINE OnePhase<N> solve(Pair pair, const N& a, const N& b, const N& T, cons
       return solveFromT<Letter::S>(a, b, density);
     case Pair::TU:
       return solveFromT<Letter::U>(a, b, density);
+    case Pair::HS:
+      return solveHS(a, b, T, density);
     default:
       return solveTR(a, b);
   }
@@ -679,10 +734,19 @@ void solveTwoPhasesBlock(Pair pair, const Wanted& wanted, int count, States& sta
   for (int i = 0; i < count; i += NumberOf<N>::count) {
     const Chunk<N> chunk{states, i};
     const N a = chunk(states.first);
-    const N liquid = chunk(states.density);
-    const N vapour = chunk(states.vapour);
-    const Equilibrium<N> line = fromP ? equilibriumAtP(a, chunk(states.T), liquid, vapour)
-                                      : equilibriumAtT(a, liquid, vapour);
+    N liquid = chunk(states.density);
+    N vapour = chunk(states.vapour);
+    Equilibrium<N> line;
+    if (pair == Pair::HS) {
+      N T;
+      const N s = chunk(states.second);
+      startInTwoPhases(a, s, T, liquid, vapour);
+      line = equilibriumAtHS(a, s, T, liquid, vapour);
+      line.found = line.found && within(line.T, lowestTemperature, lineTop);
+    } else {
+      line = fromP ? equilibriumAtP(a, chunk(states.T), liquid, vapour)
+                   : equilibriumAtT(a, liquid, vapour);
+    }
     const N quality = qualityOf(second, chunk(states.second), line);
     MaskOf<N> found = line.found;
     if (second != Letter::Q) found = found && within(quality, nearQuality, 1.0 - nearQuality);

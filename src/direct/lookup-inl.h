@@ -78,3 +78,20 @@ HWY_INLINE void readStates(const StateTable& table, const N& first, const N& sec
     valueB += wx[i] * sumB;
   }
 }
+
+/// The node of a state table next to a place.
+template <class N>
+HWY_INLINE void nearestState(const StateTable& table, const N& first, const N& second, N& valueA,
+                             N& valueB) {
+  using Number = NumberOf<N>;
+  constexpr int columns = StateTable::columns;
+  const N x = (first - table.first.low) * table.first.perUnit();
+  const N y = (focused(table.focus, second) - table.second.low) * table.second.perUnit();
+  N row;
+  N column;
+  N node;
+  Number::nearest(min(max(x, N(0.0)), N(StateTable::rows - 1.0)), row);
+  Number::nearest(min(max(y, N(0.0)), N(columns - 1.0)), column);
+  Number::gatherPair(table.node.data(), Number::nearest(row * columns + column, node), valueA,
+                     valueB);
+}

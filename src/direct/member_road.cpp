@@ -4,7 +4,9 @@
 #include <string_view>
 
 #include "diagnostics/thermo_exception.h"
+#include "direct/enthalpy_entropy.h"
 #include "steam/constants.h"
+#include "steam/phase_equilibrium.h"
 
 namespace calvex::direct {
 
@@ -59,7 +61,10 @@ int checkInputs(Pair pair, double first, double second) noexcept {
         return status;
       return checkRange(second, 0.0, 1.0);
     case Pair::HS:
-      return first >= 0.0 && second >= 0.0 ? 0 : outOfRange;
+      if (!(first >= 0.0 && second >= 0.0)) return outOfRange;
+      return std::isfinite(first) && std::isfinite(second)
+                 ? 0
+                 : static_cast<int>(Message::solutionError);
     default:
       break;
   }
@@ -109,9 +114,10 @@ int MemberRoad::find(Pair pair, double first, double second, FoundState& state) 
 void MemberRoad::onLine(double T, double quality, FoundState& state) {
   state.twoPhases = true;
   state.T = T;
-  state.pressure = model_.PSatT(T);
-  state.density = model_.saturatedTQ(Property::density, T, 0.0);
-  state.vapour = model_.saturatedTQ(Property::density, T, 1.0);
+  const PhaseEquilibrium line = equilibriumAtT(T);
+  state.pressure = line.P;
+  state.density = line.liquidDensity;
+  state.vapour = line.vapourDensity;
   state.quality = quality;
 }
 
@@ -130,6 +136,8 @@ int MemberRoad::solve(Pair pair, double first, double second, FoundState& state)
     case Pair::TQ:
       onLine(first, second, state);
       return 0;
+    case Pair::HS:
+      return stateFromHS(first, second, state);
     default: {
       const bool isVolume = secondOf(pair) == Letter::V;
       const double value = isVolume ? 1.0 / second : second;
@@ -139,6 +147,10 @@ int MemberRoad::solve(Pair pair, double first, double second, FoundState& state)
   }
   const SteamState& found = model_.state();
   if (phases == Phases::two) {
+    // There are no two phases below the triple point.
+    if (firstOf(pair) == Letter::T && first < constants::triplePointTemperature) {
+      return outOfRangeUnit;
+    }
     const double quality = found.quality;
     onLine(found.temperature, quality, state);
     if (firstOf(pair) == Letter::P) state.pressure = first;

@@ -4,9 +4,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
+#include <limits>
 #include <memory>
-#include <optional>
 #include <type_traits>
+#include <utility>
+#include <vector>
 
 #include "steam/constants.h"
 #include "steam/property.h"
@@ -304,6 +307,59 @@ std::unique_ptr<StateTable> buildStatesFromP(Focus focus, double low, double hig
   return table;
 }
 
+// From one state to its neighbours, as far as there are any: a state between the phases, or one
+// that Newton's method does not reach, is none.
+std::unique_ptr<StateTable> buildStatesFromHS() {
+  auto table = std::make_unique<StateTable>();
+  table->first = {-0.2, 15.0, StateTable::rows};
+  table->focus = {2080.0, 1500.0};
+  table->second = {focusedAt(table->focus, -60.0), focusedAt(table->focus, 11500.0),
+                   StateTable::columns};
+  constexpr float none = std::numeric_limits<float>::quiet_NaN();
+  table->node.fill({none, none});
+  const LineTable& line = lineByTemperature();
+  struct Place {
+    int row, column;
+    State start;
+  };
+  const State first = stateAt(1.0, 700.0, 3.0);
+  const auto nearest = [](double x, int count) {
+    return std::clamp(static_cast<int>(std::lround(x)), 0, count - 1);
+  };
+  std::vector<Place> waiting{
+      {nearest((valueOf<Letter::S>(first) - table->first.low) * table->first.perUnit(),
+               StateTable::rows),
+       nearest((focusedAt(table->focus, valueOf<Letter::H>(first)) - table->second.low) *
+                   table->second.perUnit(),
+               StateTable::columns),
+       first}};
+  for (std::size_t i = 0; i < waiting.size(); ++i) {
+    const Place place = waiting[i];
+    FloatPair& node = nodeAt(*table, 0, place.row, place.column);
+    if (!std::isnan(node.first)) continue;
+    const double h = unfocused(table->focus, table->second.at(place.column));
+    const OnePhase<double> state = stateFrom<Letter::H, Letter::S>(
+        h, table->first.at(place.row), place.start.T, place.start.density);
+    if (!state.found || !(state.T > 230.0 && state.T < 2900.0 && state.density > 1e-7)) continue;
+    if (state.T < lineTop) {
+      // A little beyond the line is a start as well.
+      const LinePlace<double> at = placeAtT(line, std::max(state.T, lineBottom));
+      if (state.density < 0.97 * at(line.column[LineTable::liquid]) &&
+          state.density > 1.15 * at(line.column[LineTable::vapour])) {
+        continue;
+      }
+    }
+    node = {static_cast<float>(state.T), static_cast<float>(std::log(state.density))};
+    for (const auto& [row, column] : {std::pair(-1, 0), {1, 0}, {0, -1}, {0, 1}}) {
+      const int r = place.row + row;
+      const int c = place.column + column;
+      if (r < 0 || r >= StateTable::rows || c < 0 || c >= StateTable::columns) continue;
+      waiting.push_back({r, c, {state.T, state.density}});
+    }
+  }
+  return table;
+}
+
 }  // namespace
 
 // Each is kept for the life of the process; threads that need one wait for the first.
@@ -327,6 +383,10 @@ const StateTable& statesFromPH() {
 const StateTable& statesFromPS() {
   static const std::unique_ptr<StateTable> table =
       buildStatesFromP<Letter::S>({4.4, 5.0}, -0.2, 15.8);
+  return *table;
+}
+const StateTable& statesFromHS() {
+  static const std::unique_ptr<StateTable> table = buildStatesFromHS();
   return *table;
 }
 const StateTable& statesFromPU() {

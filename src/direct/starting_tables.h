@@ -73,5 +73,7 @@ inline constexpr double lowestPressure = 6e-4;  // MPa
 [[nodiscard]] const StateTable& statesFromPH();
 [[nodiscard]] const StateTable& statesFromPS();
 [[nodiscard]] const StateTable& statesFromPU();
+/// Over s and h, one layer: temperature and ln(density); NaN where no state was reached.
+[[nodiscard]] const StateTable& statesFromHS();
 
 }  // namespace calvex::direct

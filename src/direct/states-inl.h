@@ -204,3 +204,47 @@ Equilibrium<N> equilibriumAtP(const N& P, const N& startT, const N& startLiquid,
   found = found && vapour < N(constants::criticalDensity) && liquid > N(constants::criticalDensity);
   return {T, P, liquid, vapour, found};
 }
+
+/// The equilibrium whose mixture has enthalpy h and entropy s: g = h - T s in both phases. With
+/// dg = dP/r - s dT and A = g - P/r of each phase, two linear equations for P and dT.
+template <class N>
+Equilibrium<N> equilibriumAtHS(const N& h, const N& s, const N& startT, const N& startLiquid,
+                               const N& startVapour) {
+  using Mask = typename NumberOf<N>::Mask;
+  N T = startT;
+  N P = N(0.0);
+  N liquid = startLiquid;
+  N vapour = startVapour;
+  Mask found = T < N(0.0);
+  for (int step = 0; step < newtonSteps; ++step) {
+    TemperaturePartOf<N> part;
+    part.prepareAll(T, TemperatureOrder::curvature);
+    const HelmholtzPointOf<N> l(part, liquid);
+    const HelmholtzPointOf<N> v(part, vapour);
+    const auto dl = l.derivatives();
+    const auto dv = v.derivatives();
+    const N RT = coefficients::R * T;
+    const N rl = 0.001 * liquid;
+    const N rv = 0.001 * vapour;
+    const N g = h - T * s;
+    const N toLiquid = g - l.helmholtz();
+    const N toVapour = g - v.helmholtz();
+    const N sl = s - l.entropy();
+    const N sv = s - v.entropy();
+    const N determinant = sv / rl - sl / rv;
+    const N line = (toLiquid * sv - toVapour * sl) / determinant;
+    const N deltaT = held((toVapour / rl - toLiquid / rv) / (determinant * T));
+    const N deltaL = held((line - l.pressure() - dl.PT * deltaT * T) / (dl.Pr * rl));
+    const N deltaV = held((line - v.pressure() - dv.PT * deltaT * T) / (dv.Pr * rv));
+    T = select(found, T, T + T * deltaT);
+    P = select(found, P, line);
+    liquid = select(found, liquid, liquid + liquid * deltaL);
+    vapour = select(found, vapour, vapour + vapour * deltaV);
+    found = found || (dl.Pr > N(0.0) && dv.Pr > N(0.0) &&
+                      errorAfter(max(abs(deltaL), abs(deltaT)), dl.Pr, RT) < N(acceptedError) &&
+                      errorAfter(max(abs(deltaV), abs(deltaT)), dv.Pr, RT) < N(acceptedError));
+    if (every(found)) break;
+  }
+  found = found && vapour < N(constants::criticalDensity) && liquid > N(constants::criticalDensity);
+  return {T, P, liquid, vapour, found};
+}

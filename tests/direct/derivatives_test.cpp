@@ -10,92 +10,18 @@ namespace {
 using direct::Letter;
 using direct::Pair;
 
-constexpr Property properties[] = {Property::pressure,
-                                   Property::temperature,
-                                   Property::enthalpy,
-                                   Property::entropy,
-                                   Property::internalEnergy,
-                                   Property::density,
-                                   Property::specificVolume,
-                                   Property::temperature,  // Q has none
-                                   Property::helmholtz,
-                                   Property::gibbs,
-                                   Property::viscosity,
-                                   Property::thermalConductivity,
-                                   Property::isobaricHeatCapacity,
-                                   Property::isochoricHeatCapacity,
-                                   Property::compressibilityFactor,
-                                   Property::speedOfSound,
-                                   Property::prandtlNumber,
-                                   Property::dielectricConstant,
-                                   Property::isothermalThrottling,
-                                   Property::jouleThomson,
-                                   Property::thermalExpansion,
-                                   Property::compressibility};
-static_assert(std::size(properties) == direct::letterCount);
-
 // By both variables of the state: T and density of one phase, T and quality of two.
 struct Gradient {
   Fifty byX;
   Fifty byY;
 };
 
-const Fifty step = 1e-16;  // relative; its square is lost against 1e-30
-
 Gradient onePhase(Letter letter, const Fifty& T, const Fifty& density) {
-  const Property property = properties[static_cast<int>(letter)];
+  const Property property = propertyOf(letter);
   const Fifty dT = T * step;
   const Fifty dR = density * step;
   return {(exactly(property, T + dT, density) - exactly(property, T - dT, density)) / (2 * dT),
           (exactly(property, T, density + dR) - exactly(property, T, density - dR)) / (2 * dR)};
-}
-
-// The equilibrium at T with 50 digits, from one that is good to 1e-10.
-struct Line {
-  Fifty liquid;
-  Fifty vapour;
-};
-Line lineAt(const Fifty& T, Line line) {
-  for (int i = 0; i < 4; ++i) {
-    const Fifty dP =
-        exactly(Property::pressure, T, line.vapour) - exactly(Property::pressure, T, line.liquid);
-    const Fifty dg =
-        exactly(Property::gibbs, T, line.vapour) - exactly(Property::gibbs, T, line.liquid);
-    // dg = v dP of each phase, MPa and kg/m3 to kJ/kg by 1000
-    const Fifty vl = 1000 / line.liquid;
-    const Fifty vv = 1000 / line.vapour;
-    const Fifty toLiquid = (dg - dP * vv) / (vl - vv);
-    const Fifty toVapour = toLiquid - dP;
-    const auto slope = [&](const Fifty& density) {
-      const Fifty d = density * step;
-      return (exactly(Property::pressure, T, density + d) -
-              exactly(Property::pressure, T, density - d)) /
-             (2 * d);
-    };
-    line = {line.liquid + toLiquid / slope(line.liquid),
-            line.vapour + toVapour / slope(line.vapour)};
-  }
-  return line;
-}
-
-Fifty mixture(Letter letter, const Fifty& T, const Fifty& quality, const Line& line) {
-  switch (letter) {
-    case Letter::P:
-      return exactly(Property::pressure, T, line.vapour);
-    case Letter::T:
-      return T;
-    case Letter::Q:
-      return quality;
-    case Letter::V:
-      return (1 - quality) / line.liquid + quality / line.vapour;
-    case Letter::R:
-      return 1 / ((1 - quality) / line.liquid + quality / line.vapour);
-    default: {
-      const Property property = properties[static_cast<int>(letter)];
-      return (1 - quality) * exactly(property, T, line.liquid) +
-             quality * exactly(property, T, line.vapour);
-    }
-  }
 }
 
 struct Lines {

@@ -45,7 +45,7 @@ TEST(Rounding, IsSmallOverTheWholeRange) {
     const double density = std::exp(between(std::log(1e-6), std::log(1300.0)));
     for (const Judged& row : judged) {
       const auto exact = static_cast<double>(exactly(row.property, T, density));
-      grid.near(evaluate(row.property, T, density), exact, 3e-13,
+      grid.near(evaluate(row.property, T, density), exact, 1e-11,
                 std::max(std::abs(exact), row.scale(T, density)),
                 fmt::format("{}, T = {:.17g}, rho = {:.17g}", row.name, T, density));
     }

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <limits>
+#include <ostream>
 #include <random>
 #include <string>
 #include <string_view>
@@ -25,6 +26,8 @@ struct PairMembers {
   direct::Letter letters[2];
   Member members[2];
 };
+
+inline void PrintTo(const PairMembers& row, std::ostream* out) { *out << row.name; }
 
 inline const PairMembers pairMembers[] = {
     {direct::Pair::PT,
