@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "steam/constants.h"
 
@@ -143,7 +144,9 @@ std::optional<double> density(double P, double T, Side side) {
   const auto interval =
       twoSides && side == Side::liquid
           ? firstChange(f, densest, phasesMeet, scaledBy(0.98))
-          : firstChange(f, idealGas / 20.0, twoSides ? phasesMeet : densest, scaledBy(1.08));
+          // A density of zero would never grow: 5e-324 MPa is a pressure, too.
+          : firstChange(f, std::max(idealGas / 20.0, std::numeric_limits<double>::min()),
+                        twoSides ? phasesMeet : densest, scaledBy(1.08));
   if (!interval) return std::nullopt;
   const double root = rootWithin(f, *interval);
   return isStable(temperature, root) ? std::optional(root) : std::nullopt;
