@@ -16,6 +16,7 @@
 #include "equipment/brent.h"
 #include "equipment/model.h"
 #include "equipment/model_results.h"
+#include "equipment/plausibility.h"
 #include "spreadsheet/variants.h"
 #include "steam/constants.h"
 #include "steam/solver.h"
