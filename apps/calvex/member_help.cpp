@@ -77,8 +77,7 @@ std::string settingText(const Member& member, ZvCalvex& object) {
   object.invoke(member, read.call.arguments);
   const std::string line = outcomeText(read, object.engine().units());
   const std::size_t begin = line.find("= ") + 2;
-  const std::string shown = line.substr(begin, line.find("  ", begin) - begin);
-  return shown.find_first_not_of(' ') == std::string::npos ? "empty" : shown;
+  return line.substr(begin, line.find("  ", begin) - begin);
 }
 
 std::string settingSections(const Member& member, const MemberExplanation& explained) {

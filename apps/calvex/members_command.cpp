@@ -120,8 +120,9 @@ std::string search(const std::string& pattern) {
   for (const Member& member : memberTable()) all.push_back({&member, explanation(member)});
   const Words wanted = wordsIn(pattern);
   for (const Found& one : all) {
+    const bool underHeading = mentions(headingText(one.explained.heading), wanted);
     if (nameMatches(one.member->name, pattern) ||
-        (!wanted.empty() && mentions(answerWords(one), wanted))) {
+        (!wanted.empty() && (underHeading || mentions(answerWords(one), wanted)))) {
       found.push_back(one);
     } else if (!wanted.empty() && mentions(allWords(one), wanted)) {
       others.push_back(one);

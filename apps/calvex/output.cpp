@@ -200,8 +200,9 @@ std::string outcomeText(const Outcome& outcome, const UserUnits& units) {
       return;
     }
     const ParameterExplanation explained = parameterExplanation(member, parameter);
-    lines.push_back(
-        {explained.label, valueText(value), currentUnit(units, parameter.group), explained.words});
+    const std::string shown = valueText(value);
+    lines.push_back({explained.label, shown.empty() ? "(empty)" : shown,
+                     currentUnit(units, parameter.group), explained.words});
   });
   const std::string text = equations(lines) + arrays;
   return text.empty() && outcome.succeeded() ? "done\n" : text;

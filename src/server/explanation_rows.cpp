@@ -265,15 +265,16 @@ constexpr ExplanationRow rows[] = {
      "answer; dblFromVal=value; dblToVal/value=converted value",
      "P psia bara 100"},
     {"ShowSelectUomDlg", units, "show the dialog that chooses units (Windows)",
-     "Elsewhere there is no dialog, and the answer is 2, cancelled.",
-     "pRet=1 when units were chosen, 2 when not", ""},
+     "It answers 1 when units were chosen and 2 when not. Elsewhere there is no dialog: 2.",
+     "pRet=how the dialog ended", ""},
 
     // Diagnostics.
     {"LastError", diagnostics, "the reason of the last failure",
      "A call that succeeds does not empty it.", "pVal=last error", ""},
     {"ShowTraceDlg", diagnostics, "show the dialog with the traced calls (Windows)",
-     "Elsewhere there is no dialog, and the answer is 2, cancelled.",
-     "pRet=1 closed, 999 a call was chosen, 2 cancelled", ""},
+     "It answers 1 when it was closed, 999 when a call was chosen and 2 when it was cancelled. "
+     "Elsewhere there is no dialog: 2.",
+     "pRet=how the dialog ended", ""},
     {"ClearTraceInfo", diagnostics, "empty the trace and the last error", "", "", ""},
     {"AddCustomTraceTitle", diagnostics, "add a column of one's own to the trace", "",
      "strTitle=title of the column", "Cell"},
@@ -337,7 +338,7 @@ constexpr ExplanationRow rows[] = {
     {"hWnd", settings, "kept for clients that ask for a window; there is none", "",
      "pVal=no answer", ""},
     {"ShowOptionsDlg", settings, "kept for clients that ask for a dialog of options",
-     "There is none: the answer is 2, cancelled.", "pRet=always 2", ""},
+     "There is none: the answer is 2, cancelled.", "pRet=how the dialog ended", ""},
 };
 
 constexpr Limits onLineT{constants::triplePointTemperature, constants::criticalTemperature};

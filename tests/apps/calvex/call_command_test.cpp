@@ -55,6 +55,10 @@ TEST(CallCommand, AValueWithoutAUnitStandsAlone) {
   EXPECT_EQ(z.substr(z.find_first_of(' ', 4)), "  compressibility factor\n") << z;
 }
 
+TEST(CallCommand, AnEmptyTextIsShownAsOne) {
+  EXPECT_EQ(calvex({"LastError"}).out, "LastError = (empty)  last error\n");
+}
+
 // The tokens stand for themselves, whatever case they are asked for in; what a setting leaves out
 // of the array is left out here too.
 TEST(CallCommand, NamesTheResultsOfASpreadsheetMemberByTheirTokens) {

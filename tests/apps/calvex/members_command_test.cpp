@@ -76,6 +76,9 @@ TEST(MembersCommand, FindsByWordsWhatAnswersThem) {
     EXPECT_FALSE(lists(answer.out, one.notFound)) << one.words.front() << "\n" << answer.out;
   }
   EXPECT_TRUE(contains(calvex({"members", "enthalpy"}).out, "also in the inputs or notes of"));
+  const Answer settings = calvex({"members", "settings"});
+  EXPECT_TRUE(lists(settings.out, "SolverTol")) << "a heading is a word too";
+  EXPECT_FALSE(lists(settings.out, "HPT"));
   EXPECT_EQ(calvex({"members", "banana"}).status, 2);
 }
 
