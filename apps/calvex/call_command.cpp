@@ -25,6 +25,7 @@ ExitStatus callMember(const Words& words, const ClientOptions& options, Console&
     console.out << outcomeText(outcome, client.units());
     if (options.trace) console.out << traceText(root);
   }
+  fmt::print(console.err, "{}", warningText(outcome));
   if (outcome.succeeded()) return ExitStatus::ok;
   fmt::print(console.err, "calvex: {}\n", failureText(outcome));
   if (!member.isProperty && !inputs(member).empty()) {
@@ -50,7 +51,11 @@ ExitStatus callCommand(const Words& words, Console& console) {
   app.add_flag("-h,--help", help, "Explain the member");
   const std::optional<Words> call = parseAround(app, words, console);
   if (!call) return ExitStatus::ok;
-  if (help) return membersCommand({std::string(memberNamed(words.front()).name)}, console);
+  if (help) {
+    Words about = {std::string(memberNamed(words.front()).name)};
+    for (const std::string& unit : options.units) about.insert(about.end(), {"-u", unit});
+    return membersCommand(about, console);
+  }
   try {
     return callMember(*call, options, console);
   } catch (const Failure& failure) {

@@ -42,6 +42,15 @@ void runOrFail(Client& client, Call call) {
 
 }  // namespace
 
+void Client::reset() {
+  object_.reset();
+  object_ = std::make_unique<ZvCalvex>(module_);
+  for (const StartingSetting& setting : startingSettings) {
+    Value value = setting.value;
+    object_->put(*findMember(setting.member), {&value, 1});
+  }
+}
+
 void ClientOptions::addUnitsTo(CommandOptions& app) {
   addRepeatable(app, "-u,--unit", units, "GROUP=UNIT",
                 "Unit for a quantity, such as T=C or Pressure=bara; may be repeated");

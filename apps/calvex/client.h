@@ -14,16 +14,26 @@
 
 namespace calvex::cli {
 
+/// A setting whose value the command line starts with is not the automation server's.
+struct StartingSetting {
+  std::string_view member;
+  int value;
+};
+
+/// People at a prompt want the true phase beside the saturation line, and to hear of warnings.
+inline constexpr StartingSetting startingSettings[] = {
+    {"SatPolish", 2},
+    {"TraceLevel", 1},
+};
+
 /// One client object of a module of its own.
 class Client {
  public:
   Client() { reset(); }
 
-  /// Releases the object and makes a new one: settings and trace go back to their defaults.
-  void reset() {
-    object_.reset();
-    object_ = std::make_unique<ZvCalvex>(module_);
-  }
+  /// Releases the object and makes a new one: the trace is empty and the settings are the starting
+  /// ones again. The units stay.
+  void reset();
   [[nodiscard]] ZvCalvex& object() { return *object_; }
   [[nodiscard]] ZvThermoInt& engine() { return module_.engine(); }
   [[nodiscard]] const UserUnits& units() { return module_.engine().units(); }

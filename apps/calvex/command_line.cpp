@@ -25,11 +25,12 @@ struct Command {
   ExitStatus (*run)(const Words& words, Console& console);
 };
 
-constexpr std::array<Command, 7> commands = {{
-    {"members", "members [PATTERN]", "List members, or explain one", membersCommand},
+constexpr std::array<Command, 8> commands = {{
+    {"state", "state P=10 T=773.15", "Print every property of a state", stateCommand},
+    {"members", "members [WORDS]", "Find members by words, or explain one", membersCommand},
     {"units", "units [GROUP]", "List quantities, or the units of one", unitsCommand},
     {"convert", "convert GROUP VALUE FROM TO", "Convert a value between units", convertCommand},
-    {"table", "table saturation|isobar", "Print a table over a range", tableCommand},
+    {"table", "table saturation|isobar|isotherm", "Print a table over a range", tableCommand},
     {"run", "run [FILE|-]", "Run a script, one call a line", runCommand},
     {"help", "help [COMMAND|MEMBER]", "Explain a command or a member", helpCommand},
     {"version", "version", "Print the version", versionCommand},
@@ -53,12 +54,13 @@ std::string generalHelp() {
       "\n"
       "Examples:\n"
       "  calvex HPT 10 773.15                     enthalpy of steam at 10 MPa and 773.15 K\n"
+      "  calvex state P=10 T=500 -u T=C           everything about that state\n"
       "  calvex TSatP 1 -u P=atm -u T=C           boiling point at one atmosphere, in Celsius\n"
       "  calvex convert P 100 psia bara           100 psia in bara\n"
       "\n"
       "Commands:\n";
   for (const Command& command : commands) {
-    text += fmt::format("  {:<28}  {}\n", command.form, command.summary);
+    text += fmt::format("  {:<32}  {}\n", command.form, command.summary);
   }
   text +=
       "\n"
@@ -79,7 +81,9 @@ ExitStatus helpCommand(const Words& words, Console& console) {
     }
     return command->run({"--help"}, console);
   }
-  return membersCommand({std::string(memberNamed(words.front()).name)}, console);
+  Words about = words;
+  about.front() = memberNamed(words.front()).name;
+  return membersCommand(about, console);
 }
 
 ExitStatus versionCommand(const Words& /*words*/, Console& console) {

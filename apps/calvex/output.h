@@ -9,13 +9,24 @@
 
 namespace calvex::cli {
 
-/// One line an output: name, value and unit in columns. "done" when there is nothing to show.
+/// "H = 3373.998049 kJ/kg  enthalpy"; the unit and the words may be empty.
+struct Equation {
+  std::string name, value, unit, words;
+};
+/// One line each, in columns.
+[[nodiscard]] std::string equations(const std::vector<Equation>& lines);
+
+/// One line an output: its name, value and unit, and what it is. "done" when there is nothing to
+/// show.
 [[nodiscard]] std::string outcomeText(const Outcome& outcome, const UserUnits& units);
 
 /// {"member":"HPT","hresult":0,"pSucc":1,"pH":3373.99804895,"units":{"pH":"kJ/kg"}}; an output that
 /// was not written is absent. A trace that is given is added.
 [[nodiscard]] std::string outcomeJson(const Outcome& outcome, const UserUnits& units,
                                       const ZvFunctionCall* trace = nullptr);
+
+/// "calvex: warning: ..." for each warning of a call, after where it happened ("line 4: ").
+[[nodiscard]] std::string warningText(const Outcome& outcome, std::string_view place = {});
 
 /// {"error":"..."} for what cannot be run.
 [[nodiscard]] std::string errorJson(std::string_view text);
@@ -29,6 +40,8 @@ namespace calvex::cli {
 /// what follows them in their row is moved to the right.
 [[nodiscard]] std::string aligned(const std::vector<std::vector<std::string>>& rows,
                                   std::size_t widest = std::string::npos);
+/// A text in lines of at most `columns` characters, broken at blanks.
+[[nodiscard]] std::string wrapped(std::string_view text, std::size_t columns = 100);
 /// The lines of a text, two blanks to the right.
 [[nodiscard]] std::string indented(std::string_view lines);
 

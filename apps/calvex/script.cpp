@@ -152,6 +152,7 @@ class Interpreter {
     } else {
       out_ << line.source << '\n' << indented(outcomeText(outcome, client_.units()));
     }
+    fmt::print(err_, "{}", warningText(outcome, fmt::format("line {}: ", lineNumber_)));
     if (!outcome.succeeded()) {
       if (status_ == ExitStatus::ok) status_ = ExitStatus::callFailed;
       report(failureText(outcome));

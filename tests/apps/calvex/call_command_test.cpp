@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <bit>
 #include <cstdint>
 
 #include "command_line_harness.h"
+#include "server/member_explanations.h"
 #include "server/zv_calvex.h"
 
 namespace calvex::cli::test {
@@ -17,12 +19,13 @@ TEST(CallCommand, PrintsNameValueAndUnit) {
   EXPECT_EQ(answer.status, 0);
   EXPECT_EQ(answer.err, "");
   std::istringstream line(answer.out);
-  std::string name, unit, rest;
+  std::string name, sign, unit, words, rest;
   double value = 0.0;
-  line >> name >> value >> unit;
-  EXPECT_EQ(name, "pH");
+  line >> name >> sign >> value >> unit >> words;
+  EXPECT_EQ(name + sign, "H=");
   EXPECT_NEAR(value, enthalpyAt10MPa500C, 1e-9 * enthalpyAt10MPa500C);
   EXPECT_EQ(unit, "kJ/kg");
+  EXPECT_EQ(words, "enthalpy");
   EXPECT_FALSE(line >> rest) << rest;
 }
 
@@ -46,10 +49,78 @@ TEST(CallCommand, AlignsSeveralOutputs) {
 }
 
 TEST(CallCommand, AValueWithoutAUnitStandsAlone) {
-  EXPECT_EQ(calvex({"TraceLevel"}).out, "TraceLevel  0\n");
+  EXPECT_EQ(calvex({"TraceLevel"}).out, "TraceLevel = 1  reporting level\n");
   const std::string z = calvex({"ZPT", "0.1", "500"}).out;
-  EXPECT_EQ(z.substr(0, 6), "pZ  0.");
-  EXPECT_EQ(z.find_first_of(' ', 4), std::string::npos) << z;
+  EXPECT_EQ(z.substr(0, 6), "Z = 0.");
+  EXPECT_EQ(z.substr(z.find_first_of(' ', 4)), "  compressibility factor\n") << z;
+}
+
+TEST(CallCommand, AnEmptyTextIsShownAsOne) {
+  EXPECT_EQ(calvex({"LastError"}).out, "LastError = (empty)  last error\n");
+}
+
+// The tokens stand for themselves, whatever case they are asked for in; what a setting leaves out
+// of the array is left out here too.
+TEST(CallCommand, NamesTheResultsOfASpreadsheetMemberByTheirTokens) {
+  const Words call = {"XLTurbineA", "3374", "10", "1", "0.8", "10", "pow, t_out"};
+  const auto lines = linesOf(calvex(call).out);
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_TRUE(lines[0].starts_with("Pow   = 47")) << lines[0];
+  EXPECT_TRUE(lines[0].ends_with(" kW  turbine power")) << lines[0];
+  EXPECT_TRUE(lines[1].starts_with("T_Out = 504.")) << lines[1];
+  EXPECT_TRUE(lines[1].ends_with(" K   outlet temperature")) << lines[1];
+  Words bare = call;
+  bare.insert(bare.end(), {"-s", "ReturnModelUnits=0", "-s", "ReturnModelTokens=0"});
+  for (const std::string& line : linesOf(calvex(bare).out)) {
+    EXPECT_EQ(line.find_first_not_of("0123456789.", line.find('=') + 2), std::string::npos) << line;
+  }
+}
+
+// Both hot enthalpies are labelled alike in the array.
+TEST(CallCommand, TellsTheHotOutletFromTheHotInlet) {
+  const std::string text =
+      calvex({"XLHeatExchangerA", "10", "1", "0.05", "320.15", "360.15", "0", "0", "0.3", "0.02",
+              "423.15", "393.15", "1", "0", "H_HIn H_HOut"})
+          .out;
+  EXPECT_TRUE(contains(text, "hot inlet enthalpy")) << text;
+  EXPECT_TRUE(contains(text, "hot outlet enthalpy")) << text;
+}
+
+TEST(CallCommand, OutputsHaveNamesOfTheirOwn) {
+  for (const Member& member : memberTable()) {
+    std::vector<std::string> labels;
+    for (const Parameter& parameter : member.parameters()) {
+      if (!parameter.isOutput()) continue;
+      const std::string label = parameterExplanation(member, parameter).label;
+      EXPECT_EQ(std::count(labels.begin(), labels.end(), label), 0) << member.name << label;
+      labels.push_back(label);
+    }
+  }
+}
+
+TEST(CallCommand, PrintsWarningsOnceEachOnStandardError) {
+  const Answer hot = calvex({"HPT", "1", "1300"});
+  EXPECT_EQ(hot.status, 0);
+  EXPECT_EQ(hot.err, "calvex: warning: Temperature parameter out of strictly valid range.\n");
+  const Answer json = calvex({"HPT", "1", "1300", "--json"});
+  EXPECT_EQ(json.err, hot.err);
+  EXPECT_FALSE(contains(json.out, "warning")) << json.out;
+  EXPECT_EQ(calvex({"HPT", "1", "1300", "-s", "TraceLevel=0"}).err, "");
+  EXPECT_EQ(calvex({"HPT", "1", "1200"}).err, "");
+}
+
+TEST(CallCommand, AWarningOfSeveralInnerCallsIsPrintedOnce) {
+  // Two properties of a turbine's outlet, each beyond the strict limit of 1345.67 MPa.
+  const Answer answer = calvex({"TurbineA", "3400", "1500", "1400", "0.8", "10"});
+  EXPECT_EQ(answer.status, 0) << answer.err;
+  const auto lines = linesOf(answer.err);
+  EXPECT_GE(lines.size(), 1U);
+  for (const std::string& line : lines) {
+    EXPECT_TRUE(line.starts_with("calvex: warning: ")) << line;
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), line), 1) << line;
+  }
+  EXPECT_TRUE(contains(answer.err, "Pressure parameter out of strictly valid range."))
+      << answer.err;
 }
 
 TEST(CallCommand, TakesUnitsBeforeAndBehindTheMember) {
@@ -91,6 +162,14 @@ TEST(CallCommand, AFailedCallSaysWhyAndWhatTheMemberTakes) {
   EXPECT_EQ(answer.err,
             "calvex: HPT failed: Temperature parameter out of range (Valid range -13.15 to 2226.85 "
             "C).\nHPT takes P (Pressure, MPa), T (Temperature, C)\n");
+}
+
+TEST(CallCommand, AZeroPressureIsCalledByItsName) {
+  const Answer answer = calvex({"HPT", "0", "500"});
+  EXPECT_EQ(answer.status, 1);
+  EXPECT_EQ(answer.err,
+            "calvex: HPT failed: Solution Error.\nHPT takes P (Pressure, MPa), T (Temperature, "
+            "K)\nthe pressure must be above zero\n");
 }
 
 TEST(CallCommand, SaysThatTracingIsOffWhenNoReasonWasRecorded) {
@@ -188,7 +267,7 @@ TEST(CallCommand, ChecksSettings) {
   const Answer refused = calvex({"HPT", "10", "773.15", "-s", "SolverTol=1"});
   EXPECT_EQ(refused.status, 1);
   EXPECT_EQ(refused.err, "calvex: SolverTol failed: Invalid solver tolerance specified.\n");
-  EXPECT_EQ(calvex({"TraceLevel", "-s", "TraceLevel=2"}).out, "TraceLevel  2\n");
+  EXPECT_EQ(calvex({"TraceLevel", "-s", "TraceLevel=2"}).out, "TraceLevel = 2  reporting level\n");
 }
 
 TEST(CallCommand, UnknownOptionsAreRefused) {

@@ -41,7 +41,7 @@ Finished calvex(const std::string& arguments) {
 TEST(Program, AnswersTheFirstQuestion) {
   const Finished run = calvex("HPT 10 773.15");
   EXPECT_EQ(run.status, 0);
-  EXPECT_EQ(run.out, "pH  3373.998049  kJ/kg\n");
+  EXPECT_EQ(run.out, "H = 3373.998049 kJ/kg  enthalpy\n");
   EXPECT_EQ(run.err, "");
 }
 
@@ -63,7 +63,8 @@ TEST(Program, ExitStatusIsTwoForUsageErrors) {
 }
 
 TEST(Program, UnitsAreTypedInUtf8) {
-  EXPECT_EQ(calvex("HPT 10000000 500 -u 'P=N/m\u00B2' -u T=C").out, "pH  3373.998049  kJ/kg\n");
+  EXPECT_EQ(calvex("HPT 10000000 500 -u 'P=N/m\u00B2' -u T=C").out,
+            "H = 3373.998049 kJ/kg  enthalpy\n");
   EXPECT_EQ(calvex("convert P 1 'ft H2O' 'N/m\u00B2'").out, "1 ft H2O = 2989.07 N/m\u00B2\n");
 }
 
@@ -76,7 +77,7 @@ TEST(Program, RunsAScriptFromAFileAndFromStandardInput) {
   unlink(path.c_str());
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(
-      run.out.find("{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":0}\n{\"member\":\"HPT\""),
+      run.out.find("{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":1}\n{\"member\":\"HPT\""),
       0U)
       << run.out;
   EXPECT_EQ(run.err.find("calvex: line 2: HPT failed"), 0U) << run.err;

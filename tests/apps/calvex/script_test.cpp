@@ -129,7 +129,7 @@ TEST(RunCommand, ALineThatCannotBeRunIsAnErrorAndTheNextOneRuns) {
   EXPECT_TRUE(contains(lines[4], "'0.5' is not a whole number")) << lines[4];
   EXPECT_TRUE(contains(lines[5], "Windows-1252")) << lines[5];
   EXPECT_TRUE(contains(lines[6], "reset takes no arguments")) << lines[6];
-  EXPECT_EQ(lines[7], R"({"member":"SatPolish","hresult":0,"value":1})");
+  EXPECT_EQ(lines[7], R"({"member":"SatPolish","hresult":0,"value":2})");
 }
 
 TEST(RunCommand, TheTraceIsNestedFromTheRoot) {
@@ -146,9 +146,10 @@ TEST(RunCommand, TheTraceIsNestedFromTheRoot) {
 TEST(RunCommand, ResetMakesANewClientObject) {
   const Lines lines = jsonOf(
       "SatPolish 0\nSetUserUnit T C\nHPT 10 99999\nreset\nSatPolish\n"
-      "GetUserUnit T\ntrace\n");
-  ASSERT_EQ(lines.size(), 7U);
-  EXPECT_EQ(lines[4], R"({"member":"SatPolish","hresult":0,"value":1})");
+      "GetUserUnit T\ntrace\nTraceLevel\n");
+  ASSERT_EQ(lines.size(), 8U);
+  EXPECT_EQ(lines[4], R"({"member":"SatPolish","hresult":0,"value":2})");
+  EXPECT_EQ(lines[7], R"({"member":"TraceLevel","hresult":0,"value":1})");
   EXPECT_TRUE(contains(lines[5], R"("pVal":"C")")) << "the units stay";
   EXPECT_EQ(lines[6], R"({"text":"Root","kind":0,"columns":[],"children":[]})");
 }
@@ -156,9 +157,10 @@ TEST(RunCommand, ResetMakesANewClientObject) {
 TEST(RunCommand, PrintsReadableTextAndReasonsWithLineNumbers) {
   const Answer answer =
       calvexWithInput("# steam\nHPT 10 773.15\n\nHPT 10 99999\nAppLevel 4\ntrace\n", {"run", "-"});
-  EXPECT_EQ(answer.out,
-            "HPT 10 773.15\n  pH  3373.998049  kJ/kg\nHPT 10 99999\nAppLevel 4\ntrace\n  HPT\n"
-            "    error: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n");
+  EXPECT_EQ(
+      answer.out,
+      "HPT 10 773.15\n  H = 3373.998049 kJ/kg  enthalpy\nHPT 10 99999\nAppLevel 4\ntrace\n  HPT\n"
+      "    error: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n");
   EXPECT_EQ(answer.err,
             "calvex: line 4: HPT failed: Temperature parameter out of range (Valid range 260.00 to "
             "2500.00 K).\ncalvex: line 5: AppLevel failed and gave no reason\n"
@@ -196,6 +198,14 @@ TEST(RunCommand, ASilentFailureDoesNotTakeTheReasonOfTheCallBefore) {
   EXPECT_TRUE(contains(answer.err, "AppLevel failed and gave no reason")) << answer.err;
 }
 
+TEST(RunCommand, AWarningSaysWhichLine) {
+  const Answer answer = calvexWithInput("HPT 1 1300\nHPT 1 1200\nHPT 1 1300\n", {"run"});
+  EXPECT_EQ(answer.status, 0);
+  EXPECT_EQ(answer.err,
+            "calvex: warning: line 1: Temperature parameter out of strictly valid range.\n"
+            "calvex: warning: line 3: Temperature parameter out of strictly valid range.\n");
+}
+
 TEST(RunCommand, ALineIsPrintedSoThatItCanBeRunAgain) {
   EXPECT_EQ(calvexWithInput(" SetUserUnit P \"ft H2O\"  # water column\n", {"run"}).out,
             "SetUserUnit P \"ft H2O\"\n  done\n");
@@ -218,8 +228,10 @@ TEST(RunCommand, TakesUnitsSettingsAndTrace) {
 
 TEST(RunCommand, ReadsLinesOfOtherSystems) {
   EXPECT_EQ(calvexWithInput("\xEF\xBB\xBFTraceLevel\r\nSatPolish\r\n", {"run"}).out,
-            "TraceLevel\n  TraceLevel  0\nSatPolish\n  SatPolish  1\n");
-  EXPECT_EQ(calvexWithInput("TraceLevel", {"run"}).out, "TraceLevel\n  TraceLevel  0\n");
+            "TraceLevel\n  TraceLevel = 1  reporting level\nSatPolish\n"
+            "  SatPolish = 2  exactness of the saturation line\n");
+  EXPECT_EQ(calvexWithInput("TraceLevel", {"run"}).out,
+            "TraceLevel\n  TraceLevel = 1  reporting level\n");
 }
 
 TEST(RunCommand, ALineThatIsTooLongIsRefusedAndTheNextOneRuns) {
@@ -227,7 +239,7 @@ TEST(RunCommand, ALineThatIsTooLongIsRefusedAndTheNextOneRuns) {
       calvexWithInput("AppName " + std::string(1 << 20, 'x') + "\nTraceLevel\n", {"run", "--json"});
   EXPECT_EQ(answer.out,
             "{\"error\":\"the line is longer than 65536 bytes\"}\n"
-            "{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":0}\n");
+            "{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":1}\n");
 }
 
 TEST(RunCommand, FilesThatCannotBeReadAreUsageErrors) {
