@@ -9,6 +9,7 @@
 
 #include "client.h"
 #include "spreadsheet/variants.h"
+#include "unit_calls.h"
 
 namespace calvex::cli {
 
@@ -17,6 +18,7 @@ struct Call {
   const Member* member;
   bool isPut;
   std::vector<Value> arguments;  ///< one for each parameter
+  UnitChoice choice = {};        ///< of a member that takes units
 };
 
 /// What a call answered.

@@ -10,6 +10,7 @@
 #include "call.h"
 #include "encoding.h"
 #include "suggestions.h"
+#include "terminal.h"
 
 namespace calvex::cli {
 
@@ -25,12 +26,14 @@ struct Command {
   ExitStatus (*run)(const Words& words, Console& console);
 };
 
-constexpr std::array<Command, 7> commands = {{
+constexpr std::array<Command, 9> commands = {{
     {"members", "members [PATTERN]", "List members, or explain one", membersCommand},
     {"units", "units [GROUP]", "List quantities, or the units of one", unitsCommand},
     {"convert", "convert GROUP VALUE FROM TO", "Convert a value between units", convertCommand},
     {"table", "table saturation|isobar", "Print a table over a range", tableCommand},
     {"run", "run [FILE|-]", "Run a script, one call a line", runCommand},
+    {"config", "config [NAME=VALUE...]", "Remember units and settings", configCommand},
+    {"completion", "completion bash|zsh|fish", "Print completions for a shell", completionCommand},
     {"help", "help [COMMAND|MEMBER]", "Explain a command or a member", helpCommand},
     {"version", "version", "Print the version", versionCommand},
 }};
@@ -62,7 +65,8 @@ std::string generalHelp() {
   }
   text +=
       "\n"
-      "'calvex help COMMAND' or 'calvex COMMAND --help' tells more.\n"
+      "'calvex help COMMAND' or 'calvex COMMAND --help' tells more. --no-config leaves out what\n"
+      "'calvex config' remembers.\n"
       "Exit status: 0 success, 1 a call failed (the reason is on standard error), 2 usage.\n";
   return text;
 }
@@ -132,15 +136,40 @@ ExitStatus dispatch(Words words, Console& console) {
 
 }  // namespace
 
+std::vector<CommandName> commandNames() {
+  std::vector<CommandName> names;
+  for (const Command& command : commands) {
+    names.push_back({command.name, command.form, command.summary});
+  }
+  return names;
+}
+
+void complain(Console& console, std::string_view text) {
+  console.out.flush();  // what was said before stands before
+  fmt::print(console.err, "{} {}\n", coloured("calvex:", Colour::red, console.colour), text);
+}
+
+void warn(Console& console, std::string_view text) {
+  if (text.empty()) return;
+  console.out.flush();
+  fmt::print(console.err, "calvex: {} {}\n", coloured("warning:", Colour::yellow, console.colour),
+             text);
+}
+
 ExitStatus runCommandLine(Words words, Console& console) {
   ExitStatus status = ExitStatus::ok;
+  const auto mark = std::ranges::find(words, "--");
+  if (const auto kept = std::remove(words.begin(), mark, "--no-config"); kept != mark) {
+    words.erase(kept, mark);
+    console.startingOptions = {};
+  }
   try {
     status = dispatch(std::move(words), console);
   } catch (const Failure& failure) {
-    fmt::print(console.err, "calvex: {}\n", failure.what());
+    complain(console, failure.what());
     status = failure.status();
   } catch (const std::exception& failure) {
-    fmt::print(console.err, "calvex: {}\n", failure.what());
+    complain(console, failure.what());
     status = ExitStatus::callFailed;
   }
   if (!console.out.flush()) {
@@ -169,13 +198,29 @@ CommandOptions::CommandOptions(const std::string& name, const std::string& usage
 }
 
 bool parse(CommandOptions& app, const Words& words, Console& console) {
+  Words all = words;
+  const CLI::Option* const units = app.get_option_no_throw("--unit");
+  if (units != nullptr && app.takesStartingOptions && console.startingOptions) {
+    const StartingOptions start = console.startingOptions();
+    Words options;
+    for (const std::string& unit : start.units) options.insert(options.end(), {"-u", unit});
+    if (app.get_option_no_throw("--set") != nullptr) {
+      for (const std::string& setting : start.settings) {
+        options.insert(options.end(), {"-s", setting});
+      }
+    }
+    all.insert(all.begin(), options.begin(), options.end());
+  }
   try {
-    app.parse(Words(words.rbegin(), words.rend()));
+    app.parse(Words(all.rbegin(), all.rend()));
   } catch (const CLI::CallForHelp&) {
     console.out << app.help();
     return false;
   } catch (const CLI::ParseError& error) {
     throw UsageError(fmt::format("{}\n'{}' explains it", error.what(), app.helpCommand()));
+  }
+  if (units != nullptr) {
+    for (const std::string& choice : units->results()) warn(console, unitWarning(choice));
   }
   return true;
 }

@@ -170,6 +170,14 @@ std::string errorJson(std::string_view text) {
   return JsonObject().add("error", jsonString(text)).text();
 }
 
+std::string errorJson(std::string_view text, int line, std::string_view source) {
+  return JsonObject()
+      .add("error", jsonString(text))
+      .add("line", fmt::format("{}", line))
+      .add("text", jsonString(source))
+      .text();
+}
+
 std::string traceText(const ZvFunctionCall& root) {
   std::string text;
   appendTrace(text, root, 0);

@@ -19,6 +19,8 @@ namespace calvex::cli {
 
 /// {"error":"..."} for what cannot be run.
 [[nodiscard]] std::string errorJson(std::string_view text);
+/// {"error":"...","line":3,"text":"..."} for a line of a script.
+[[nodiscard]] std::string errorJson(std::string_view text, int line, std::string_view source);
 
 /// The calls below the root, each with its nested calls and messages.
 [[nodiscard]] std::string traceText(const ZvFunctionCall& root);
