@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <clocale>
+#include <csetjmp>
+#include <csignal>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -25,6 +27,35 @@ LineEditor::Completer& completer() {
   return current;
 }
 
+// Ctrl-C drops the line. The library reads on when a signal comes, so that only a jump leaves it;
+// never out of our own functions.
+sigjmp_buf interrupted;
+volatile std::sig_atomic_t mayJump = 0;
+
+void interrupt(int /*signal*/) {
+  if (mayJump != 0) {
+    mayJump = 0;
+    siglongjmp(interrupted, 1);
+  }
+}
+
+// A typed line, which the caller frees; null at the end of the input and, with `dropped`, when the
+// user dropped the line. Has no objects that a jump could leave behind.
+char* typedLine(const char* prompt, bool& dropped) {
+  struct sigaction ours = {}, before = {};
+  ours.sa_handler = interrupt;
+  sigaction(SIGINT, &ours, &before);
+  char* typed = nullptr;
+  dropped = sigsetjmp(interrupted, 1) != 0;
+  if (!dropped) {
+    mayJump = 1;
+    typed = readline(prompt);
+    mayJump = 0;
+  }
+  sigaction(SIGINT, &before, nullptr);
+  return typed;
+}
+
 char* copied(std::string_view text) {
   auto* const copy = static_cast<char*>(std::malloc(text.size() + 1));
   if (copy == nullptr) return nullptr;
@@ -34,8 +65,7 @@ char* copied(std::string_view text) {
 }
 
 // What the library asks for: a list that it frees, the common beginning first, a null last.
-char** complete(const char* word, int start, int /*end*/) {
-  rl_attempted_completion_over = 1;  // no file names
+char** completionsOf(const char* word, int start) {
   const std::string_view before(rl_line_buffer, static_cast<std::size_t>(start));
   const std::vector<std::string> words = completer()(before, word);
   if (words.empty()) return nullptr;
@@ -51,6 +81,14 @@ char** complete(const char* word, int start, int /*end*/) {
   if (list == nullptr) return nullptr;
   list[0] = copied(common);
   for (std::size_t i = 0; i < count; ++i) list[i + 1] = copied(words[i]);
+  return list;
+}
+
+char** complete(const char* word, int start, int /*end*/) {
+  rl_attempted_completion_over = 1;  // no file names
+  mayJump = 0;
+  char** const list = completionsOf(word, start);
+  mayJump = 1;
   return list;
 }
 
@@ -73,7 +111,12 @@ LineEditor::~LineEditor() { completer() = {}; }
 
 std::optional<std::string> LineEditor::read(const std::string& prompt) {
   std::cout.flush();
-  char* const typed = readline(prompt.c_str());
+  bool dropped = false;
+  char* const typed = typedLine(prompt.c_str(), dropped);
+  if (dropped) {
+    std::cout << '\n';
+    return std::string();
+  }
   if (typed == nullptr) return std::nullopt;
   std::string line(typed);
   std::free(typed);

@@ -23,7 +23,7 @@ class LineEditor {
   LineEditor(const LineEditor&) = delete;
   LineEditor& operator=(const LineEditor&) = delete;
 
-  /// Nothing at the end of the input.
+  /// Nothing at the end of the input; an empty line when the user dropped it with Ctrl-C.
   std::optional<std::string> read(const std::string& prompt);
 
  private:

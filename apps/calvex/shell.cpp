@@ -26,7 +26,7 @@ constexpr std::string_view shellHelp =
     "  units P                     units of pressure\n"
     "  help HPT                    what HPT takes and answers\n"
     "  trace, reset                the tree of traced calls; a new client object\n"
-    "  quit                        or Ctrl-D\n"
+    "  quit                        or Ctrl-D; Ctrl-C drops a line\n"
     "Tab completes names; the arrows bring back earlier lines.\n";
 
 const CommandName* findCommand(std::string_view name) {

@@ -141,6 +141,20 @@ TEST_F(OnATerminal, TheShellCompletesNames) {
   EXPECT_EQ(finish(), 0);
 }
 
+TEST_F(OnATerminal, ControlCDropsTheLineAndKeepsTheShell) {
+  start({"run"});
+  ASSERT_TRUE(sees(prompt));
+  ASSERT_TRUE(answers("SetUserUnit T C\r", "done"));
+  type("HPT 10");
+  ASSERT_TRUE(sees("HPT 10"));
+  ASSERT_TRUE(answers("\x03", "\n"));
+  ASSERT_TRUE(answers("HPT 10 500\r", "3373.998049"));
+  ASSERT_TRUE(answers("\x03", "\n"));
+  ASSERT_TRUE(answers("HPT 10 500\r", "3373.998049"));
+  type("quit\r");
+  EXPECT_EQ(finish(), 0);
+}
+
 TEST_F(OnATerminal, TheShellKeepsItsHistory) {
   start({"run"});
   ASSERT_TRUE(sees(prompt));
