@@ -74,30 +74,6 @@ void collectWarnings(const ZvFunctionCall& node, std::vector<std::string>& warni
   }
 }
 
-// For a call that names a unit group and units of it: what is wrong with the names, with the
-// nearest ones; empty when nothing is.
-std::string unitHint(const Call& call) {
-  std::optional<UnitGroup> group;
-  const std::span<const Parameter> parameters = call.member->parameters();
-  try {
-    for (std::size_t i = 0; i < parameters.size(); ++i) {
-      const std::string_view name = parameters[i].name;
-      const auto* const text = std::get_if<std::string>(&call.arguments[i]);
-      const auto* const index = std::get_if<short>(&call.arguments[i]);
-      if (text != nullptr && (name == "groupStr" || name == "strGroup")) {
-        group = findGroup(toUtf8(*text));
-      } else if (index != nullptr && name == "nGroupID" && isUnitGroup(*index)) {
-        group = UnitGroup(*index);
-      } else if (text != nullptr && group && parameters[i].isInput()) {
-        static_cast<void>(findUnit(*group, toUtf8(*text)));
-      }
-    }
-  } catch (const UsageError& error) {
-    return error.what();
-  }
-  return {};
-}
-
 bool hasZeroPressure(const Call& call) {
   const std::span<const Parameter> parameters = call.member->parameters();
   for (std::size_t i = 0; i < parameters.size(); ++i) {
@@ -171,7 +147,7 @@ std::string describeInputs(const Member& member, const UserUnits& units) {
 }
 
 Call prepare(const Member& member, std::span<const std::string> words, const UserUnits& units) {
-  Call call{&member, member.isProperty && !words.empty(), {}};
+  Call call{&member, member.isProperty && !words.empty(), {}, {}};
   if (call.isPut && member.put == nullptr) {
     throw UsageError(fmt::format("{} can only be read, so it takes no argument", member.name));
   }
@@ -193,15 +169,15 @@ Call prepare(const Member& member, std::span<const std::string> words, const Use
     const auto place = static_cast<std::size_t>(wanted[i] - member.parameters().data());
     call.arguments[place] = parseArgument(member, *wanted[i], words[i], units);
   }
+  call.choice = nameUnits(member, call.arguments);
   return call;
 }
 
 Outcome perform(Client& client, Call call) {
-  ZvCalvex& object = client.object();
   const Diagnostics& diagnostics = client.engine().diagnostics();
   const ZvFunctionCall* newestBefore = newestEntry(diagnostics);
-  const ZvCalvex::Result result = call.isPut ? object.put(*call.member, call.arguments)
-                                             : object.invoke(*call.member, call.arguments);
+  const ZvCalvex::Result result =
+      call.isPut ? client.object().put(*call.member, call.arguments) : invoke(client, call);
   Outcome outcome{std::move(call), result, {}, false, diagnostics.tracing(), {}};
   const ZvFunctionCall* entry = entryLeft(diagnostics, newestBefore);
   if (!outcome.succeeded()) {

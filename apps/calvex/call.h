@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "client.h"
+#include "unit_calls.h"
 
 namespace calvex::cli {
 
@@ -16,6 +17,7 @@ struct Call {
   const Member* member;
   bool isPut;
   std::vector<Value> arguments;  ///< one for each parameter
+  UnitChoice choice = {};        ///< of a member that takes units
 };
 
 /// What a call answered.

@@ -208,14 +208,6 @@ std::string outcomeText(const Outcome& outcome, const UserUnits& units) {
   return text.empty() && outcome.succeeded() ? "done\n" : text;
 }
 
-std::string warningText(const Outcome& outcome, std::string_view place) {
-  std::string text;
-  for (const std::string& warning : outcome.warnings) {
-    text += fmt::format("calvex: warning: {}{}\n", place, warning);
-  }
-  return text;
-}
-
 std::string outcomeJson(const Outcome& outcome, const UserUnits& units,
                         const ZvFunctionCall* trace) {
   const Member& member = *outcome.call.member;
@@ -241,6 +233,14 @@ std::string outcomeJson(const Outcome& outcome, const UserUnits& units,
 
 std::string errorJson(std::string_view text) {
   return JsonObject().add("error", jsonString(text)).text();
+}
+
+std::string errorJson(std::string_view text, int line, std::string_view source) {
+  return JsonObject()
+      .add("error", jsonString(text))
+      .add("line", fmt::format("{}", line))
+      .add("text", jsonString(source))
+      .text();
 }
 
 std::string traceText(const ZvFunctionCall& root) {

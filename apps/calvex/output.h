@@ -25,11 +25,10 @@ struct Equation {
 [[nodiscard]] std::string outcomeJson(const Outcome& outcome, const UserUnits& units,
                                       const ZvFunctionCall* trace = nullptr);
 
-/// "calvex: warning: ..." for each warning of a call, after where it happened ("line 4: ").
-[[nodiscard]] std::string warningText(const Outcome& outcome, std::string_view place = {});
-
 /// {"error":"..."} for what cannot be run.
 [[nodiscard]] std::string errorJson(std::string_view text);
+/// {"error":"...","line":3,"text":"..."} for a line of a script.
+[[nodiscard]] std::string errorJson(std::string_view text, int line, std::string_view source);
 
 /// The calls below the root, each with its nested calls and messages.
 [[nodiscard]] std::string traceText(const ZvFunctionCall& root);

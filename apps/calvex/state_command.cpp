@@ -378,7 +378,7 @@ ExitStatus stateCommand(const Words& words, Console& console) {
       throw Failure(failure.status(), refusal(water, inputs, failure.what()));
     }
     console.out << (asJson ? json(water, state) : asCsv ? csv(water, state) : text(water, state));
-    water.printWarnings(console.err);
+    for (const std::string& warning : water.warnings()) warn(console, warning);
   } catch (const Failure& failure) {
     if (asJson) fmt::print(console.out, "{}\n", errorJson(failure.what()));
     throw;

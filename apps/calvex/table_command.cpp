@@ -287,7 +287,7 @@ ExitStatus print(const Table& table, Client& client, Console& console) {
     progress.at(i + 1);
   }
   sheet.end();
-  water.printWarnings(console.err);
+  for (const std::string& warning : water.warnings()) warn(console, warning);
   if (status != ExitStatus::ok) throw Failure(status, firstFailure);
   return status;
 }

@@ -1,9 +1,6 @@
 #include "water.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
-#include <ostream>
 
 #include "call.h"
 #include "diagnostics/formatting.h"
@@ -57,10 +54,6 @@ double Water::toModel(char letter, double value) const {
 std::string Water::unit(char letter) const {
   const LetterExplanation& row = letterExplanation(letter);
   return row.hasUnit ? currentUnit(client_.units(), static_cast<int>(row.group)) : std::string();
-}
-
-void Water::printWarnings(std::ostream& err) const {
-  for (const std::string& warning : warnings_) fmt::print(err, "calvex: warning: {}\n", warning);
 }
 
 std::string_view phaseName(double P, double T, double density) {

@@ -3,7 +3,6 @@
 /// name, and every property of a state once its temperature and density are known.
 #pragma once
 
-#include <iosfwd>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -44,8 +43,8 @@ class Water {
   [[nodiscard]] std::string unit(char letter) const;
   [[nodiscard]] Client& client() noexcept { return client_; }
 
-  /// "calvex: warning: ..." for each text that was warned of.
-  void printWarnings(std::ostream& err) const;
+  /// What was warned of, each text once.
+  [[nodiscard]] const std::vector<std::string>& warnings() const noexcept { return warnings_; }
 
  private:
   Client& client_;

@@ -215,9 +215,9 @@ TEST(CallCommand, RefusesWhatIsNoFiniteNumber) {
 }
 
 TEST(CallCommand, SuggestsTheNearestUnitsAndListsAll) {
-  const Answer unit = calvex({"HPT", "10", "773.15", "-u", "P=psi"});
+  const Answer unit = calvex({"HPT", "10", "773.15", "-u", "P=psix"});
   EXPECT_EQ(unit.status, 2);
-  EXPECT_TRUE(contains(unit.err, "'psi' is not a unit of Pressure; did you mean psia or psig?"));
+  EXPECT_TRUE(contains(unit.err, "'psix' is not a unit of Pressure; did you mean psia or psig?"));
   EXPECT_TRUE(contains(unit.err, "kgf/cm\u00B2")) << unit.err;
   const Answer group = calvex({"HPT", "10", "773.15", "-u", "Presure=psia"});
   EXPECT_EQ(group.status, 2);
@@ -227,10 +227,59 @@ TEST(CallCommand, SuggestsTheNearestUnitsAndListsAll) {
 }
 
 TEST(CallCommand, ARefusedUnitOfAMemberGetsSuggestionsToo) {
-  const Answer answer = calvex({"SetUserUnit", "P", "bar"});
+  const Answer answer = calvex({"SetUserUnit", "P", "barr"});
   EXPECT_EQ(answer.status, 1);
-  EXPECT_TRUE(contains(answer.err, "bar is not a defined unit of P.")) << answer.err;
-  EXPECT_TRUE(contains(answer.err, "did you mean bara or barg?")) << answer.err;
+  EXPECT_TRUE(contains(answer.err, "barr is not a defined unit of P.")) << answer.err;
+  EXPECT_TRUE(contains(answer.err, "did you mean bara or barg")) << answer.err;
+}
+
+TEST(CallCommand, TakesUnitsInTheWordsPeopleUse) {
+  const std::string here = calvex({"HPT", "10", "773.15"}).out;
+  EXPECT_EQ(calvex({"HPT", "100", "500", "-u", "p=bar", "-u", "temperature=\u00B0C"}).out, here);
+  EXPECT_EQ(calvex({"HPT", "100", "932", "-u", "PRESSURE=BAR", "-u", "t=degF"}).out, here);
+}
+
+TEST(CallCommand, WarnsOfAUnitThatIsNotPhysicalAndHasThePhysicalOneToo) {
+  const Answer tabulated = calvex({"VPT", "10", "773.15", "-u", "V=ft3/lb", "--json"});
+  EXPECT_TRUE(contains(tabulated.err, "calvex: warning: ft3/lb: not the physical unit"));
+  const Answer physical = calvex({"VPT", "10", "773.15", "-u", "V=ft3/lbm", "--json"});
+  EXPECT_EQ(physical.err, "");
+  EXPECT_TRUE(contains(physical.out, R"("units":{"pV":"ft3/lbm"})")) << physical.out;
+  // Published: 0.03279 m3/kg, 0.5253 ft3/lbm
+  EXPECT_NEAR(numberAt(physical.out, "pV"), 0.5253, 0.0005);
+  EXPECT_TRUE(contains(calvex({"VPT", "10", "500", "-u", "V=ft3/lb", "-u", "T=C"}).err, "warning"));
+}
+
+TEST(CallCommand, MilliAndMegaAreAskedFor) {
+  const Answer answer = calvex({"HPT", "10", "773.15", "-u", "P=mPa"});
+  EXPECT_EQ(answer.status, 2);
+  EXPECT_TRUE(contains(answer.err, "did you mean MPa? Write it so: m is milli, M is mega"))
+      << answer.err;
+}
+
+TEST(CallCommand, SaysThatAChoiceDoesNotLastAndWhatDoes) {
+  const Answer unit = calvex({"SetUserUnit", "pressure", "bar"});
+  EXPECT_EQ(unit.status, 0);
+  EXPECT_EQ(unit.out, "done\n");
+  EXPECT_TRUE(contains(unit.err, "SetUserUnit has no lasting effect")) << unit.err;
+  EXPECT_TRUE(contains(unit.err, "calvex -u P=bara MEMBER")) << unit.err;
+  EXPECT_TRUE(contains(unit.err, "calvex config P=bara ")) << unit.err;
+  EXPECT_TRUE(contains(calvex({"SetUserUnitIndex", "0", "c"}).err, "calvex -u T=C MEMBER"));
+  EXPECT_TRUE(contains(calvex({"SatPolish", "0"}).err, "calvex -s SatPolish=0 MEMBER"));
+  EXPECT_EQ(calvex({"SatPolish"}).err, "");
+  EXPECT_EQ(calvex({"SetUserUnit", "P", "bar", "--json"}).err, "");
+}
+
+// 373.976 C is the critical temperature of the formulation, 647.126 K.
+TEST(CallCommand, ABoundInAnotherUnitIsWithin) {
+  for (const auto& [value, unit] :
+       {std::pair{"0.01", "T=C"}, std::pair{"373.976", "T=C"}, std::pair{"32.018", "T=F"},
+        std::pair{"705.1568", "T=F"}, std::pair{"1164.8268", "T=R"}}) {
+    EXPECT_EQ(calvex({"PSatT", value, "-u", unit}).status, 0) << value << unit;
+  }
+  const Answer beyond = calvex({"PSatT", "373.97601", "-u", "T=C"});
+  EXPECT_EQ(beyond.status, 1);
+  EXPECT_TRUE(contains(beyond.err, "(Valid range 0.01 to 373.98 C)")) << beyond.err;
 }
 
 TEST(CallCommand, ARefusedAppLevelSaysWhatIsTaken) {
