@@ -185,6 +185,7 @@ Outcome perform(Client& client, Call call) {
     // The last error is this call's when the call left an entry with an error.
     outcome.reasonRecorded =
         outcome.tracing && entry != nullptr && entry->contains(ZvFunctionCall::Kind::error);
+    if (outcome.reasonRecorded) outcome.cause = toUtf8(diagnostics.cause());
   }
   if (entry != nullptr) collectWarnings(*entry, outcome.warnings);
   return outcome;

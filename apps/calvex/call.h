@@ -28,6 +28,7 @@ struct Outcome {
   bool reasonRecorded = false;  ///< lastError is this call's
   bool tracing = true;
   std::vector<std::string> warnings;  ///< of this call and of those that it made, each once, UTF-8
+  std::string cause = {};             ///< behind lastError, where that does not say it, UTF-8
 
   [[nodiscard]] bool succeeded() const noexcept { return result.success != 0; }
 };

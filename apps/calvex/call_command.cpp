@@ -61,6 +61,7 @@ ExitStatus callMember(const Words& words, const ClientOptions& options, Console&
     return ExitStatus::ok;
   }
   complain(console, failureText(outcome));
+  if (!outcome.cause.empty()) fmt::print(console.err, "{}\n", outcome.cause);
   if (!member.isProperty && !inputs(member).empty()) {
     fmt::print(console.err, "{} takes {}\n", member.name, describeInputs(member, client.units()));
   }

@@ -16,6 +16,7 @@ namespace {
 
 struct Lists {
   std::string commands, members, settings, groups;
+  std::string properties = "P T H S U R V Q";  ///< that determine a state
 
   Lists() {
     Words words;
@@ -43,7 +44,7 @@ struct Lists {
   }
 };
 
-// @C, @M, @S and @G stand for the lists.
+// @C, @M, @S, @G and @P stand for the lists.
 constexpr std::string_view bash =
     R"sh(# bash completion of calvex; in ~/.bashrc: eval "$(calvex completion bash)"
 _calvex() {
@@ -55,6 +56,7 @@ _calvex() {
     -s | --set) words='@S' ;;
     help | members) words="$members $commands" ;;
     units | convert) words='@G' ;;
+    state) words='@P' ;;
     table) words='saturation isobar isotherm' ;;
     completion) words='bash zsh fish' ;;
     run) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
@@ -64,7 +66,7 @@ _calvex() {
       ;;
   esac
   mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
-  if [[ $previous == -[us] || $previous == --unit || $previous == --set ]]; then
+  if [[ $previous == -[us] || $previous == --unit || $previous == --set || $previous == state ]]; then
     COMPREPLY=("${COMPREPLY[@]/%/=}")
     compopt -o nospace 2>/dev/null
   fi
@@ -83,6 +85,7 @@ _calvex() {
     -s|--set) compadd -S = -- @S ;;
     help|members) compadd -- $members $commands ;;
     units|convert) compadd -- @G ;;
+    state) compadd -S = -- @P ;;
     table) compadd -- saturation isobar isotherm ;;
     completion) compadd -- bash zsh fish ;;
     run) _files ;;
@@ -104,6 +107,7 @@ complete -c calvex -f
 complete -c calvex -n '__fish_is_first_token' -a '@C @M'
 complete -c calvex -n '__fish_seen_subcommand_from help members' -a '@C @M'
 complete -c calvex -n '__fish_seen_subcommand_from units convert' -a '@G'
+complete -c calvex -n '__fish_seen_subcommand_from state' -a '(string split " " "@P")='
 complete -c calvex -n '__fish_seen_subcommand_from table' -a 'saturation isobar isotherm'
 complete -c calvex -n '__fish_seen_subcommand_from completion' -a 'bash zsh fish'
 complete -c calvex -n '__fish_seen_subcommand_from run' -F
@@ -124,6 +128,7 @@ std::string filled(std::string_view script) {
                               : letter == 'M' ? &lists.members
                               : letter == 'S' ? &lists.settings
                               : letter == 'G' ? &lists.groups
+                              : letter == 'P' ? &lists.properties
                                               : nullptr;
     if (list == nullptr) {
       text += script[i];

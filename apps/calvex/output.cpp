@@ -227,6 +227,7 @@ std::string outcomeJson(const Outcome& outcome, const UserUnits& units,
   });
   if (!unitNames.empty()) object.add("units", unitNames.text());
   if (!outcome.succeeded()) object.add("lastError", jsonString(outcome.lastError));
+  if (!outcome.cause.empty()) object.add("cause", jsonString(outcome.cause));
   if (trace != nullptr) object.add("trace", traceJson(*trace));
   return object.text();
 }

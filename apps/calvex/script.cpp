@@ -186,7 +186,8 @@ void Interpreter::run(const ScriptLine& line) {
   for (const std::string& warning : outcome.warnings) warnHere(warning);
   if (!outcome.succeeded()) {
     if (status_ == ExitStatus::ok) status_ = ExitStatus::callFailed;
-    report(failureText(outcome), hint(outcome));
+    const std::string lines[] = {outcome.cause, hint(outcome)};
+    report(failureText(outcome), fmt::format("{}", fmt::join(lines, lines[0].empty() ? "" : "\n")));
   } else {
     warnHere(outcome.call.choice.warning);
   }

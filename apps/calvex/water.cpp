@@ -33,7 +33,10 @@ Answer Water::ask(std::string_view name, const std::vector<Given>& inputs) {
   for (const std::string& warning : outcome.warnings) {
     if (std::ranges::find(warnings_, warning) == warnings_.end()) warnings_.push_back(warning);
   }
-  if (!outcome.succeeded()) return {std::nullopt, failureText(outcome)};
+  if (!outcome.succeeded()) {
+    const std::string_view blank = outcome.cause.empty() ? "" : " ";
+    return {std::nullopt, fmt::format("{}{}{}", failureText(outcome), blank, outcome.cause)};
+  }
   return {std::get<double>(outcome.call.arguments.front()), {}};
 }
 

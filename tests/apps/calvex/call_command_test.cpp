@@ -351,6 +351,27 @@ TEST(CallCommand, JsonOfAFailureHasTheReasonAndNoOutput) {
   EXPECT_TRUE(contains(answer.err, "out of range"));
 }
 
+// The bounds of the reason have two decimals, between which 0.0005 seems to lie; the triple point
+// is at 611.73 Pa, the critical point at 22.055 MPa.
+TEST(CallCommand, ACauseStandsBelowAReasonThatDoesNotSayIt) {
+  const Answer text = calvex({"FlashVessel", "1", "1000", "0.0005"});
+  EXPECT_EQ(text.status, 1);
+  EXPECT_TRUE(text.err.starts_with(
+      "calvex: FlashVessel failed: Pressure parameter out of range (Valid range 0.00 to 22.05 MPa)."
+      "\nPressure 0.0005 MPa is below 0.00061173 MPa.\nFlashVessel takes "))
+      << text.err;
+  const Answer json = calvex({"FlashVessel", "1", "1000", "0.5", "--json", "-u", "P=kPa"});
+  EXPECT_TRUE(
+      json.out.ends_with(",\"lastError\":\"Pressure parameter out of range (Valid range 0.61 "
+                         "to 22055.00 kPa).\"}\n"))
+      << json.out;
+  const Answer caused = calvex({"FlashVessel", "1", "1000", "0.0005", "--json"});
+  EXPECT_TRUE(
+      caused.out.ends_with("MPa).\",\"cause\":\"Pressure 0.0005 MPa is below 0.00061173 "
+                           "MPa.\"}\n"))
+      << caused.out;
+}
+
 TEST(CallCommand, JsonOfUsageErrorsIsAnError) {
   const Answer answer = calvex({"HPT", "10", "--json"});
   EXPECT_EQ(answer.status, 2);

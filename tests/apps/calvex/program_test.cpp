@@ -124,7 +124,9 @@ TEST(Program, BashCompletesMembersAndQuantities) {
   EXPECT_EQ(completed("calvex HPT 10 500 -u Effi", 5), "Efficiency=\n");
   EXPECT_EQ(completed("calvex HPT 10 500 -s SatP", 5), "SatPolish=\n");
   EXPECT_EQ(completed("calvex HPT 10 500 --no", 4), "--no-config\n");
-  EXPECT_EQ(completed("calvex table sat", 2), "saturation\n");
+  EXPECT_EQ(completed("calvex table iso", 2), "isobar isotherm\n");
+  EXPECT_EQ(completed("calvex sta", 1), "state\n");
+  EXPECT_EQ(completed("calvex state T", 2), "T=\n");
 }
 
 TEST(Program, TheManualPageNamesEveryCommandAndOption) {
@@ -139,7 +141,7 @@ TEST(Program, TheManualPageNamesEveryCommandAndOption) {
     EXPECT_NE(page.find("\n.B " + name), std::string::npos) << name;
     ++commands;
   }
-  EXPECT_GE(commands, 9);
+  EXPECT_GE(commands, 10);
   for (const char* option : {"\\-u", "\\-s", "\\-\\-json", "\\-\\-trace", "\\-\\-no\\-config"}) {
     EXPECT_NE(page.find(option), std::string::npos) << option;
   }

@@ -96,6 +96,20 @@ TEST(RunCommand, LastErrorIsGivenWhenAStatusMemberRefuses) {
             Lines{R"({"member":"TraceLevel","hresult":1,"lastError":"Invalid reporting level."})"});
 }
 
+TEST(RunCommand, ACauseStandsBelowAReasonThatDoesNotSayIt) {
+  const Answer text = calvexWithInput("HPT 1 2500.001\n", {"run"});
+  const std::string failure =
+      "HPT failed: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n"
+      "  Temperature 2500.001 K is above 2500 K.\n";
+  EXPECT_EQ(text.out, "HPT 1 2500.001\n  " + failure);
+  EXPECT_EQ(text.err, "calvex: line 1: " + failure);
+  const Lines lines = jsonOf("HPT 1 2500.001\nHPT 1 3000\n");
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_TRUE(lines[0].ends_with(R"(,"cause":"Temperature 2500.001 K is above 2500 K."})"))
+      << lines[0];
+  EXPECT_FALSE(contains(lines[1], "cause")) << lines[1];
+}
+
 TEST(RunCommand, AnArrayIsAListOfRowsAndTakesNoArgument) {
   EXPECT_EQ(jsonOf("GetAlarms"),
             Lines{R"({"member":"GetAlarms","hresult":0,"pAlarmArray":[["Alarm Name0",)"

@@ -165,5 +165,13 @@ TEST(StateCommand, RefusesWhatDeterminesNoState) {
   EXPECT_EQ(calvex({"state", "P=10", "T=500", "--json", "--csv"}).status, 2);
 }
 
+TEST(StateCommand, TellsTheCauseOfARefusalWhoseReasonDoesNotSayIt) {
+  const Answer answer = calvex({"state", "P=1", "T=2500.001"});
+  EXPECT_EQ(answer.status, 1);
+  EXPECT_TRUE(contains(
+      answer.err, "(Valid range 260.00 to 2500.00 K). Temperature 2500.001 K is above 2500 K."))
+      << answer.err;
+}
+
 }  // namespace
 }  // namespace calvex::cli::test

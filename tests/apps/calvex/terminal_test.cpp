@@ -161,7 +161,7 @@ TEST_F(OnATerminal, TheShellKeepsItsHistory) {
 TEST_F(OnATerminal, JsonAndFilesAreReadPlainly) {
   start({"run", "--json"});
   type("TraceLevel\r\x04");
-  ASSERT_TRUE(sees("{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":0}"));
+  ASSERT_TRUE(sees("{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":1}"));
   EXPECT_EQ(finish(), 0);
   EXPECT_EQ(screen_.find("calvex> "), std::string::npos) << screen_;
 }
