@@ -7,40 +7,13 @@
 #include <array>
 #include <string>
 
+#include "empty_solve.h"
 #include "engine/thermo_engine.h"
 #include "median_table.h"
-#include "steam/solver.h"
 
 namespace {
 
 using calvex::ZvThermoInt;
-
-// A mildly curved problem that takes the solver 13 evaluations, as a state from (P, T) takes 10
-// to 19.
-class EmptyProblem final : public calvex::ZvSolverCallBack {
- public:
-  double start = 80.0;
-  void evaluate(int /*m*/, int /*n*/, double* x, double* f, int& flag) override {
-    if (flag == startFlag) {
-      x[0] = 600.0;
-      x[1] = start;
-    } else if (flag != finishFlag) {
-      f[0] = x[0] - 600.0;
-      f[1] = x[1] * (1.0 + 1e-3 * x[1]) - 120.0;
-    }
-  }
-};
-
-void emptySolve(benchmark::State& state) {
-  EmptyProblem problem;
-  calvex::ZvSolver solver(problem);
-  solver.setIterations(200);
-  for (auto _ : state) {
-    problem.start = problem.start < 81.0 ? problem.start + 1e-3 : 80.0;
-    benchmark::DoNotOptimize(solver.Solve(2, 2));
-  }
-}
-BENCHMARK(emptySolve)->Name("empty solve");
 
 // Points around a given one, so that no call repeats its predecessor.
 constexpr std::size_t pointCount = 64;
@@ -141,6 +114,7 @@ class RatioTable final : public calvex::bench::MedianTable {
 }  // namespace
 
 int main(int argc, char** argv) {
+  benchmark::RegisterBenchmark("empty solve", calvex::bench::emptySolve);
   for (const Case& row : cases) {
     for (const int tracing : {1, 0}) {
       benchmark::RegisterBenchmark(

@@ -176,10 +176,9 @@ std::optional<Boiler> waterSide(ZvThermoInt& engine, double SteamPress, double S
   const auto drop = [&](double from, double to) {
     return units.toInternal(UnitGroup::enthalpy, from) - units.toInternal(UnitGroup::enthalpy, to);
   };
-  const double economiser = drop(hf, hBfw);
   const double evaporator = drop(hg, hf);
   const double superheater = drop(hs, hg);
-  const double dh = economiser + evaporator + superheater;
+  const double dh = drop(hs, hBfw);
   return Boiler{units.toInternal(UnitGroup::temperature, tSat),
                 units.toInternal(UnitGroup::temperature, BFWTemp), DTMin, dh,
                 (evaporator + superheater) / dh};

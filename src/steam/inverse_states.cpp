@@ -124,16 +124,16 @@ Phases SteamModel::stateFromPT(double P, double T) {
 }
 
 double SteamModel::waterEnthalpy(double P, double T) {
-  double density = 0.0;
-  if (T < criticalTemperature && P <= saturation::pressure(T)) {
-    const double saturated = equilibriumAtT(T).liquidDensity;
-    const auto superheated = roots::superheatedLiquid(P, T, saturated);
-    if (!superheated) failWithoutSolution();
-    density = *superheated;
-  } else {
-    density = densityAt(P, T, liquidDensity, T < criticalTemperature ? Side::liquid : Side::any);
+  const bool hasLine = T < criticalTemperature;
+  if (hasLine && P < saturation::pressure(T)) {
+    if (const PhaseEquilibrium line = equilibriumAtT(T); P < line.P) {
+      const auto density = roots::superheatedLiquid(P, T, line.liquidDensity);
+      if (!density) failWithoutSolution();
+      return propertyAt(Property::enthalpy, T, *density);
+    }
   }
-  return propertyAt(Property::enthalpy, T, density);
+  return propertyAt(Property::enthalpy, T,
+                    densityAt(P, T, liquidDensity, hasLine ? Side::liquid : Side::any));
 }
 
 Phases SteamModel::stateFromP(double P, Property second, double value) {

@@ -4,6 +4,7 @@
 
 #include "steam/constants.h"
 #include "steam/fundamental_equation.h"
+#include "steam/transport.h"
 
 namespace calvex {
 
@@ -33,7 +34,30 @@ enum class Property {
 };
 
 /// How much of the temperature part a property needs.
-[[nodiscard]] TemperaturePart::Order orderOf(Property property) noexcept;
+[[nodiscard]] constexpr TemperatureOrder orderOf(Property property) noexcept {
+  using Order = TemperatureOrder;
+  switch (property) {
+    case Property::temperature:
+    case Property::density:
+    case Property::specificVolume:
+    case Property::viscosity:
+    case Property::dielectricConstant:
+      return Order::none;
+    case Property::pressure:
+    case Property::compressibilityFactor:
+      return Order::pressure;
+    case Property::enthalpy:
+    case Property::entropy:
+    case Property::internalEnergy:
+    case Property::helmholtz:
+    case Property::gibbs:
+      return Order::energy;
+    default:
+      return Order::curvature;
+  }
+}
+
+#include "steam/property-inl.h"
 
 /// The property at `density` (kg/m3) and the temperature of the part, which must have been prepared
 /// to `orderOf(property)`.

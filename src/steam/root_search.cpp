@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "steam/constants.h"
 
@@ -132,6 +133,8 @@ std::optional<double> density(double P, double T, Side side) {
   temperature.prepare(T, TemperaturePart::Order::pressure);
   const auto f = [&](double density) { return pressure(temperature, density) - P; };
   const double idealGas = 1000.0 * P / (constants::gasConstant * T);
+  // From a denormal number no factor leads on: 5e-324 MPa.
+  if (!std::isnormal(idealGas / 20.0)) return std::nullopt;
   const bool twoSides = T < criticalTemperature;
   // Away from the critical point, where the curve bends both ways.
   if (T > 700.0 || (twoSides && side == Side::vapour && T < 640.0)) {
@@ -141,7 +144,9 @@ std::optional<double> density(double P, double T, Side side) {
   const auto interval =
       twoSides && side == Side::liquid
           ? firstChange(f, densest, phasesMeet, scaledBy(0.98))
-          : firstChange(f, idealGas / 20.0, twoSides ? phasesMeet : densest, scaledBy(1.08));
+          // A density of zero would never grow: 5e-324 MPa is a pressure, too.
+          : firstChange(f, std::max(idealGas / 20.0, std::numeric_limits<double>::min()),
+                        twoSides ? phasesMeet : densest, scaledBy(1.08));
   if (!interval) return std::nullopt;
   const double root = rootWithin(f, *interval);
   return isStable(temperature, root) ? std::optional(root) : std::nullopt;
@@ -151,6 +156,7 @@ std::optional<double> superheatedLiquid(double P, double T, double saturated) {
   TemperaturePart temperature;
   temperature.prepare(T, TemperaturePart::Order::pressure);
   const auto f = [&](double density) { return pressure(temperature, density) - P; };
+  if (!(f(saturated) > 0.0)) return saturated;  // on the line, but for its rounding
   // The liquid ends before it has lost half of its density.
   const auto interval = firstChange(f, saturated, 0.5 * saturated, scaledBy(0.99));
   if (!interval) return std::nullopt;

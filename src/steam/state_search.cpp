@@ -30,12 +30,12 @@ constexpr double solverError = 1e-8;
 // density where both meet.
 bool isOfPhase(Side side, double T, double density) {
   if (T >= criticalTemperature || side == Side::any) return true;
-  if (T > 640.0) return (side == Side::liquid) == (density > phasesMeet);
-  if (side == Side::liquid) return density >= 0.95 * saturation::liquidDensityGuess(T);
-  // Below the triple point no line limits the vapour.
-  return density <= (T < constants::triplePointTemperature
-                         ? phasesMeet
-                         : 1.05 * saturation::vapourDensityGuess(T));
+  const bool liquid = side == Side::liquid;
+  if (T > 640.0) return liquid == (density > phasesMeet);
+  if (density > 600.0 || density < 100.0) return liquid == (density > 600.0);
+  if (liquid) return density >= 0.95 * saturation::liquidDensityGuess(T);
+  return T >= constants::triplePointTemperature &&
+         density <= 1.05 * saturation::vapourDensityGuess(T);
 }
 
 double densestAt(double T) {

@@ -458,7 +458,9 @@ TEST(Failure, TellsItsCauseAfterTheRequiredText) {
     EXPECT_EQ(engine.diagnostics().cause(), cause);
     const Texts errors = messages(plant, ZvFunctionCall::Kind::error);
     ASSERT_GE(errors.size(), 2U);
-    if (reason != nullptr) EXPECT_EQ(errors.front(), reason);
+    if (reason != nullptr) {
+      EXPECT_EQ(errors.front(), reason);
+    }
     EXPECT_EQ(engine.LastError(), errors.front());
     EXPECT_EQ(errors.back(), cause);
   }

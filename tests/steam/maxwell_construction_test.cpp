@@ -44,14 +44,14 @@ Phase phasesAt(double T, double P) {
           densityBetween(T, P, spinodal(T, 1050.0, 322.0), 1200.0)};
 }
 
-class PhaseEquilibrium : public testing::Test {
+class MaxwellConstruction : public testing::Test {
  protected:
   Diagnostics diagnostics;
   SteamModel model{diagnostics};
 };
 
-TEST_F(PhaseEquilibrium, HasOnePressureAndOneGibbsEnergy) {
-  Grid grid("Maxwell's construction");
+TEST_F(MaxwellConstruction, HasOnePressureAndOneGibbsEnergy) {
+  Grid grid("equal Gibbs energies");
   for (const double T : {273.16, 300.0, 400.0, 500.0, 600.0, 630.0, 640.0, 643.0, 645.0, 646.0,
                          646.3, 646.5, 646.6, 646.62}) {
     const std::string at = fmt::format("T = {}", T);
@@ -67,7 +67,7 @@ TEST_F(PhaseEquilibrium, HasOnePressureAndOneGibbsEnergy) {
 }
 
 // Towards the critical point two nearly equal densities have nearly equal Gibbs energies.
-TEST_F(PhaseEquilibrium, IsOfTwoPhasesUpToTheCriticalRegion) {
+TEST_F(MaxwellConstruction, IsOfTwoPhasesUpToTheCriticalRegion) {
   Grid grid("line below the critical region");
   const double lowest = model.PSatT(620.0);
   const double highest = model.PSatT(criticalT - 0.501);
@@ -87,7 +87,7 @@ TEST_F(PhaseEquilibrium, IsOfTwoPhasesUpToTheCriticalRegion) {
 
 // There two equal densities would be the answer at any temperature. Up to 22.01 MPa the exact
 // equilibrium still answers, which the scaling law of PSatT misses by up to 6.5e-4 MPa.
-TEST_F(PhaseEquilibrium, OfAPressureInTheCriticalRegionIsWhereThePressureIsThatOfTheLine) {
+TEST_F(MaxwellConstruction, OfAPressureInTheCriticalRegionIsWhereThePressureIsThatOfTheLine) {
   Grid grid("critical region");
   const double lowest = model.PSatT(criticalT - 0.499);
   const double highest = model.PSatT(criticalT);

@@ -1,0 +1,163 @@
+#include "direct/member_road.h"
+
+#include <cmath>
+#include <string_view>
+
+#include "diagnostics/thermo_exception.h"
+#include "direct/enthalpy_entropy.h"
+#include "steam/constants.h"
+#include "steam/phase_equilibrium.h"
+
+namespace calvex::direct {
+
+namespace {
+
+constexpr int outOfRangeUnit = static_cast<int>(Message::outOfRangeUnit);
+constexpr int outOfRange = static_cast<int>(Message::outOfRange);
+
+// The comparisons are written so that a NaN is out of range.
+int checkRange(double x, double low, double high) {
+  return x >= low && x <= high ? 0 : outOfRangeUnit;
+}
+
+int numberOf(std::string_view text) {
+  for (const Message message : {Message::maximumIterations, Message::solutionError,
+                                Message::twoPhase, Message::unknownSolverCode}) {
+    if (text.starts_with(messageText(message))) return static_cast<int>(message);
+  }
+  const std::string_view noSolution = messageText(Message::noSolution);
+  const bool is = text.starts_with(noSolution.substr(0, noSolution.find('%')));
+  return static_cast<int>(is ? Message::noSolution : Message::solutionError);
+}
+
+Property propertyOfSecond(Pair pair) {
+  switch (secondOf(pair)) {
+    case Letter::H:
+      return Property::enthalpy;
+    case Letter::S:
+      return Property::entropy;
+    case Letter::U:
+      return Property::internalEnergy;
+    default:
+      return Property::density;
+  }
+}
+
+}  // namespace
+
+int checkInputs(Pair pair, double first, double second) noexcept {
+  using namespace constants;
+  switch (pair) {
+    case Pair::PT:
+      if (const int status = checkRange(second, 260.0, 2500.0); status != 0) return status;
+      return checkRange(first, 0.0, 3000.0);
+    case Pair::PQ:
+      if (const int status = checkRange(first, triplePointPressure, criticalPressure); status != 0)
+        return status;
+      return checkRange(second, 0.0, 1.0);
+    case Pair::TQ:
+      if (const int status = checkRange(first, triplePointTemperature, criticalTemperature);
+          status != 0)
+        return status;
+      return checkRange(second, 0.0, 1.0);
+    case Pair::HS:
+      if (!(first >= 0.0 && second >= 0.0)) return outOfRange;
+      return std::isfinite(first) && std::isfinite(second)
+                 ? 0
+                 : static_cast<int>(Message::solutionError);
+    default:
+      break;
+  }
+  const int status = firstOf(pair) == Letter::P ? checkRange(first, 0.0, 3000.0)
+                                                : checkRange(first, 260.0, 2500.0);
+  if (status != 0) return status;
+  return second >= 0.0 ? 0 : outOfRange;
+}
+
+int checkTransport(Letter letter, double P, double T) noexcept {
+  constexpr double lowest = 273.15;
+  const auto within = [&](double highestT, double highestP) {
+    return T >= lowest && T <= highestT && P >= 0.0 && P <= highestP ? 0 : outOfRangeUnit;
+  };
+  switch (letter) {
+    case Letter::M:
+      return within(1073.15, T < 373.15 ? 1000.0 : T < 833.15 ? 350.0 : 100.0);
+    case Letter::E:
+      return within(823.15, 500.0);
+    case Letter::K:
+    case Letter::N:
+      return within(1073.15, 100.0);
+    default:
+      return 0;
+  }
+}
+
+MemberRoad::MemberRoad() : model_(diagnostics_) {
+  diagnostics_.setTracing(0);
+  model_.setSatPolish(2);
+}
+
+int MemberRoad::find(Pair pair, double first, double second, FoundState& state) noexcept {
+  try {
+    if (const int status = checkInputs(pair, first, second); status != 0) return status;
+    const int status = solve(pair, first, second, state);
+    if (status != 0) return status;
+    const bool finite = std::isfinite(state.T) && std::isfinite(state.density);
+    return finite ? 0 : static_cast<int>(Message::solutionError);
+  } catch (const ZvThermoException& failure) {
+    return numberOf(failure.what());
+  } catch (...) {
+    return static_cast<int>(Message::solutionError);
+  }
+}
+
+void MemberRoad::onLine(double T, double quality, FoundState& state) {
+  state.twoPhases = true;
+  state.T = T;
+  const PhaseEquilibrium line = equilibriumAtT(T);
+  state.pressure = line.P;
+  state.density = line.liquidDensity;
+  state.vapour = line.vapourDensity;
+  state.quality = quality;
+}
+
+int MemberRoad::solve(Pair pair, double first, double second, FoundState& state) {
+  Phases phases = Phases::one;
+  switch (pair) {
+    case Pair::PT:
+      if (model_.stateFromPT(first, second) == Phases::two) {
+        return static_cast<int>(Message::twoPhase);
+      }
+      break;
+    case Pair::PQ:
+      onLine(model_.TSatP(first), second, state);
+      state.pressure = first;
+      return 0;
+    case Pair::TQ:
+      onLine(first, second, state);
+      return 0;
+    case Pair::HS:
+      return stateFromHS(first, second, state);
+    default: {
+      const bool isVolume = secondOf(pair) == Letter::V;
+      const double value = isVolume ? 1.0 / second : second;
+      phases = firstOf(pair) == Letter::P ? model_.stateFromP(first, propertyOfSecond(pair), value)
+                                          : model_.stateFromT(first, propertyOfSecond(pair), value);
+    }
+  }
+  const SteamState& found = model_.state();
+  if (phases == Phases::two) {
+    // There are no two phases below the triple point.
+    if (firstOf(pair) == Letter::T && first < constants::triplePointTemperature) {
+      return outOfRangeUnit;
+    }
+    const double quality = found.quality;
+    onLine(found.temperature, quality, state);
+    if (firstOf(pair) == Letter::P) state.pressure = first;
+  } else {
+    state = {false, found.temperature, found.density, 0.0, 0.0, found.quality};
+  }
+  return 0;
+}
+
+}  // namespace calvex::direct

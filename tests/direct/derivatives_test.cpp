@@ -1,0 +1,146 @@
+// Derivatives of every property with respect to both inputs of every pair, against differences with
+// 50 digits, in one phase and in two.
+#include "direct/fifty_digits.h"
+#include "direct/states.h"
+#include "support/failures.h"
+
+namespace calvex::test {
+namespace {
+
+using direct::Letter;
+using direct::Pair;
+
+// By both variables of the state: T and density of one phase, T and quality of two.
+struct Gradient {
+  Fifty byX;
+  Fifty byY;
+};
+
+Gradient onePhase(Letter letter, const Fifty& T, const Fifty& density) {
+  const Property property = propertyOf(letter);
+  const Fifty dT = T * step;
+  const Fifty dR = density * step;
+  return {(exactly(property, T + dT, density) - exactly(property, T - dT, density)) / (2 * dT),
+          (exactly(property, T, density + dR) - exactly(property, T, density - dR)) / (2 * dR)};
+}
+
+struct Lines {
+  Line here, above, below;
+  Fifty dT;
+};
+Lines linesAround(const Fifty& T, const Line& start) {
+  const Fifty dT = T * step;
+  return {lineAt(T, start), lineAt(T + dT, start), lineAt(T - dT, start), dT};
+}
+Gradient twoPhases(Letter letter, const Fifty& T, const Fifty& quality, const Lines& lines) {
+  return {(mixture(letter, T + lines.dT, quality, lines.above) -
+           mixture(letter, T - lines.dT, quality, lines.below)) /
+              (2 * lines.dT),
+          mixture(letter, T, 1, lines.here) - mixture(letter, T, 0, lines.here) == 0
+              ? Fifty(0)
+              : (mixture(letter, T, quality + step, lines.here) -
+                 mixture(letter, T, quality - step, lines.here)) /
+                    (2 * step)};
+}
+
+class Derivatives : public testing::TestWithParam<Pair> {};
+
+TEST_P(Derivatives, AreThoseOf50Digits) {
+  const Pair pair = GetParam();
+  const std::size_t wanted = stateCount(1000);
+  RandomInputs inputs(pair, 17);
+  Grid grid("derivatives");
+  std::size_t ones = 0;
+  std::size_t twos = 0;
+  std::mt19937 random(3);
+  for (std::size_t tries = 0; ones + twos < wanted && tries < 20 * wanted; ++tries) {
+    double a = 0.0;
+    double b = 0.0;
+    inputs.next(a, b);
+    // Which properties: the state, and one or two others.
+    double value[5], byA[5], byB[5], slope;
+    direct::Phase phase;
+    short status = 0;
+    const auto letter = static_cast<Letter>(random() % direct::letterCount);
+    const auto another = static_cast<Letter>(random() % 7);
+    const direct::Result results[] = {{Letter::T, {&value[0]}, {&byA[0]}, {&byB[0]}},
+                                      {Letter::R, {&value[1]}, {&byA[1]}, {&byB[1]}},
+                                      {another, {&value[2]}, {&byA[2]}, {&byB[2]}},
+                                      {letter, {&value[3]}, {&byA[3]}, {&byB[3]}}};
+    direct::Request request{pair, {&a}, {&b}, {results, letter == Letter::Q ? 3U : 4U}};
+    request.phase = {&phase};
+    request.status = {&status};
+    request.lineSlope = {&slope};
+    direct::evaluate(request, 0, 1);
+    if (status != 0 && status != 106) continue;
+    if (status == 106) request.results = {results, 3};
+    direct::evaluate(request, 0, 1);
+    if (status != 0) continue;
+
+    const bool two = phase == direct::Phase::twoPhase;
+    const Letter inputLetters[] = {direct::firstOf(pair), direct::secondOf(pair)};
+    const Fifty T = value[0];
+    Gradient gradients[2];
+    Lines lines;
+    Fifty quality = 0;
+    if (two) {
+      double saturated[2];
+      const Letter density[] = {Letter::R};
+      if (direct::evaluate(Pair::TQ, value[0], 0.0, density, &saturated[0]) != 0 ||
+          direct::evaluate(Pair::TQ, value[0], 1.0, density, &saturated[1]) != 0) {
+        continue;
+      }
+      lines = linesAround(T, {saturated[0], saturated[1]});
+      quality = (1 / Fifty(value[1]) - 1 / lines.here.liquid) /
+                (1 / lines.here.vapour - 1 / lines.here.liquid);
+    }
+    const auto gradientOf = [&](Letter of) {
+      return two ? twoPhases(of, T, quality, lines) : onePhase(of, T, value[1]);
+    };
+    for (int i = 0; i < 2; ++i) gradients[i] = gradientOf(inputLetters[i]);
+    const Fifty determinant =
+        gradients[0].byX * gradients[1].byY - gradients[0].byY * gradients[1].byX;
+    for (std::size_t k = 0; k < request.results.size(); ++k) {
+      const Letter of = results[k].letter;
+      if (of == Letter::Q && !two) continue;
+      const Gradient f = gradientOf(of);
+      const auto exactA =
+          static_cast<double>((f.byX * gradients[1].byY - f.byY * gradients[1].byX) / determinant);
+      const auto exactB =
+          static_cast<double>((gradients[0].byX * f.byY - gradients[0].byY * f.byX) / determinant);
+      const std::string at = fmt::format("letter {} at {:.17g}, {:.17g}{}", static_cast<int>(of), a,
+                                         b, two ? ", two phases" : "");
+      grid.near(byA[k], exactA, 1e-9, std::max(std::abs(exactA), 1e-3 * std::abs(value[k] / a)),
+                "by first, " + at);
+      grid.near(byB[k], exactB, 1e-9, std::max(std::abs(exactB), 1e-3 * std::abs(value[k] / b)),
+                "by second, " + at);
+    }
+    if (two) {
+      const auto exact = static_cast<double>(
+          (mixture(Letter::P, T, 0, lines.above) - mixture(Letter::P, T, 0, lines.below)) /
+          (2 * lines.dT));
+      grid.relative(slope, exact, 1e-9, fmt::format("dP/dT at {:.17g}", value[0]));
+      ++twos;
+    } else {
+      ++ones;
+    }
+  }
+  const bool onLine = direct::secondOf(pair) == Letter::Q;
+  EXPECT_GE(onLine ? wanted : ones, wanted / 4);
+  EXPECT_GE(pair == Pair::PT ? wanted : twos, wanted / 10);
+}
+
+std::string nameOf(const testing::TestParamInfo<Pair>& parameter) {
+  constexpr const char* names[] = {"PT", "PH", "PS", "PU", "PR", "PV", "TH",
+                                   "TS", "TU", "TR", "TV", "PQ", "TQ", "HS"};
+  return names[static_cast<int>(parameter.param)];
+}
+
+INSTANTIATE_TEST_SUITE_P(Direct, Derivatives,
+                         testing::Values(Pair::PT, Pair::PH, Pair::PS, Pair::PU, Pair::PR, Pair::PV,
+                                         Pair::TH, Pair::TS, Pair::TU, Pair::TR, Pair::TV, Pair::PQ,
+                                         Pair::TQ),
+                         nameOf);
+
+}  // namespace
+}  // namespace calvex::test
