@@ -13,7 +13,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   options.trace = (data[0] & 2) != 0;
   std::istringstream in(std::string(reinterpret_cast<const char*>(data) + 1, size - 1));
   std::ostringstream out, err;
-  calvex::cli::runScript(in, out, err, options);
+  calvex::cli::Console console{in, out, err};
+  calvex::cli::runScript(in, console, options);
   if (!options.json) return 0;
   std::istringstream lines(out.str());
   for (std::string line; std::getline(lines, line);) {

@@ -3,11 +3,13 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
+#include <algorithm>
 #include <limits>
 
 #include "encoding.h"
 #include "failure.h"
 #include "numbers.h"
+#include "server/member_explanations.h"
 #include "suggestions.h"
 
 namespace calvex::cli {
@@ -53,37 +55,33 @@ const ZvFunctionCall* newestEntry(const Diagnostics& diagnostics) {
   return newest;
 }
 
-// The last error may be that of an earlier call: a call can fail without a word. It is this call's
-// when the call left an entry with an error. The newest entry before is still there then, so that
-// the new one is not in its place: a full trace keeps two or more and drops the oldest.
-bool leftError(const Diagnostics& diagnostics, const ZvFunctionCall* newestBefore) {
+// The entry that a call left, or null: a call can end without a word. The newest entry before is
+// still there then, so that the new one is not in its place: a full trace keeps two or more and
+// drops the oldest.
+const ZvFunctionCall* entryLeft(const Diagnostics& diagnostics,
+                                const ZvFunctionCall* newestBefore) {
   const ZvFunctionCall* newest = newestEntry(diagnostics);
-  return newest != nullptr && newest != newestBefore &&
-         newest->contains(ZvFunctionCall::Kind::error);
+  return newest == newestBefore ? nullptr : newest;
 }
 
-// For a call that names a unit group and units of it: what is wrong with the names, with the
-// nearest ones; empty when nothing is.
-std::string unitHint(const Call& call) {
-  std::optional<UnitGroup> group;
-  const std::span<const Parameter> parameters = call.member->parameters();
-  try {
-    for (std::size_t i = 0; i < parameters.size(); ++i) {
-      const std::string_view name = parameters[i].name;
-      const auto* const text = std::get_if<std::string>(&call.arguments[i]);
-      const auto* const index = std::get_if<short>(&call.arguments[i]);
-      if (text != nullptr && (name == "groupStr" || name == "strGroup")) {
-        group = findGroup(toUtf8(*text));
-      } else if (index != nullptr && name == "nGroupID" && isUnitGroup(*index)) {
-        group = UnitGroup(*index);
-      } else if (text != nullptr && group && parameters[i].isInput()) {
-        static_cast<void>(findUnit(*group, toUtf8(*text)));
-      }
+void collectWarnings(const ZvFunctionCall& node, std::vector<std::string>& warnings) {
+  for (const auto* child = node.firstChild(); child != nullptr; child = child->nextSibling()) {
+    if (child->kind() == ZvFunctionCall::Kind::warning) {
+      std::string text = toUtf8(child->text());
+      if (std::ranges::find(warnings, text) == warnings.end()) warnings.push_back(std::move(text));
     }
-  } catch (const UsageError& error) {
-    return error.what();
+    collectWarnings(*child, warnings);
   }
-  return {};
+}
+
+bool hasZeroPressure(const Call& call) {
+  const std::span<const Parameter> parameters = call.member->parameters();
+  for (std::size_t i = 0; i < parameters.size(); ++i) {
+    const auto* const value = std::get_if<double>(&call.arguments[i]);
+    const bool isPressure = parameters[i].group == static_cast<short>(UnitGroup::pressure);
+    if (parameters[i].isInput() && isPressure && value != nullptr && *value == 0.0) return true;
+  }
+  return false;
 }
 
 // The messages of the spreadsheet members' tokens.
@@ -118,15 +116,6 @@ std::vector<const Parameter*> outputs(const Member& member) {
   return found;
 }
 
-std::span<const spreadsheet::Token> tokens(const Member& member) {
-  constexpr std::string_view prefix = "XL";
-  if (!member.name.starts_with(prefix)) return {};
-  for (const spreadsheet::Variant& variant : spreadsheet::variantTable()) {
-    if (variant.name == member.name.substr(prefix.size())) return variant.tokens();
-  }
-  return {};
-}
-
 std::string_view outputName(const Member& member, const Parameter& parameter) {
   return member.isProperty || member.style == ReturnStyle::value ? "value" : parameter.name;
 }
@@ -158,7 +147,7 @@ std::string describeInputs(const Member& member, const UserUnits& units) {
 }
 
 Call prepare(const Member& member, std::span<const std::string> words, const UserUnits& units) {
-  Call call{&member, member.isProperty && !words.empty(), {}};
+  Call call{&member, member.isProperty && !words.empty(), {}, {}};
   if (call.isPut && member.put == nullptr) {
     throw UsageError(fmt::format("{} can only be read, so it takes no argument", member.name));
   }
@@ -180,21 +169,25 @@ Call prepare(const Member& member, std::span<const std::string> words, const Use
     const auto place = static_cast<std::size_t>(wanted[i] - member.parameters().data());
     call.arguments[place] = parseArgument(member, *wanted[i], words[i], units);
   }
+  call.choice = nameUnits(member, call.arguments);
   return call;
 }
 
 Outcome perform(Client& client, Call call) {
-  ZvCalvex& object = client.object();
   const Diagnostics& diagnostics = client.engine().diagnostics();
   const ZvFunctionCall* newestBefore = newestEntry(diagnostics);
-  const ZvCalvex::Result result = call.isPut ? object.put(*call.member, call.arguments)
-                                             : object.invoke(*call.member, call.arguments);
-  Outcome outcome{std::move(call), result, {}, false, true};
+  const ZvCalvex::Result result =
+      call.isPut ? client.object().put(*call.member, call.arguments) : invoke(client, call);
+  Outcome outcome{std::move(call), result, {}, false, diagnostics.tracing(), {}};
+  const ZvFunctionCall* entry = entryLeft(diagnostics, newestBefore);
   if (!outcome.succeeded()) {
     outcome.lastError = toUtf8(client.engine().LastError());
-    outcome.tracing = diagnostics.tracing();
-    outcome.reasonRecorded = outcome.tracing && leftError(diagnostics, newestBefore);
+    // The last error is this call's when the call left an entry with an error.
+    outcome.reasonRecorded =
+        outcome.tracing && entry != nullptr && entry->contains(ZvFunctionCall::Kind::error);
+    if (outcome.reasonRecorded) outcome.cause = toUtf8(diagnostics.cause());
   }
+  if (entry != nullptr) collectWarnings(*entry, outcome.warnings);
   return outcome;
 }
 
@@ -220,9 +213,13 @@ std::string hint(const Outcome& outcome) {
     return std::get<short>(call.arguments.front()) == 1 ? "there is no units server"
                                                         : "AppLevel takes 0 to 3";
   }
+  if (outcome.reasonRecorded && outcome.lastError == messageText(Message::solutionError) &&
+      hasZeroPressure(call)) {
+    return "the pressure must be above zero";
+  }
   if (outcome.reasonRecorded && isTokenError(outcome.lastError)) {
     std::vector<std::string_view> names;
-    for (const spreadsheet::Token& token : tokens(*call.member)) names.push_back(token.text);
+    for (const spreadsheet::Token& token : tokensOf(*call.member)) names.push_back(token.text);
     if (!names.empty()) return fmt::format("Tokens: {}", fmt::join(names, ", "));
   }
   return unitHint(call);

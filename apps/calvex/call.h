@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "client.h"
-#include "spreadsheet/variants.h"
+#include "unit_calls.h"
 
 namespace calvex::cli {
 
@@ -17,6 +17,7 @@ struct Call {
   const Member* member;
   bool isPut;
   std::vector<Value> arguments;  ///< one for each parameter
+  UnitChoice choice = {};        ///< of a member that takes units
 };
 
 /// What a call answered.
@@ -26,6 +27,8 @@ struct Outcome {
   std::string lastError;        ///< UTF-8
   bool reasonRecorded = false;  ///< lastError is this call's
   bool tracing = true;
+  std::vector<std::string> warnings;  ///< of this call and of those that it made, each once, UTF-8
+  std::string cause = {};             ///< behind lastError, where that does not say it, UTF-8
 
   [[nodiscard]] bool succeeded() const noexcept { return result.success != 0; }
 };
@@ -36,9 +39,6 @@ struct Outcome {
 /// Parameters for which a caller gives a word: all inputs but arrays, which members fill.
 [[nodiscard]] std::vector<const Parameter*> inputs(const Member& member);
 [[nodiscard]] std::vector<const Parameter*> outputs(const Member& member);
-
-/// The tokens by which a spreadsheet member is asked for results; none for other members.
-[[nodiscard]] std::span<const spreadsheet::Token> tokens(const Member& member);
 
 /// How a parameter is told from others in text and JSON: its name, or "value" for the one value of
 /// a setting or of a member that answers its value.

@@ -5,11 +5,40 @@
 
 #include "command_line.h"
 #include "diagnostics/formatting.h"
+#include "encoding.h"
 #include "output.h"
 
 namespace calvex::cli {
 
 namespace {
+
+// For a shell: as it is, or in quotes.
+std::string forShell(const std::string& word) {
+  const bool plain = word.find_first_of(" ()*'^%\"") == std::string::npos;
+  return plain ? word : fmt::format("'{}'", word);
+}
+
+// A call that only changes units or settings changes those of an object that is gone then.
+std::string whatLasts(const Call& call, const Words& words) {
+  const std::string_view name = call.member->name;
+  std::string option, assignment;
+  if (call.isPut) {
+    option = "-s";
+    assignment = fmt::format("{}={}", name, words[1]);
+  } else if (name == "SetUserUnit" || name == "SetUserUnitIndex") {
+    option = "-u";
+    assignment = fmt::format("{}={}", row(*call.choice.group).keywords.front(),
+                             toUtf8(call.choice.units.front()->name));
+  } else {
+    return {};
+  }
+  return fmt::format(
+      "calvex: {0} has no lasting effect: it ends with this call. What lasts:\n"
+      "  calvex {1} {2} MEMBER ...    for one call\n"
+      "  calvex config {2}    for every call\n"
+      "  calvex run    for the lines of a script, or of a shell\n",
+      name, option, forShell(assignment));
+}
 
 ExitStatus callMember(const Words& words, const ClientOptions& options, Console& console) {
   Client client;
@@ -25,8 +54,14 @@ ExitStatus callMember(const Words& words, const ClientOptions& options, Console&
     console.out << outcomeText(outcome, client.units());
     if (options.trace) console.out << traceText(root);
   }
-  if (outcome.succeeded()) return ExitStatus::ok;
-  fmt::print(console.err, "calvex: {}\n", failureText(outcome));
+  for (const std::string& warning : outcome.warnings) warn(console, warning);
+  if (outcome.succeeded()) {
+    warn(console, outcome.call.choice.warning);
+    if (!options.json) console.err << whatLasts(outcome.call, words);
+    return ExitStatus::ok;
+  }
+  complain(console, failureText(outcome));
+  if (!outcome.cause.empty()) fmt::print(console.err, "{}\n", outcome.cause);
   if (!member.isProperty && !inputs(member).empty()) {
     fmt::print(console.err, "{} takes {}\n", member.name, describeInputs(member, client.units()));
   }
@@ -50,7 +85,11 @@ ExitStatus callCommand(const Words& words, Console& console) {
   app.add_flag("-h,--help", help, "Explain the member");
   const std::optional<Words> call = parseAround(app, words, console);
   if (!call) return ExitStatus::ok;
-  if (help) return membersCommand({std::string(memberNamed(words.front()).name)}, console);
+  if (help) {
+    Words about = {std::string(memberNamed(words.front()).name)};
+    for (const std::string& unit : options.units) about.insert(about.end(), {"-u", unit});
+    return membersCommand(about, console);
+  }
   try {
     return callMember(*call, options, console);
   } catch (const Failure& failure) {

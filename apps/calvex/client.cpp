@@ -9,6 +9,7 @@
 #include "encoding.h"
 #include "failure.h"
 #include "suggestions.h"
+#include "units/unit_words.h"
 
 namespace calvex::cli {
 
@@ -42,6 +43,38 @@ void runOrFail(Client& client, Call call) {
 
 }  // namespace
 
+void Client::reset() {
+  besideCatalogue_ = besideCatalogue_ && units().mode() == UnitsMode::custom;
+  object_.reset();
+  object_ = std::make_unique<ZvCalvex>(module_);
+  for (const StartingSetting& setting : startingSettings) {
+    Value value = setting.value;
+    object_->put(*findMember(setting.member), {&value, 1});
+  }
+  if (besideCatalogue_) engine().SetAppLevel(static_cast<short>(UnitsMode::custom));
+}
+
+void Client::setCustomUnit(UnitGroup group, const ZvUomLiteKeyword& unit) {
+  engine().SetCustomUserUnitIndex(static_cast<short>(group), unit.name, unit.factor, unit.offset);
+}
+
+void Client::chooseUnit(UnitGroup group, const ZvUomLiteKeyword& unit) {
+  if (units().mode() != UnitsMode::custom) {
+    engine().SetAppLevel(static_cast<short>(UnitsMode::custom));
+    besideCatalogue_ = true;
+    for (int other = 0; other < unitGroupCount; ++other) {
+      setCustomUnit(UnitGroup(other), units().catalogue()[UnitGroup(other)].currentUnit());
+    }
+  }
+  setCustomUnit(group, unit);
+}
+
+void Client::followUnit(UnitGroup group) {
+  if (besideCatalogue_ && units().mode() == UnitsMode::custom) {
+    setCustomUnit(group, units().catalogue()[group].currentUnit());
+  }
+}
+
 void ClientOptions::addUnitsTo(CommandOptions& app) {
   addRepeatable(app, "-u,--unit", units, "GROUP=UNIT",
                 "Unit for a quantity, such as T=C or Pressure=bara; may be repeated");
@@ -74,8 +107,8 @@ void ClientOptions::applyTo(Client& client) const {
   }
   for (const std::string& choice : units) {
     const Assignment assignment = split(choice, "GROUP=UNIT, such as T=C");
-    const ZvUomLiteKeyword& unit = findUnit(findGroup(assignment.name), assignment.value);
-    const std::string words[] = {assignment.name, toUtf8(unit.name)};
+    static_cast<void>(findUnit(findGroup(assignment.name), assignment.value));  // throws
+    const std::string words[] = {assignment.name, assignment.value};
     runOrFail(client, prepare(*findMember("SetUserUnit"), words, client.units()));
   }
 }
@@ -94,21 +127,38 @@ UnitGroup findGroup(std::string_view keyword) {
     }
     firsts.push_back(row(UnitGroup(group)).keywords.front());
   }
+  if (const std::optional<UnitGroup> group = findGroupWord(keyword)) return *group;
   throw UsageError(fmt::format("{} is not a unit group{}\nGroups: {} (calvex units explains them)",
                                inQuotes(keyword), didYouMean(keyword, keywords),
                                fmt::join(firsts, ", ")));
 }
 
 const ZvUomLiteKeyword& findUnit(UnitGroup group, std::string_view unit) {
-  const std::optional<std::string> name = toWindows1252(unit);
-  std::vector<std::string> names;
-  for (const ZvUomLiteKeyword& candidate : row(group).units) {
-    if (candidate.name == name) return candidate;
-    names.push_back(toUtf8(candidate.name));
+  const UnitWord found = findUnitWord(group, unit);
+  if (found.unit != nullptr) return *found.unit;
+  std::vector<std::string> names, candidates;
+  for (const ZvUomLiteKeyword& known : row(group).units) names.push_back(toUtf8(known.name));
+  for (const ZvUomLiteKeyword& known : unitsBesideCatalogue(group)) names.emplace_back(known.name);
+  for (const ZvUomLiteKeyword* known : found.candidates) candidates.push_back(toUtf8(known->name));
+  std::string help = didYouMean(unit, names);
+  if (!candidates.empty()) {
+    help = fmt::format("; did you mean {}? Write it so: m is milli, M is mega",
+                       fmt::join(candidates, " or "));
   }
   throw UsageError(fmt::format("{} is not a unit of {}{}\nUnits: {}", inQuotes(unit),
-                               row(group).displayName, didYouMean(unit, names),
-                               fmt::join(names, ", ")));
+                               row(group).displayName, help, fmt::join(names, ", ")));
+}
+
+std::string unitWarning(UnitGroup group, std::string_view unit) {
+  const std::string_view notice = findUnitWord(group, unit).notice;
+  return notice.empty() ? std::string() : fmt::format("{}: {}", unit, notice);
+}
+
+std::string unitWarning(const std::string& choice) {
+  const std::size_t sign = choice.find('=');
+  const std::optional<UnitGroup> group = findGroupWord(choice.substr(0, sign));
+  if (sign == std::string::npos || !group) return {};
+  return unitWarning(*group, std::string_view(choice).substr(sign + 1));
 }
 
 std::string currentUnit(const UserUnits& units, int group) {

@@ -10,6 +10,7 @@
 #include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "suggestions.h"
+#include "terminal.h"
 
 namespace calvex::cli {
 
@@ -25,12 +26,15 @@ struct Command {
   ExitStatus (*run)(const Words& words, Console& console);
 };
 
-constexpr std::array<Command, 7> commands = {{
-    {"members", "members [PATTERN]", "List members, or explain one", membersCommand},
+constexpr std::array<Command, 10> commands = {{
+    {"state", "state P=10 T=773.15", "Print every property of a state", stateCommand},
+    {"members", "members [WORDS]", "Find members by words, or explain one", membersCommand},
     {"units", "units [GROUP]", "List quantities, or the units of one", unitsCommand},
     {"convert", "convert GROUP VALUE FROM TO", "Convert a value between units", convertCommand},
-    {"table", "table saturation|isobar", "Print a table over a range", tableCommand},
+    {"table", "table saturation|isobar|isotherm", "Print a table over a range", tableCommand},
     {"run", "run [FILE|-]", "Run a script, one call a line", runCommand},
+    {"config", "config [NAME=VALUE...]", "Remember units and settings", configCommand},
+    {"completion", "completion bash|zsh|fish", "Print completions for a shell", completionCommand},
     {"help", "help [COMMAND|MEMBER]", "Explain a command or a member", helpCommand},
     {"version", "version", "Print the version", versionCommand},
 }};
@@ -53,16 +57,18 @@ std::string generalHelp() {
       "\n"
       "Examples:\n"
       "  calvex HPT 10 773.15                     enthalpy of steam at 10 MPa and 773.15 K\n"
+      "  calvex state P=10 T=500 -u T=C           everything about that state\n"
       "  calvex TSatP 1 -u P=atm -u T=C           boiling point at one atmosphere, in Celsius\n"
       "  calvex convert P 100 psia bara           100 psia in bara\n"
       "\n"
       "Commands:\n";
   for (const Command& command : commands) {
-    text += fmt::format("  {:<28}  {}\n", command.form, command.summary);
+    text += fmt::format("  {:<32}  {}\n", command.form, command.summary);
   }
   text +=
       "\n"
-      "'calvex help COMMAND' or 'calvex COMMAND --help' tells more.\n"
+      "'calvex help COMMAND' or 'calvex COMMAND --help' tells more. --no-config leaves out what\n"
+      "'calvex config' remembers.\n"
       "Exit status: 0 success, 1 a call failed (the reason is on standard error), 2 usage.\n";
   return text;
 }
@@ -79,7 +85,9 @@ ExitStatus helpCommand(const Words& words, Console& console) {
     }
     return command->run({"--help"}, console);
   }
-  return membersCommand({std::string(memberNamed(words.front()).name)}, console);
+  Words about = words;
+  about.front() = memberNamed(words.front()).name;
+  return membersCommand(about, console);
 }
 
 ExitStatus versionCommand(const Words& /*words*/, Console& console) {
@@ -132,15 +140,40 @@ ExitStatus dispatch(Words words, Console& console) {
 
 }  // namespace
 
+std::vector<CommandName> commandNames() {
+  std::vector<CommandName> names;
+  for (const Command& command : commands) {
+    names.push_back({command.name, command.form, command.summary});
+  }
+  return names;
+}
+
+void complain(Console& console, std::string_view text) {
+  console.out.flush();  // what was said before stands before
+  fmt::print(console.err, "{} {}\n", coloured("calvex:", Colour::red, console.colour), text);
+}
+
+void warn(Console& console, std::string_view text) {
+  if (text.empty()) return;
+  console.out.flush();
+  fmt::print(console.err, "calvex: {} {}\n", coloured("warning:", Colour::yellow, console.colour),
+             text);
+}
+
 ExitStatus runCommandLine(Words words, Console& console) {
   ExitStatus status = ExitStatus::ok;
+  const auto mark = std::ranges::find(words, "--");
+  if (const auto kept = std::remove(words.begin(), mark, "--no-config"); kept != mark) {
+    words.erase(kept, mark);
+    console.startingOptions = {};
+  }
   try {
     status = dispatch(std::move(words), console);
   } catch (const Failure& failure) {
-    fmt::print(console.err, "calvex: {}\n", failure.what());
+    complain(console, failure.what());
     status = failure.status();
   } catch (const std::exception& failure) {
-    fmt::print(console.err, "calvex: {}\n", failure.what());
+    complain(console, failure.what());
     status = ExitStatus::callFailed;
   }
   if (!console.out.flush()) {

@@ -6,11 +6,29 @@
 #include <algorithm>
 #include <ostream>
 
+#include "client.h"
 #include "command_line.h"
 #include "encoding.h"
 #include "suggestions.h"
 
 namespace calvex::cli {
+
+namespace {
+
+// What the console starts with, as far as the command knows such options.
+Words startingWords(const CLI::App& app, const Console& console) {
+  Words words;
+  const StartingOptions start = console.startingOptions();
+  const auto add = [&](const char* option, const Words& values) {
+    if (app.get_option_no_throw(option) == nullptr) return;
+    for (const std::string& value : values) words.insert(words.end(), {option, value});
+  };
+  add("--unit", start.units);
+  add("--set", start.settings);
+  return words;
+}
+
+}  // namespace
 
 Option& Option::required() {
   option_->required();
@@ -72,13 +90,24 @@ std::string CommandOptions::helpCommand() const {
 }
 
 bool parse(CommandOptions& options, const Words& words, Console& console) {
+  CLI::App& app = *options.app_;
+  const CLI::Option* const units = app.get_option_no_throw("--unit");
+  Words all;
+  if (units != nullptr && options.takesStartingOptions && console.startingOptions) {
+    all = startingWords(app, console);
+  }
+  all.insert(all.end(), words.begin(), words.end());
+  std::ranges::reverse(all);  // as the library wants them
   try {
-    options.app_->parse(Words(words.rbegin(), words.rend()));
+    app.parse(std::move(all));
   } catch (const CLI::CallForHelp&) {
-    console.out << options.app_->help();
+    console.out << app.help();
     return false;
   } catch (const CLI::ParseError& error) {
     throw UsageError(fmt::format("{}\n'{}' explains it", error.what(), options.helpCommand()));
+  }
+  if (units != nullptr) {
+    for (const std::string& choice : units->results()) warn(console, unitWarning(choice));
   }
   return true;
 }

@@ -56,6 +56,9 @@ class CommandOptions {
   /// What a user types to have the command explained.
   [[nodiscard]] std::string helpCommand() const;
 
+  /// Whether -u and -s begin with the console's starting options.
+  bool takesStartingOptions = true;
+
  private:
   friend bool parse(CommandOptions& options, const Words& words, Console& console);
   friend std::optional<Words> parseAround(CommandOptions& options, const Words& words,

@@ -1,6 +1,7 @@
 // calvex convert GROUP VALUE FROM TO
 #include <fmt/format.h>
 
+#include <cmath>
 #include <ostream>
 
 #include "command_line.h"
@@ -11,6 +12,26 @@
 
 namespace calvex::cli {
 
+namespace {
+
+// The coldest value that a unit of temperature can have is what 0 K is in it. A rounded factor may
+// make it less by as much as -459.67 F, which is -2e-9 K, shows: that is 0 K.
+double notBelowAbsoluteZero(UnitGroup group, const ZvUomLiteKeyword& unit, double value) {
+  constexpr double rounding = 1e-8;
+  if (group != UnitGroup::temperature) return value;
+  const ZvUomLiteKeyword& kelvin = findUnit(group, "K");
+  const double zero = convert(kelvin, unit, 0.0);
+  const double coldest = std::fabs(zero) < rounding ? 0.0 : zero;
+  const double kelvins = convert(unit, kelvin, value);
+  if (kelvins >= 0.0) return value;
+  if (kelvins >= -rounding) return coldest;
+  throw Failure(ExitStatus::callFailed,
+                fmt::format("{0} {1} is below absolute zero; the lowest temperature is {2} {1}",
+                            readableText(value), toUtf8(unit.name), readableText(coldest, 8)));
+}
+
+}  // namespace
+
 ExitStatus convertCommand(const Words& words, Console& console) {
   CommandOptions app("convert", "convert GROUP VALUE FROM TO [--json]",
                      "Converts a value of a quantity from one unit to another.");
@@ -18,6 +39,7 @@ ExitStatus convertCommand(const Words& words, Console& console) {
       "Examples:\n"
       "  calvex convert P 100 psia bara\n"
       "  calvex convert T -40 C F\n"
+      "  calvex convert volume 1 ft3/lbm m3/kg\n"
       "'calvex units' lists the groups, 'calvex units GROUP' the units of one.");
   bool json = false;
   app.add_flag("--json", json, "Print JSON");
@@ -34,20 +56,22 @@ ExitStatus convertCommand(const Words& words, Console& console) {
   const std::string& keyword = operands[0];
   const UnitGroup group = findGroup(keyword);
   const double value = parseNumber(operands[1]);
-  const std::string from = toUtf8(findUnit(group, operands[2]).name);
-  const std::string to = toUtf8(findUnit(group, operands[3]).name);
+  const ZvUomLiteKeyword& from = findUnit(group, operands[2]);
+  const ZvUomLiteKeyword& to = findUnit(group, operands[3]);
 
   Client client;
-  const Words arguments = {keyword, from, to, operands[1]};
+  const Words arguments = {keyword, operands[2], operands[3],
+                           shortestText(notBelowAbsoluteZero(group, from, value))};
   const Outcome outcome =
       perform(client, prepare(*findMember("Convert"), arguments, client.units()));
+  warn(console, outcome.call.choice.warning);
   if (json) {
     fmt::print(console.out, "{}\n", outcomeJson(outcome, client.units()));
   }
   if (!outcome.succeeded()) throw Failure(ExitStatus::callFailed, failureText(outcome));
   if (!json) {
-    fmt::print(console.out, "{} {} = {} {}\n", readableText(value), from,
-               readableText(std::get<double>(outcome.call.arguments.back())), to);
+    fmt::print(console.out, "{} {} = {} {}\n", readableText(value), toUtf8(from.name),
+               readableText(std::get<double>(outcome.call.arguments.back())), toUtf8(to.name));
   }
   return ExitStatus::ok;
 }

@@ -1,16 +1,16 @@
-// calvex members [PATTERN]
+// calvex members [WORDS]
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
 #include <algorithm>
-#include <map>
 #include <ostream>
 
+#include "call.h"
 #include "command_line.h"
 #include "diagnostics/formatting.h"
-#include "encoding.h"
-#include "numbers.h"
+#include "member_help.h"
 #include "output.h"
+#include "server/member_explanations.h"
 #include "suggestions.h"
 
 namespace calvex::cli {
@@ -38,7 +38,7 @@ bool matchesGlob(std::string_view text, std::string_view pattern) {
   return pattern.find_first_not_of('*', p) == std::string_view::npos;
 }
 
-bool matches(std::string_view name, std::string_view pattern) {
+bool nameMatches(std::string_view name, std::string_view pattern) {
   const std::string lowerName = lowerCase(name);
   const std::string lowerPattern = lowerCase(pattern);
   if (pattern.find_first_of("*?") != std::string_view::npos) {
@@ -47,186 +47,123 @@ bool matches(std::string_view name, std::string_view pattern) {
   return lowerName.find(lowerPattern) != std::string::npos;
 }
 
-std::string brief(const Member& member, const std::vector<const Parameter*>& parameters,
-                  const UserUnits& units) {
-  std::vector<std::string> texts;
-  for (const Parameter* parameter : parameters) {
-    const std::string unit = currentUnit(units, parameter->group);
-    const std::string_view type = parameter->type == ValueType::real ? "" : meaning(*parameter);
-    const std::string_view detail = unit.empty() ? type : unit;
-    texts.push_back(fmt::format("{}{}{}{}", outputName(member, *parameter),
-                                detail.empty() ? "" : "[", detail, detail.empty() ? "" : "]"));
+// The words of a text in small letters.
+Words wordsIn(std::string_view text) {
+  Words words(1);
+  for (const char c : lowerCase(text)) {
+    const bool letter = (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9');
+    if (letter) words.back() += c;
+    if (!letter && !words.back().empty()) words.emplace_back();
   }
-  return fmt::format("{}", fmt::join(texts, " "));
+  if (words.back().empty()) words.pop_back();
+  return words;
 }
 
-std::string list(const std::vector<const Member*>& found, const UserUnits& units) {
-  std::vector<std::vector<std::string>> rows;
-  for (const Member* member : found) {
-    // The tokens tell what a spreadsheet member answers, not its array.
-    const std::string answer =
-        tokens(*member).empty() ? brief(*member, outputs(*member), units) : "";
-    std::string taken = brief(*member, inputs(*member), units);
-    if (member->put != nullptr) taken = "(setting)";
-    if (member->isProperty && member->put == nullptr) taken = "(read only)";
-    rows.push_back({std::string(member->name), taken, answer.empty() ? "" : "-> " + answer});
+// Whether each of the words begins one of the text's.
+bool mentions(std::string_view text, const Words& wanted) {
+  const Words present = wordsIn(text);
+  return std::ranges::all_of(wanted, [&](const std::string& word) {
+    return std::ranges::any_of(present,
+                               [&](const std::string& one) { return one.starts_with(word); });
+  });
+}
+
+struct Found {
+  const Member* member;
+  MemberExplanation explained;
+};
+
+// What a member answers, in words.
+std::string answerWords(const Found& found) {
+  const std::string& title = found.explained.title;
+  std::string text =
+      fmt::format("{} {}", title.substr(0, title.find(" from ")), found.explained.other);
+  for (std::size_t i = 0; i < found.explained.parameters.size(); ++i) {
+    if (found.member->parameters()[i].isOutput())
+      text += fmt::format(" {}", found.explained.parameters[i].words);
   }
-  constexpr std::size_t widest = 40;
-  return aligned(rows, widest);
-}
-
-std::string_view typeName(ValueType type) {
-  switch (type) {
-    case ValueType::real:
-      return "double";
-    case ValueType::shortInteger:
-      return "short";
-    case ValueType::longInteger:
-      return "long";
-    case ValueType::text:
-      return "string";
-    case ValueType::array:
-      return "array";
+  for (const spreadsheet::Token& token : tokensOf(*found.member)) {
+    text += fmt::format(" {}", tokenWords(*found.member, token));
   }
-  return {};
+  return text;
 }
 
-std::string signature(const Member& member) {
-  std::vector<std::string> texts;
-  for (const Parameter& parameter : member.parameters()) {
-    texts.push_back(fmt::format("[{}] {} {}", directionName(parameter.direction),
-                                typeName(parameter.type), parameter.name));
+// All that is said of a member.
+std::string allWords(const Found& found) {
+  std::string text =
+      fmt::format("{} {} {}", answerWords(found), found.explained.title, found.explained.notes);
+  for (const ParameterExplanation& parameter : found.explained.parameters) {
+    text += fmt::format(" {}", parameter.words);
   }
-  if (member.style == ReturnStyle::success) texts.emplace_back("[out, retval] long pSucc");
-  return fmt::format("{}({})", member.name, fmt::join(texts, ", "));
+  return text;
 }
 
-// Properties of steam at 10 MPa and 773.15 K, of saturated water at 500 K and what else a call may
-// need, in internal units. By name where the unit does not tell the quantity.
-double sampleNumber(const Parameter& parameter, bool saturated) {
-  const std::map<UnitGroup, double> steam = {
-      {UnitGroup::temperature, 773.15},    {UnitGroup::pressure, 10.0},
-      {UnitGroup::density, 30.5},          {UnitGroup::specificVolume, 0.0328},
-      {UnitGroup::entropy, 6.6},           {UnitGroup::enthalpy, 3374.0},
-      {UnitGroup::internalEnergy, 3046.0}, {UnitGroup::quality, 0.5},
-      {UnitGroup::massFlow, 10.0},         {UnitGroup::heatDuty, 1000.0},
-      {UnitGroup::efficiency, 0.8},        {UnitGroup::ratio, 0.1},
-      {UnitGroup::power, 1000.0},
-  };
-  if (saturated && parameter.group == static_cast<short>(UnitGroup::temperature)) return 500.0;
-  const auto found = steam.find(UnitGroup(parameter.group));
-  return found == steam.end() ? 1.0 : found->second;
-}
-
-std::string sampleWord(const Parameter& parameter, bool saturated, const UserUnits& units) {
-  if (parameter.hasUnit()) {
-    return readableText(
-        units.toUser(UnitGroup(parameter.group), sampleNumber(parameter, saturated)), 6);
-  }
-  if (parameter.type != ValueType::text) return "1";
-  const std::map<std::string_view, std::string> texts = {{"groupStr", "P"},
-                                                         {"strGroup", "P"},
-                                                         {"newVal", "bara"},
-                                                         {"strFromUnit", "psia"},
-                                                         {"strToUnit", "bara"}};
-  const auto found = texts.find(parameter.name);
-  return found == texts.end() ? "text" : found->second;
-}
-
-/// A call that succeeds, with its answer; nothing when none is known.
-std::string example(const Member& member, const ClientOptions& options) {
-  for (const bool saturated : {false, true}) {
-    Client client;  // a call may change settings, units or the trace
-    options.applyTo(client);
-    std::vector<std::string> words;
-    for (const Parameter* parameter : inputs(member)) {
-      words.push_back(sampleWord(*parameter, saturated, client.units()));
-    }
-    const Outcome outcome = perform(client, prepare(member, words, client.units()));
-    if (!outcome.succeeded()) continue;
-    std::string line = fmt::format("\nexample\n  calvex {}", member.name);
-    for (const std::string& word : words) line += " " + word;
-    for (const std::string& unit : options.units) line += fmt::format(" -u '{}'", unit);
-    for (const std::string& setting : options.settings) line += fmt::format(" -s '{}'", setting);
-    const std::string answer = outcomeText(outcome, client.units());
-    if (answer == "done\n") return line + "\n";
-    return line + "\n" + indented(answer);
-  }
-  return {};
-}
-
-std::string describe(const char* title, const Member& member,
-                     const std::vector<const Parameter*>& parameters, const UserUnits& units) {
-  if (parameters.empty()) return {};
-  std::vector<std::vector<std::string>> rows;
-  rows.reserve(parameters.size());
-  for (const Parameter* parameter : parameters) {
-    rows.push_back({std::string(outputName(member, *parameter)), std::string(meaning(*parameter)),
-                    currentUnit(units, parameter->group)});
-  }
-  return fmt::format("\n{}\n{}", title, indented(aligned(rows)));
-}
-
-std::string describeTokens(const Member& member, const UserUnits& units) {
-  if (tokens(member).empty()) return {};
-  std::vector<std::vector<std::string>> rows;
-  for (const spreadsheet::Token& token : tokens(member)) {
-    rows.push_back({std::string(token.text), std::string(token.label),
-                    currentUnit(units, static_cast<int>(token.group))});
-  }
-  return fmt::format("\ntokens (strTokens names one or more, such as {}{})\n{}",
-                     rows.front().front(), rows.size() > 1 ? "," + rows[1].front() : "",
-                     indented(aligned(rows)));
-}
-
-std::string explain(const Member& member, const ClientOptions& options) {
-  Client client;
-  options.applyTo(client);
-  std::string text = fmt::format("{}\ndispatch id {:#x}\n", signature(member), member.dispatchId);
-  if (member.isProperty) {
-    text += fmt::format("\nusage\n  calvex {}\n", member.name);
-    if (member.put != nullptr) {
-      text += fmt::format("  calvex MEMBER ... -s {0}=VALUE\n  {0} VALUE     in a script\n",
-                          member.name);
+std::string list(const std::vector<Found>& members) {
+  std::string text;
+  std::size_t longest = 0;
+  for (const Found& found : members) longest = std::max(longest, found.member->name.size());
+  for (int i = 0; i < memberHeadingCount; ++i) {
+    const MemberHeading heading = MemberHeading(i);
+    bool first = true;
+    for (const Found& found : members) {
+      if (found.explained.heading != heading) continue;
+      if (first) text += fmt::format("{}{}\n", text.empty() ? "" : "\n", headingText(heading));
+      first = false;
+      text += fmt::format("  {:{}}  {}\n", found.member->name, longest, found.explained.title);
     }
   }
-  text += describe("arguments", member, inputs(member), client.units());
-  text += describe("answers", member, outputs(member), client.units());
-  text += describeTokens(member, client.units());
-  return text + example(member, options);
+  return text;
+}
+
+std::string search(const std::string& pattern) {
+  std::vector<Found> all, found, others;
+  for (const Member& member : memberTable()) all.push_back({&member, explanation(member)});
+  const Words wanted = wordsIn(pattern);
+  for (const Found& one : all) {
+    const bool underHeading = mentions(headingText(one.explained.heading), wanted);
+    if (nameMatches(one.member->name, pattern) ||
+        (!wanted.empty() && (underHeading || mentions(answerWords(one), wanted)))) {
+      found.push_back(one);
+    } else if (!wanted.empty() && mentions(allWords(one), wanted)) {
+      others.push_back(one);
+    }
+  }
+  if (found.empty()) return list(others);
+  std::string text = list(found);
+  if (others.empty()) return text;
+  std::string names = "also in the inputs or notes of";
+  for (const Found& one : others) names += fmt::format(" {}", one.member->name);
+  return fmt::format("{}\n{}", text, wrapped(names));
 }
 
 }  // namespace
 
 ExitStatus membersCommand(const Words& words, Console& console) {
-  CommandOptions app("members", "members [PATTERN] [-u GROUP=UNIT]",
-                     "Lists members with what they take and answer, or explains one.");
+  CommandOptions app("members", "members [WORDS] [-u GROUP=UNIT]",
+                     "Lists members under headings, finds them by words, or explains one.");
   app.footer(
       "Examples:\n"
-      "  calvex members            all\n"
-      "  calvex members 'h*t*'     those whose name matches\n"
-      "  calvex members sat        those with these letters in their name\n"
-      "  calvex members HPT        explains one");
-  std::string pattern;
+      "  calvex members                       all\n"
+      "  calvex members enthalpy              those that answer an enthalpy\n"
+      "  calvex members saturation pressure   those that answer a saturation pressure\n"
+      "  calvex members 'h*t*'                those whose name matches\n"
+      "  calvex members HPT -u T=C            explains one, in Celsius");
+  Words wanted;
   ClientOptions options;
-  app.add_option("PATTERN", pattern,
-                 "A member's name, a part of it, or a pattern with * and ?, in any case")
+  app.add_option("WORDS", wanted,
+                 "A member's name, a part of it, a pattern with * and ?, or words, in any case")
       ->type_name("");
   options.addUnitsTo(app);
   if (!parse(app, words, console)) return ExitStatus::ok;
 
+  const std::string pattern = fmt::format("{}", fmt::join(wanted, " "));
   if (const Member* member = findMember(pattern)) {
-    console.out << explain(*member, options);
+    console.out << memberHelp(*member, options);
     return ExitStatus::ok;
   }
-  std::vector<const Member*> found;
-  for (const Member& member : memberTable()) {
-    if (matches(member.name, pattern)) found.push_back(&member);
-  }
-  if (found.empty()) static_cast<void>(memberNamed(pattern));  // throws with the nearest names
-  Client client;
-  options.applyTo(client);
-  console.out << list(found, client.units());
+  const std::string text = search(pattern);
+  if (text.empty()) static_cast<void>(memberNamed(pattern));  // throws with the nearest names
+  console.out << text;
   return ExitStatus::ok;
 }
 

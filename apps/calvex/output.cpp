@@ -8,6 +8,8 @@
 #include "encoding.h"
 #include "json.h"
 #include "numbers.h"
+#include "server/member_explanations.h"
+#include "spreadsheet/result_arrays.h"
 
 namespace calvex::cli {
 
@@ -57,6 +59,34 @@ void forEachOutput(const Outcome& outcome, F f) {
     const Value& value = outcome.call.arguments[i];
     if (parameters[i].isOutput() && isWritten(value)) f(parameters[i], value);
   }
+}
+
+std::string plainRows(const ResultArray& array) {
+  std::vector<std::vector<std::string>> cells;
+  for (const auto& row : array) {
+    std::ranges::transform(row, std::back_inserter(cells.emplace_back()), cellText);
+  }
+  return aligned(cells);
+}
+
+// The rows of a spreadsheet variant under the tokens that asked for them. Which cells a row has
+// beside its value (the label before it, the unit behind it) the client's settings decide.
+std::vector<Equation> namedResults(const Outcome& outcome, const ResultArray& array) {
+  const Member& member = *outcome.call.member;
+  const std::size_t place = outcome.call.arguments.size() - 2;  // before the array
+  const auto tokens = spreadsheet::readTokens(*variantOf(member),
+                                              std::get<std::string>(outcome.call.arguments[place]));
+  std::vector<Equation> lines;
+  for (std::size_t i = 0; i < array.size() && i < tokens.size(); ++i) {
+    const std::vector<Cell>& cells = array[i];
+    const auto value = std::ranges::find_if(
+        cells, [](const Cell& cell) { return std::holds_alternative<double>(cell); });
+    if (value == cells.end()) continue;
+    lines.push_back({std::string(tokens[i]->text), cellText(*value),
+                     value + 1 == cells.end() ? std::string() : cellText(*(value + 1)),
+                     value == cells.begin() ? std::string() : tokenWords(member, *tokens[i])});
+  }
+  return lines;
 }
 
 std::string_view kindName(ZvFunctionCall::Kind kind) {
@@ -112,6 +142,17 @@ std::string aligned(const std::vector<std::vector<std::string>>& rows, std::size
   return text;
 }
 
+std::string wrapped(std::string_view text, std::size_t columns) {
+  std::string lines;
+  while (text.size() > columns) {
+    const std::size_t blank = std::min(text.rfind(' ', columns), text.find(' ', columns));
+    if (blank == std::string_view::npos) break;
+    lines += fmt::format("{}\n", text.substr(0, blank));
+    text.remove_prefix(blank + 1);
+  }
+  return fmt::format("{}{}\n", lines, text);
+}
+
 std::string indented(std::string_view lines) {
   std::string text;
   while (!lines.empty()) {
@@ -122,24 +163,48 @@ std::string indented(std::string_view lines) {
   return text;
 }
 
+std::string equations(const std::vector<Equation>& lines) {
+  std::size_t name = 0, value = 0, unit = 0;
+  for (const Equation& line : lines) {
+    name = std::max(name, width(line.name));
+    value = std::max(value, width(line.value));
+    unit = std::max(unit, width(line.unit));
+  }
+  const auto padded = [](std::string text, std::size_t to) {
+    text.append(to - std::min(to, width(text)), ' ');
+    return text;
+  };
+  std::string text;
+  for (const Equation& line : lines) {
+    std::string whole = padded(line.name, name) + " = " + padded(line.value, value);
+    if (unit > 0) whole += " " + padded(line.unit, unit);
+    if (!line.words.empty()) whole += "  " + line.words;
+    whole.erase(whole.find_last_not_of(' ') + 1);
+    text += whole + '\n';
+  }
+  return text;
+}
+
 std::string outcomeText(const Outcome& outcome, const UserUnits& units) {
   const Member& member = *outcome.call.member;
-  std::vector<std::vector<std::string>> rows;
+  std::vector<Equation> lines;
   std::string arrays;
   forEachOutput(outcome, [&](const Parameter& parameter, const Value& value) {
     if (const auto* array = std::get_if<ResultArray>(&value)) {
-      std::vector<std::vector<std::string>> cells;
-      for (const auto& row : *array) {
-        std::ranges::transform(row, std::back_inserter(cells.emplace_back()), cellText);
+      if (variantOf(member) != nullptr) {
+        const std::vector<Equation> results = namedResults(outcome, *array);
+        lines.insert(lines.end(), results.begin(), results.end());
+      } else {
+        arrays += plainRows(*array);
       }
-      arrays += aligned(cells);
       return;
     }
-    const bool named = outputName(member, parameter) == parameter.name;
-    rows.push_back({std::string(named ? parameter.name : member.name), valueText(value),
-                    currentUnit(units, parameter.group)});
+    const ParameterExplanation explained = parameterExplanation(member, parameter);
+    const std::string shown = valueText(value);
+    lines.push_back({explained.label, shown.empty() ? "(empty)" : shown,
+                     currentUnit(units, parameter.group), explained.words});
   });
-  const std::string text = aligned(rows) + arrays;
+  const std::string text = equations(lines) + arrays;
   return text.empty() && outcome.succeeded() ? "done\n" : text;
 }
 
@@ -162,6 +227,7 @@ std::string outcomeJson(const Outcome& outcome, const UserUnits& units,
   });
   if (!unitNames.empty()) object.add("units", unitNames.text());
   if (!outcome.succeeded()) object.add("lastError", jsonString(outcome.lastError));
+  if (!outcome.cause.empty()) object.add("cause", jsonString(outcome.cause));
   if (trace != nullptr) object.add("trace", traceJson(*trace));
   return object.text();
 }
@@ -170,12 +236,18 @@ std::string errorJson(std::string_view text) {
   return JsonObject().add("error", jsonString(text)).text();
 }
 
+std::string errorJson(std::string_view text, int line, std::string_view source) {
+  return JsonObject()
+      .add("error", jsonString(text))
+      .add("line", fmt::format("{}", line))
+      .add("text", jsonString(source))
+      .text();
+}
+
 std::string traceText(const ZvFunctionCall& root) {
   std::string text;
   appendTrace(text, root, 0);
-  return text.empty() ? "trace: no call left a message (TraceLevel 1 records warnings too, 2 also "
-                        "notes)\n"
-                      : text;
+  return text.empty() ? "trace: no call left a message (TraceLevel 2 also records notes)\n" : text;
 }
 
 std::string traceJson(const ZvFunctionCall& node) {

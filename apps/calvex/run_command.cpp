@@ -23,6 +23,7 @@ ExitStatus runCommand(const Words& words, Console& console) {
       "  TraceLevel 2\n"
       "Two more words: 'trace' prints the tree of traced calls, 'reset' makes a new client\n"
       "object. A line that cannot be run is reported and the next one runs.\n"
+      "On a terminal, without FILE, it is a shell with history, completion (Tab) and help.\n"
       "Exit status: 2 when a line could not be run, else 1 when a call failed, else 0.");
   std::string file = "-";
   ClientOptions options;
@@ -30,8 +31,18 @@ ExitStatus runCommand(const Words& words, Console& console) {
   options.addUnitsTo(app);
   options.addSettingsTo(app);
   options.addOutputTo(app);
+  bool config = false;
+  app.add_flag("--config", config, "Start with what 'calvex config' remembers");
+  app.takesStartingOptions = false;
   if (!parse(app, words, console)) return ExitStatus::ok;
-  if (file == "-") return runScript(console.in, console.out, console.err, options);
+  if (config && console.startingOptions) {
+    const StartingOptions start = console.startingOptions();
+    options.units.insert(options.units.begin(), start.units.begin(), start.units.end());
+    options.settings.insert(options.settings.begin(), start.settings.begin(), start.settings.end());
+  }
+  const bool shell = app.count("FILE") == 0 && console.inIsTerminal && console.outIsTerminal;
+  if (shell && !options.json) return runShell(console, options);
+  if (file == "-") return runScript(console.in, console, options);
 
   if (std::filesystem::is_directory(file)) {
     throw UsageError(fmt::format("cannot read {}: it is a directory", inQuotes(file)));
@@ -41,7 +52,7 @@ ExitStatus runCommand(const Words& words, Console& console) {
   if (!in) {
     throw UsageError(fmt::format("cannot read {}: {}", inQuotes(file), std::strerror(errno)));
   }
-  return runScript(in, console.out, console.err, options);
+  return runScript(in, console, options);
 }
 
 }  // namespace calvex::cli

@@ -101,77 +101,16 @@ bool readLine(std::istream& in, std::string& line) {
   return true;
 }
 
-class Interpreter {
- public:
-  Interpreter(std::ostream& out, std::ostream& err, const ClientOptions& options)
-      : out_(out), err_(err), options_(options) {
-    options.applyTo(client_);
+// A line without the blanks around it, and without its comment where it can be told.
+std::string_view wordsOf(std::string_view line) {
+  try {
+    return splitLine(line).source;
+  } catch (const UsageError&) {
+    const std::size_t first = std::min(line.size(), line.find_first_not_of(blanks));
+    line.remove_prefix(first);
+    return line.substr(0, line.find_last_not_of(blanks) + 1);
   }
-
-  void run(std::string_view line) {
-    ++lineNumber_;
-    if (lineNumber_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.remove_prefix(3);
-    try {
-      if (line.size() > longestLine) {
-        throw UsageError(fmt::format("the line is longer than {} bytes", longestLine));
-      }
-      const ScriptLine split = splitLine(line);
-      if (!split.words.empty()) run(split);
-    } catch (const UsageError& error) {
-      status_ = ExitStatus::usage;
-      if (options_.json) fmt::print(out_, "{}\n", errorJson(error.what()));
-      report(error.what());
-    }
-  }
-
-  void printTrace() {
-    const ZvFunctionCall& root = client_.engine().diagnostics().root();
-    out_ << (options_.json ? traceJson(root) + '\n' : "trace\n" + indented(traceText(root)));
-  }
-
-  [[nodiscard]] ExitStatus status() const noexcept { return status_; }
-
- private:
-  void run(const ScriptLine& line) {
-    const std::string& name = line.words.front();
-    const auto arguments = std::span(line.words).subspan(1);
-    if (name == "trace" || name == "reset") {
-      if (!arguments.empty()) throw UsageError(fmt::format("{} takes no arguments", name));
-      if (name == "trace") {
-        printTrace();
-      } else {
-        client_.reset();
-        if (options_.json) out_ << "{\"member\":\"reset\",\"hresult\":0}\n";
-      }
-      return;
-    }
-    const Outcome outcome =
-        perform(client_, prepare(memberNamed(name), arguments, client_.units()));
-    if (options_.json) {
-      fmt::print(out_, "{}\n", outcomeJson(outcome, client_.units()));
-    } else {
-      out_ << line.source << '\n' << indented(outcomeText(outcome, client_.units()));
-    }
-    if (!outcome.succeeded()) {
-      if (status_ == ExitStatus::ok) status_ = ExitStatus::callFailed;
-      report(failureText(outcome));
-      if (const std::string help = hint(outcome); !help.empty()) {
-        fmt::print(err_, "{}", indented(help));
-      }
-    }
-  }
-
-  void report(std::string_view text) {
-    fmt::print(err_, "calvex: line {}: {}\n", lineNumber_, text);
-  }
-
-  std::ostream& out_;
-  std::ostream& err_;
-  const ClientOptions& options_;
-  Client client_;
-  int lineNumber_ = 0;
-  ExitStatus status_ = ExitStatus::ok;
-};
+}
 
 }  // namespace
 
@@ -191,13 +130,93 @@ ScriptLine splitLine(std::string_view line) {
   return split;
 }
 
-ExitStatus runScript(std::istream& in, std::ostream& out, std::ostream& err,
-                     const ClientOptions& options) {
-  Interpreter interpreter(out, err, options);
+Interpreter::Interpreter(Console& console, const ClientOptions& options, bool interactive)
+    : console_(console), options_(options), interactive_(interactive) {
+  options.applyTo(client_);
+}
+
+void Interpreter::run(std::string_view line) {
+  ++lineNumber_;
+  if (lineNumber_ == 1 && line.starts_with("\xEF\xBB\xBF")) line.remove_prefix(3);
+  try {
+    if (line.size() > longestLine) {
+      throw UsageError(fmt::format("the line is longer than {} bytes", longestLine));
+    }
+    const ScriptLine split = splitLine(line);
+    if (!split.words.empty()) run(split);
+  } catch (const UsageError& error) {
+    status_ = ExitStatus::usage;
+    constexpr std::size_t shown = 200;
+    const std::string_view source = wordsOf(line).substr(0, shown);
+    if (options_.json) {
+      fmt::print(console_.out, "{}\n", errorJson(error.what(), lineNumber_, source));
+    } else if (!interactive_) {
+      fmt::print(console_.out, "{}\n", source);
+    }
+    report(error.what(), {});
+  }
+}
+
+void Interpreter::run(const ScriptLine& line) {
+  std::ostream& out = console_.out;
+  const std::string& name = line.words.front();
+  const auto arguments = std::span(line.words).subspan(1);
+  if (name == "trace" || name == "reset") {
+    if (!arguments.empty()) throw UsageError(fmt::format("{} takes no arguments", name));
+    if (name == "trace") {
+      printTrace();
+    } else {
+      client_.reset();
+      if (options_.json) out << "{\"member\":\"reset\",\"hresult\":0}\n";
+    }
+    return;
+  }
+  const Outcome outcome = perform(client_, prepare(memberNamed(name), arguments, client_.units()));
+  if (options_.json) {
+    fmt::print(out, "{}\n", outcomeJson(outcome, client_.units()));
+  } else if (interactive_) {
+    out << outcomeText(outcome, client_.units());
+  } else {
+    out << line.source << '\n' << indented(outcomeText(outcome, client_.units()));
+  }
+  const auto warnHere = [&](const std::string& warning) {
+    if (warning.empty()) return;
+    warn(console_, interactive_ ? warning : fmt::format("line {}: {}", lineNumber_, warning));
+  };
+  for (const std::string& warning : outcome.warnings) warnHere(warning);
+  if (!outcome.succeeded()) {
+    if (status_ == ExitStatus::ok) status_ = ExitStatus::callFailed;
+    const std::string lines[] = {outcome.cause, hint(outcome)};
+    report(failureText(outcome), fmt::format("{}", fmt::join(lines, lines[0].empty() ? "" : "\n")));
+  } else {
+    warnHere(outcome.call.choice.warning);
+  }
+}
+
+// In its place among the answers, and with its number where the errors go; once where the two are
+// one.
+void Interpreter::report(std::string_view text, std::string_view help) {
+  if (!options_.json && !interactive_ && !console_.errIsOut) {
+    fmt::print(console_.out, "{}{}", indented(text), indented(help));
+  }
+  complain(console_,
+           interactive_ ? std::string(text) : fmt::format("line {}: {}", lineNumber_, text));
+  fmt::print(console_.err, "{}", indented(help));
+}
+
+void Interpreter::printTrace() {
+  const ZvFunctionCall& root = client_.engine().diagnostics().root();
+  console_.out << (options_.json  ? traceJson(root) + '\n'
+                   : interactive_ ? traceText(root)
+                                  : "trace\n" + indented(traceText(root)));
+}
+
+ExitStatus runScript(std::istream& in, Console& console, const ClientOptions& options) {
+  Interpreter interpreter(console, options);
   std::string line;
-  while (out && readLine(in, line)) {
+  while (console.out && readLine(in, line)) {
     interpreter.run(line);
-    if (in.rdbuf()->in_avail() <= 0) out.flush();
+    if (in.rdbuf()->in_avail() <= 0) console.out.flush();
   }
   if (options.trace) interpreter.printTrace();
   return interpreter.status();

@@ -1,38 +1,47 @@
-// calvex table saturation|isobar
+// calvex table saturation|isobar|isotherm
 #include <fmt/format.h>
 
 #include <cmath>
 #include <ostream>
 
 #include "command_line.h"
+#include "csv.h"
 #include "diagnostics/formatting.h"
 #include "encoding.h"
+#include "json.h"
 #include "numbers.h"
 #include "output.h"
 #include "progress.h"
+#include "water.h"
 
 namespace calvex::cli {
 
 namespace {
 
-/// A column: a member's first output. Inputs are found by the parameters' names.
+/// What stands in a column of a saturation table.
 struct Column {
   std::string_view title;
-  std::string_view member;
-  double quality = 0.0;  ///< for members with an input Q
+  char letter;
+  enum Of { line, liquid, vapour, difference } of;  ///< difference: vapour less liquid
 };
 
-constexpr Column saturationByT[] = {
-    {"P", "PSatT"},         {"v_liq", "VSatTQ", 0}, {"v_vap", "VSatTQ", 1}, {"h_liq", "HSatTQ", 0},
-    {"h_vap", "HSatTQ", 1}, {"s_liq", "SSatTQ", 0}, {"s_vap", "SSatTQ", 1},
+// The other one of temperature and pressure comes first.
+constexpr Column saturationColumns[] = {
+    {"v_liq", 'V', Column::liquid},    {"v_vap", 'V', Column::vapour},
+    {"u_liq", 'U', Column::liquid},    {"u_vap", 'U', Column::vapour},
+    {"h_liq", 'H', Column::liquid},    {"h_fg", 'H', Column::difference},
+    {"h_vap", 'H', Column::vapour},    {"s_liq", 'S', Column::liquid},
+    {"s_fg", 'S', Column::difference}, {"s_vap", 'S', Column::vapour},
+    {"cp_liq", 'C', Column::liquid},   {"cp_vap", 'C', Column::vapour},
 };
-constexpr Column saturationByP[] = {
-    {"T", "TSatP"},         {"v_liq", "VSatPQ", 0}, {"v_vap", "VSatPQ", 1}, {"h_liq", "HSatPQ", 0},
-    {"h_vap", "HSatPQ", 1}, {"s_liq", "SSatPQ", 0}, {"s_vap", "SSatPQ", 1},
+
+/// Of an isobar or isotherm: the letter of the member.
+struct StateColumn {
+  std::string_view title;
+  char letter;
 };
-constexpr Column isobar[] = {
-    {"v", "VPT"}, {"rho", "RPT"}, {"h", "HPT"}, {"s", "SPT"},
-    {"u", "UPT"}, {"cp", "CPT"},  {"w", "WPT"},
+constexpr StateColumn stateColumns[] = {
+    {"v", 'V'}, {"rho", 'R'}, {"h", 'H'}, {"s", 'S'}, {"u", 'U'}, {"cp", 'C'}, {"w", 'W'},
 };
 
 struct Range {
@@ -52,122 +61,233 @@ struct Range {
   }
 };
 
+enum class Format { text, csv, json };
+
 struct Table {
-  std::span<const Column> columns;
+  enum class Kind { saturation, isobar, isotherm } kind;
   char key;            ///< T or P, which the range is about
-  double fixed = 0.0;  ///< the other one, of an isobar
+  double fixed = 0.0;  ///< the other one, of an isobar or isotherm
   Range range;
-  bool csv;
+  Format format;
+
+  [[nodiscard]] char other() const { return key == 'T' ? 'P' : 'T'; }
+  [[nodiscard]] bool ofStates() const { return kind != Kind::saturation; }
+  [[nodiscard]] std::string_view name() const {
+    return kind == Kind::isobar ? "isobar" : kind == Kind::isotherm ? "isotherm" : "saturation";
+  }
 };
 
-struct Answer {
-  std::optional<double> value;
+struct Row {
+  std::vector<std::optional<double>> values;
+  std::string phase;
   std::string failure;
 };
 
-Answer answer(Client& client, const Column& column, const Table& table, double key) {
-  const Member& member = *findMember(column.member);
-  Call call{&member, false, std::vector<Value>(member.parameters().size())};
-  for (std::size_t i = 0; i < call.arguments.size(); ++i) {
-    const Parameter& parameter = member.parameters()[i];
-    if (!parameter.isInput()) continue;
-    if (parameter.group == static_cast<short>(UnitGroup::quality)) {
-      call.arguments[i] = client.units().toUser(UnitGroup::quality, column.quality);
-    } else {
-      call.arguments[i] = parameter.name.front() == table.key ? key : table.fixed;
+// A line of the saturation table at a temperature or pressure.
+Row saturationRow(Water& water, const Table& table, double key) {
+  Row row{{key}, {}, {}};
+  row.values.resize(2 + std::size(saturationColumns));
+  const std::optional<Saturation> line = saturationAt(water, {table.key, key}, &row.failure);
+  if (!line) return row;
+  row.values[1] = water.toUser(table.other(), table.key == 'T' ? line->P : line->T);
+  std::size_t place = 2;
+  for (const Column& column : saturationColumns) {
+    const double liquid = water.property(column.letter, line->T, line->liquidDensity);
+    const double vapour = water.property(column.letter, line->T, line->vapourDensity);
+    row.values[place++] = column.of == Column::liquid   ? liquid
+                          : column.of == Column::vapour ? vapour
+                                                        : vapour - liquid;
+  }
+  return row;
+}
+
+// A line of an isobar or isotherm.
+Row stateRow(Water& water, const Table& table, double key) {
+  Row row{{key}, {}, {}};
+  std::optional<double> density;
+  for (const StateColumn& column : stateColumns) {
+    const Answer answer = water.ask(std::string{column.letter, 'P', 'T'},
+                                    {{table.key, key}, {table.other(), table.fixed}});
+    row.values.push_back(answer.value);
+    if (row.failure.empty()) row.failure = answer.failure;
+    if (column.letter == 'R') density = answer.value;
+  }
+  if (density) {
+    const double P = water.toModel('P', table.key == 'P' ? key : table.fixed);
+    const double T = water.toModel('T', table.key == 'T' ? key : table.fixed);
+    row.phase = phaseName(P, T, water.toModel('R', *density));
+  }
+  return row;
+}
+
+// The two lines where an isobar or isotherm meets the saturation line.
+std::vector<Row> rowsOnLine(const Water& water, const Table& table, const Saturation& line) {
+  std::vector<Row> rows;
+  for (const bool vapour : {false, true}) {
+    Row row{{water.toUser(table.key, table.key == 'T' ? line.T : line.P)},
+            vapour ? "saturated vapour" : "saturated liquid",
+            {}};
+    for (const StateColumn& column : stateColumns) {
+      row.values.emplace_back(
+          water.property(column.letter, line.T, vapour ? line.vapourDensity : line.liquidDensity));
     }
+    rows.push_back(std::move(row));
   }
-  const Outcome outcome = perform(client, std::move(call));
-  if (!outcome.succeeded()) return {std::nullopt, failureText(outcome)};
-  return {std::get<double>(outcome.call.arguments.front()), {}};
+  // Heating and decompressing lead from liquid to vapour.
+  const bool towardsVapour = (table.range.step > 0.0) == (table.key == 'T');
+  if (!towardsVapour) std::swap(rows[0], rows[1]);
+  return rows;
 }
 
-std::string csvText(std::string_view text) {
-  if (text.find_first_of(",\"\n\r") == std::string_view::npos) return std::string(text);
-  std::string field = "\"";
-  for (const char c : text) {
-    if (c == '"') field += c;
-    field += c;
-  }
-  return field + '"';
-}
-
-// Writes a line: titles, units or values, with a remark behind them.
+// Writes the lines in one of the formats.
 class Sheet {
  public:
-  Sheet(std::ostream& out, bool csv) : out_(out), csv_(csv) {}
+  Sheet(std::ostream& out, const Water& water, const Table& table)
+      : out_(out), format_(table.format), phases_(table.ofStates()) {
+    const auto add = [&](std::string_view title, char letter) {
+      titles_.emplace_back(title);
+      units_.push_back(water.unit(letter));
+    };
+    add(std::string(1, table.key), table.key);
+    if (phases_) {
+      for (const StateColumn& column : stateColumns) add(column.title, column.letter);
+    } else {
+      add(std::string(1, table.other()), table.other());
+      for (const Column& column : saturationColumns) add(column.title, column.letter);
+    }
+    if (format_ == Format::json) beginJson(water, table);
+    if (format_ == Format::csv) beginCsv();
+    if (format_ == Format::text) {
+      out_ << columns(titles_) << '\n' << columns(units_) << '\n';
+    }
+  }
 
-  void line(const std::vector<std::string>& fields, std::string_view remark) {
-    std::string text;
-    for (const std::string& field : fields) {
-      if (csv_) {
-        text += (text.empty() ? "" : ",") + csvText(field);
-      } else {
-        constexpr std::size_t columnWidth = 13;
-        text.append(columnWidth - std::min(columnWidth - 1, width(field)), ' ');
-        text += field;
-      }
+  void line(const Row& row) {
+    if (format_ == Format::json) return jsonLine(row);
+    std::vector<std::string> fields;
+    for (const std::optional<double>& value : row.values) {
+      fields.push_back(format_ == Format::csv ? value ? shortestText(*value) : ""
+                       : value                ? readableText(*value, 7)
+                                              : "-");
     }
-    if (csv_) {
-      text += "," + csvText(remark);
-    } else if (!remark.empty()) {
-      text += fmt::format("  {}", remark);
+    if (format_ == Format::csv) {
+      if (phases_) fields.push_back(row.phase);
+      fields.push_back(row.failure);
+      out_ << csvLine(fields);
+      return;
     }
-    out_ << text << '\n';
+    const std::string& remark = row.failure.empty() ? row.phase : row.failure;
+    out_ << columns(fields) << (remark.empty() ? "" : "  ") << remark << '\n';
+  }
+
+  void end() {
+    if (format_ == Format::json) out_ << "]}\n";
   }
 
  private:
+  static std::string columns(const std::vector<std::string>& fields) {
+    constexpr std::size_t columnWidth = 13;
+    std::string text;
+    for (const std::string& field : fields) {
+      text.append(columnWidth - std::min(columnWidth - 1, width(field)), ' ');
+      text += field;
+    }
+    return text;
+  }
+
+  void beginCsv() {
+    std::vector<std::string> heads;
+    for (std::size_t i = 0; i < titles_.size(); ++i) {
+      heads.push_back(fmt::format("{} [{}]", titles_[i], units_[i]));
+    }
+    if (phases_) heads.emplace_back("phase");
+    heads.emplace_back("failure");
+    out_ << csvLine(heads);
+  }
+
+  void beginJson(const Water& water, const Table& table) {
+    JsonObject units;
+    for (std::size_t i = 0; i < titles_.size(); ++i) units.add(titles_[i], jsonString(units_[i]));
+    const std::string other(1, table.other());
+    if (phases_) units.add(other, jsonString(water.unit(table.other())));
+    JsonObject head;
+    head.add("table", jsonString(table.name()));
+    if (phases_) head.add(other, jsonNumber(table.fixed));
+    head.add("units", units.text());
+    std::string text = head.text();
+    text.pop_back();
+    out_ << text << ",\"rows\":[";
+  }
+
+  void jsonLine(const Row& row) {
+    JsonObject object;
+    for (std::size_t i = 0; i < row.values.size(); ++i) {
+      if (row.values[i]) object.add(titles_[i], jsonNumber(*row.values[i]));
+    }
+    if (!row.phase.empty()) object.add("phase", jsonString(row.phase));
+    if (!row.failure.empty()) object.add("failure", jsonString(row.failure));
+    out_ << (first_ ? "\n" : ",\n") << object.text();
+    first_ = false;
+  }
+
   std::ostream& out_;
-  bool csv_;
+  Format format_;
+  bool phases_;
+  std::vector<std::string> titles_, units_;
+  bool first_ = true;
 };
+
+// Whether x lies between from (which does not count) and to, in either direction.
+bool isBetween(double x, double from, double to) {
+  return from < to ? from < x && x <= to : to <= x && x < from;
+}
 
 ExitStatus print(const Table& table, Client& client, Console& console) {
   const long lines = table.range.lines();
-  Sheet sheet(console.out, table.csv);
-
-  std::vector<std::string> titles = {std::string(1, table.key)};
-  std::vector<std::string> units = {currentUnit(
-      client.units(),
-      static_cast<int>(table.key == 'T' ? UnitGroup::temperature : UnitGroup::pressure))};
-  for (const Column& column : table.columns) {
-    titles.emplace_back(column.title);
-    units.push_back(
-        currentUnit(client.units(), findMember(column.member)->parameters().front().group));
+  Water water(client);
+  // Where an isobar or isotherm meets the saturation line, if it does.
+  std::optional<Saturation> meeting;
+  double meetingKey = 0.0;
+  if (table.ofStates()) {
+    meeting = saturationAt(water, {table.other(), table.fixed});
+    if (meeting) meetingKey = water.toUser(table.key, table.key == 'T' ? meeting->T : meeting->P);
   }
-  if (table.csv) {
-    for (std::size_t i = 0; i < titles.size(); ++i) {
-      titles[i] += fmt::format(" [{}]", units[i]);
-    }
-    sheet.line(titles, "failure");
-  } else {
-    sheet.line(titles, "");
-    sheet.line(units, "");
-  }
-
-  const auto number = [&](double value) {
-    return table.csv ? shortestText(value) : readableText(value, 7);
-  };
+  Sheet sheet(console.out, water, table);
   ExitStatus status = ExitStatus::ok;
   std::string firstFailure;
-  Progress progress(console.err, lines, !console.outIsTerminal);
+  Progress progress(console.err, lines, console.errIsTerminal && !console.outIsTerminal);
   for (long i = 0; i < lines && console.out; ++i) {
-    const double key = table.range.from + static_cast<double>(i) * table.range.step;
-    std::vector<std::string> fields = {number(key)};
-    std::string failure;
-    for (const Column& column : table.columns) {
-      const Answer cell = answer(client, column, table, key);
-      fields.push_back(cell.value ? number(*cell.value) : table.csv ? "" : "-");
-      if (failure.empty()) failure = cell.failure;
+    const auto keyOf = [&](long line) {
+      return table.range.from + static_cast<double>(line) * table.range.step;
+    };
+    const double key = keyOf(i);
+    const bool meets =
+        meeting && (i == 0 ? meetingKey == key : isBetween(meetingKey, keyOf(i - 1), key));
+    if (meets) {
+      for (const Row& row : rowsOnLine(water, table, *meeting)) sheet.line(row);
     }
-    sheet.line(fields, failure);
-    if (!failure.empty()) {
+    const Row row =
+        table.ofStates() ? stateRow(water, table, key) : saturationRow(water, table, key);
+    const bool onLine = row.failure.find(messageText(Message::twoPhase)) != std::string::npos;
+    if (onLine && meeting) {
+      // Pressure and temperature say no more than the two lines do.
+      const bool shown = meets || (i + 1 < lines && isBetween(meetingKey, key, keyOf(i + 1)));
+      if (!shown) {
+        for (const Row& both : rowsOnLine(water, table, *meeting)) sheet.line(both);
+      }
+      continue;
+    }
+    sheet.line(row);
+    if (!row.failure.empty()) {
       status = ExitStatus::callFailed;
       if (firstFailure.empty()) {
-        firstFailure = fmt::format("at {} = {}: {}", table.key, number(key), failure);
+        firstFailure = fmt::format("at {} = {}: {}", table.key, readableText(key, 7), row.failure);
       }
     }
     progress.at(i + 1);
   }
+  sheet.end();
+  for (const std::string& warning : water.warnings()) warn(console, warning);
   if (status != ExitStatus::ok) throw Failure(status, firstFailure);
   return status;
 }
@@ -177,48 +297,64 @@ ExitStatus print(const Table& table, Client& client, Console& console) {
 ExitStatus tableCommand(const Words& words, Console& console) {
   CommandOptions app("table",
                      "table saturation [--by T|P] --from X --to X --step X [OPTIONS]\n"
-                     "       calvex table isobar PRESSURE --from T --to T --step T [OPTIONS]",
-                     "Prints a table of saturated states, or of states at one pressure.");
+                     "       calvex table isobar PRESSURE --from T --to T --step T [OPTIONS]\n"
+                     "       calvex table isotherm TEMPERATURE --from P --to P --step P [OPTIONS]",
+                     "Prints a table of saturated states, or of states at one pressure or "
+                     "temperature.");
   app.footer(
       "Examples:\n"
       "  calvex table saturation --from 300 --to 640 --step 20\n"
       "  calvex table saturation --by P --from 1 --to 10 --step 1 -u P=bara -u T=C\n"
       "  calvex table isobar 10 --from 600 --to 900 --step 50 --csv > isobar.csv\n"
-      "Values are in the chosen units. A line that fails says why, and the exit status is 1.");
+      "  calvex table isotherm 500 --from 10 --to 100 --step 10 -u T=C -u P=bara\n"
+      "v specific volume, rho density, h enthalpy, s entropy, u internal energy, cp isobaric heat\n"
+      "capacity, w speed of sound; liq and vap are saturated liquid and vapour, fg the "
+      "difference.\n"
+      "An isobar or isotherm has two lines more where it meets the saturation line. Values are in\n"
+      "the chosen units. A line that fails says why, and the exit status is 1.");
   std::string by = "T", from, to, step;
-  bool csv = false;
+  bool csv = false, json = false;
   ClientOptions options;
   app.add_option("--by", by, "What a saturation table runs over (T)")->type_name("T|P");
   app.add_option("--from", from, "First value")->required()->type_name("X");
   app.add_option("--to", to, "Last value")->required()->type_name("X");
   app.add_option("--step", step, "Difference between lines")->required()->type_name("X");
   app.add_flag("--csv", csv, "Comma-separated, with all digits");
+  app.add_flag("--json", json, "Print JSON, with all digits");
   options.addUnitsTo(app);
   options.addSettingsTo(app);
   const std::optional<Words> rest = parseAround(app, words, console);
   if (!rest) return ExitStatus::ok;
   const Words& operands = *rest;
 
+  if (csv && json) throw UsageError("--csv excludes --json");
   if (by != "T" && by != "P") {
     throw UsageError(fmt::format("--by takes T or P, not {}", inQuotes(by)));
   }
   const std::string kind = operands.empty() ? std::string() : operands.front();
-  Table table{{}, by.front(), 0.0, {parseNumber(from), parseNumber(to), parseNumber(step)}, csv};
-  if (kind == "saturation" && operands.size() == 1) {
-    table.columns = std::span<const Column>(saturationByT);
-    if (table.key == 'P') table.columns = saturationByP;
-  } else if (kind == "isobar" && operands.size() == 2) {
+  Table table{Table::Kind::saturation,
+              by.front(),
+              0.0,
+              {parseNumber(from), parseNumber(to), parseNumber(step)},
+              csv    ? Format::csv
+              : json ? Format::json
+                     : Format::text};
+  if (kind == "isobar" || kind == "isotherm") {
+    const bool isobar = kind == "isobar";
     if (app.count("--by") != 0) throw UsageError("--by is for saturation tables");
-    table.columns = isobar;
+    if (operands.size() != 2) {
+      throw UsageError(isobar ? "isobar takes one pressure, as in 'calvex table isobar 10 "
+                                "--from 600 --to 900 --step 50'"
+                              : "isotherm takes one temperature, as in 'calvex table isotherm 800 "
+                                "--from 1 --to 10 --step 1'");
+    }
+    table.kind = isobar ? Table::Kind::isobar : Table::Kind::isotherm;
+    table.key = isobar ? 'T' : 'P';
     table.fixed = parseNumber(operands[1]);
-  } else if (kind == "isobar") {
+  } else if (kind != "saturation" || operands.size() != 1) {
     throw UsageError(
-        "isobar takes one pressure, as in 'calvex table isobar 10 --from 600 --to 900 "
-        "--step 50'");
-  } else {
-    throw UsageError(
-        "table takes 'saturation' or 'isobar PRESSURE'\n'calvex help table' explains "
-        "it");
+        "table takes 'saturation', 'isobar PRESSURE' or 'isotherm TEMPERATURE'\n"
+        "'calvex help table' explains it");
   }
   Client client;
   options.applyTo(client);

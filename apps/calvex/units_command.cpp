@@ -10,6 +10,7 @@
 #include "numbers.h"
 #include "output.h"
 #include "suggestions.h"
+#include "units/unit_words.h"
 
 namespace calvex::cli {
 
@@ -34,19 +35,39 @@ std::string listGroups() {
     rows.push_back({fmt::format("{:3}", group), std::string(fixed.displayName),
                     toUtf8(fixed.internalUnit), fmt::format("{}", fmt::join(keywords, ", "))});
   }
-  return aligned(rows) + "\nThe words may also be written in small letters.\n";
+  return aligned(rows) +
+         "\nThe quantity's name does as well; capital and small letters are one.\n"
+         "'calvex units QUANTITY' lists its units.\n";
 }
 
 std::string listUnits(UnitGroup group) {
   const UnitGroupRow& fixed = row(group);
   Rows rows = {{"unit", "factor", "offset"}};
-  for (const ZvUomLiteKeyword& unit : fixed.units) {
-    rows.push_back(
-        {toUtf8(unit.name), readableText(unit.factor, 15), readableText(unit.offset, 15)});
+  std::string notices;
+  const auto add = [&](const ZvUomLiteKeyword& unit) {
+    const std::string name = toUtf8(unit.name);
+    const std::string_view notice = unitNotice(group, unit.name);
+    rows.push_back({name, readableText(unit.factor, 15), readableText(unit.offset, 15),
+                    !notice.empty()              ? "(!)"
+                    : isInCatalogue(group, unit) ? ""
+                                                 : "custom unit"});
+    if (!notice.empty()) notices += fmt::format("(!) {}: {}\n", name, notice);
+  };
+  for (const ZvUomLiteKeyword& unit : fixed.units) add(unit);
+  for (const ZvUomLiteKeyword& unit : unitsBesideCatalogue(group)) add(unit);
+  std::string text = fmt::format(
+      "{}; default unit {}\n\n{}\nvalue in {} = (value + offset) x factor\n", fixed.displayName,
+      toUtf8(fixed.internalUnit), indented(aligned(rows)), toUtf8(fixed.referenceUnit));
+  if (const std::string_view notice = groupNotice(group); !notice.empty()) {
+    text += fmt::format("\n{}\n", notice);
   }
-  return fmt::format("{}; default unit {}\n\n{}\nvalue in {} = (value + offset) x factor\n",
-                     fixed.displayName, toUtf8(fixed.internalUnit), indented(aligned(rows)),
-                     toUtf8(fixed.referenceUnit));
+  if (!notices.empty()) text += '\n' + notices;
+  std::vector<std::string> words;
+  for (const auto& [word, unit] : otherWords(group)) {
+    words.push_back(fmt::format("{} ({})", word, toUtf8(unit->name)));
+  }
+  if (!words.empty()) text += fmt::format("\nAlso: {}\n", fmt::join(words, ", "));
+  return text + "\nCapital and small letters, blanks, ^ and brackets do not matter.\n";
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // What every call goes through: range checks, results in the client's unit, failures.
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -36,9 +37,24 @@ std::string ZvThermoInt::unitName(UnitGroup group) const {
   return name;
 }
 
+// A bound that the client writes in a unit of its own may come back from the conversion a little
+// beyond itself: 0.01 C as 273.15999999999997 K, 705.1568 F as 647.126000003 K because the factor
+// 0.55555555556 has eleven digits. Up to 1e-11 of the bound is of that making; in the engine's own
+// unit nothing is.
+void ZvThermoInt::moveOntoBound(double& value, double lower, double upper, UnitGroup group) const {
+  constexpr double rounding = 1e-11;
+  if (units_.isInternal(group)) return;
+  for (const double bound : {lower, upper}) {
+    if (std::fabs(value - bound) <= rounding * std::fabs(bound)) {
+      value = std::clamp(value, lower, upper);
+    }
+  }
+}
+
 // The comparisons are written so that a NaN is out of range.
-bool ZvThermoInt::validRange(std::string_view name, double value, double lower, double upper,
+bool ZvThermoInt::validRange(std::string_view name, double& value, double lower, double upper,
                              UnitGroup group) {
+  moveOntoBound(value, lower, upper, group);
   if (value >= lower && value <= upper) return true;
   const auto bound = [&](double limit) {
     return fmt::sprintf("%.2f", units_.toUser(group, limit));
@@ -73,8 +89,9 @@ bool ZvThermoInt::notNegative(std::string_view name, double value) {
   return false;
 }
 
-bool ZvThermoInt::validTemperature(std::string_view name, double T) {
+bool ZvThermoInt::validTemperature(std::string_view name, double& T) {
   if (!validRange(name, T, limits_.TMin, limits_.TMax, UnitGroup::temperature)) return false;
+  moveOntoBound(T, limits_.TStrictMin, limits_.TStrictMax, UnitGroup::temperature);
   const bool strict = T >= limits_.TStrictMin && T <= limits_.TStrictMax;
   if (!strict && diagnostics_.wantsWarnings()) {
     diagnostics_.postWarning(fmt::sprintf(messageText(Message::outOfStrictRange), name));
@@ -82,7 +99,7 @@ bool ZvThermoInt::validTemperature(std::string_view name, double T) {
   return true;
 }
 
-bool ZvThermoInt::validPressure(std::string_view name, double P, double T) {
+bool ZvThermoInt::validPressure(std::string_view name, double& P, double T) {
   if (!validRange(name, P, limits_.PMin, limits_.PMax, UnitGroup::pressure)) return false;
   // 500 MPa at 273.15 K, rising by 100/15 MPa a kelvin to 1500 MPa at 423.15 K
   const double strictMax =

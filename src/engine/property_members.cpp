@@ -63,8 +63,8 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
   const PropertyMember& member = members[index];
   return call(member.name, [&] {
     const Quantity& result = quantity(member.result);
-    const double x1 = units_.toInternal(quantity(member.first).group, first);
-    const double x2 = units_.toInternal(quantity(member.second).group, second);
+    double x1 = units_.toInternal(quantity(member.first).group, first);
+    double x2 = units_.toInternal(quantity(member.second).group, second);
     if (!validInputs(member, x1, x2)) return false;
 
     const Phases phases = stateOf(member, x1, x2);
@@ -93,7 +93,7 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
   });
 }
 
-bool ZvThermoInt::validInputs(const PropertyMember& member, double first, double second) {
+bool ZvThermoInt::validInputs(const PropertyMember& member, double& first, double& second) {
   const bool fromT = member.first == Letter::T;
   if (member.second == Letter::T) {
     switch (member.result) {
@@ -115,7 +115,7 @@ bool ZvThermoInt::validInputs(const PropertyMember& member, double first, double
 }
 
 // The ranges of the correlations, MPa and K.
-bool ZvThermoInt::validTransportRange(Letter result, double P, double T) {
+bool ZvThermoInt::validTransportRange(Letter result, double& P, double& T) {
   constexpr double TMin = 273.15;
   const auto validT = [&](double TMax) {
     return validRange("Temperature", T, TMin, TMax, UnitGroup::temperature);
@@ -199,9 +199,9 @@ void ZvThermoInt::warnOfQuality(double P, double T, double Q) {
 
 int ZvThermoInt::HPTQ(double* pH, double P, double T, double Q) {
   return call("HPTQ", [&] {
-    const double p = units_.toInternal(UnitGroup::pressure, P);
-    const double t = units_.toInternal(UnitGroup::temperature, T);
-    const double q = units_.toInternal(UnitGroup::quality, Q);
+    double p = units_.toInternal(UnitGroup::pressure, P);
+    double t = units_.toInternal(UnitGroup::temperature, T);
+    double q = units_.toInternal(UnitGroup::quality, Q);
     if (!validTemperature("Temperature", t) || !validPressure("Pressure", p, t) ||
         !validRange("Quality", q, 0.0, 1.0, UnitGroup::quality)) {
       return false;
@@ -215,7 +215,7 @@ int ZvThermoInt::HPTQ(double* pH, double P, double T, double Q) {
 int ZvThermoInt::fromPH(std::string_view name, double* pQ, double* pT, Property third,
                         UnitGroup thirdGroup, double* pThird, double P, double H) {
   return call(name, [&] {
-    const double p = units_.toInternal(UnitGroup::pressure, P);
+    double p = units_.toInternal(UnitGroup::pressure, P);
     const double h = units_.toInternal(UnitGroup::enthalpy, H);
     if (!validPressure("Pressure", p) || !notNegative("Enthalpy", h)) return false;
 
@@ -253,7 +253,7 @@ int ZvThermoInt::QTR_PH(double* pQ, double* pT, double* pR, double P, double H) 
 
 int ZvThermoInt::XT(double* pX, double T) {
   return call("XT", [&] {
-    const double t = units_.toInternal(UnitGroup::temperature, T);
+    double t = units_.toInternal(UnitGroup::temperature, T);
     return validOnLine(Letter::T, t) && give(pX, UnitGroup::surfaceTension, surfaceTension(t));
   });
 }

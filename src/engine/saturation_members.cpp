@@ -10,7 +10,7 @@ namespace calvex {
 using Letter = Quantity::Letter;
 
 // Within [triple point, critical point]. One member calls its pressure "Press".
-bool ZvThermoInt::validOnLine(Letter given, double value) {
+bool ZvThermoInt::validOnLine(Letter given, double& value) {
   return given == Letter::T ? validRange("Temperature", value, constants::triplePointTemperature,
                                          constants::criticalTemperature, UnitGroup::temperature)
                             : validRange("Pressure", value, constants::triplePointPressure,
@@ -19,7 +19,7 @@ bool ZvThermoInt::validOnLine(Letter given, double value) {
 
 int ZvThermoInt::PSatT(double* pP, double T) {
   return call("PSatT", [&] {
-    const double t = units_.toInternal(UnitGroup::temperature, T);
+    double t = units_.toInternal(UnitGroup::temperature, T);
     if (!validOnLine(Letter::T, t)) return false;
     diagnostics_.postTimeNote();
     const double p = steam_.PSatT(t);
@@ -30,7 +30,7 @@ int ZvThermoInt::PSatT(double* pP, double T) {
 
 int ZvThermoInt::TSatP(double* pT, double P) {
   return call("TSatP", [&] {
-    const double p = units_.toInternal(UnitGroup::pressure, P);
+    double p = units_.toInternal(UnitGroup::pressure, P);
     return validOnLine(Letter::P, p) && give(pT, UnitGroup::temperature, steam_.TSatP(p));
   });
 }
@@ -38,8 +38,8 @@ int ZvThermoInt::TSatP(double* pT, double P) {
 int ZvThermoInt::saturation(std::string_view name, Letter result, Letter given, double* out,
                             double first, double Q) {
   return call(name, [&] {
-    const double x = units_.toInternal(quantity(given).group, first);
-    const double q = units_.toInternal(UnitGroup::quality, Q);
+    double x = units_.toInternal(quantity(given).group, first);
+    double q = units_.toInternal(UnitGroup::quality, Q);
     if (name == "USatPQ") {
       if (!validRange("Press", x, constants::triplePointPressure, constants::criticalPressure,
                       UnitGroup::pressure)) {
@@ -61,8 +61,8 @@ int ZvThermoInt::saturation(std::string_view name, Letter result, Letter given, 
 int ZvThermoInt::HVLTSat_PQ(double* pH, double* pHVap, double* pHLiq, double* pTSat, double P,
                             double Q) {
   return call("HVLTSat_PQ", [&] {
-    const double p = units_.toInternal(UnitGroup::pressure, P);
-    const double q = units_.toInternal(UnitGroup::quality, Q);
+    double p = units_.toInternal(UnitGroup::pressure, P);
+    double q = units_.toInternal(UnitGroup::quality, Q);
     if (!validOnLine(Letter::P, p) || !validRange("Quality", q, 0.0, 1.0, UnitGroup::quality)) {
       return false;
     }

@@ -182,11 +182,28 @@ class ZvThermoInt {
   }
 
   /// Hard limits: message 108 and false. Strict limits: warning 201 and true. K, MPa; the strict
-  /// upper pressure depends on the temperature.
-  bool validTemperature(std::string_view name, double T);
-  bool validPressure(std::string_view name, double P, double T = temperatureOfNone);
-  /// Within [lower, upper], else message 108 with the bounds in the client's unit.
-  bool validRange(std::string_view name, double value, double lower, double upper, UnitGroup group);
+  /// upper pressure depends on the temperature. A value that only the conversion from the client's
+  /// unit moved past a hard limit is at the limit.
+  bool validTemperature(std::string_view name, double& T);
+  bool validPressure(std::string_view name, double& P, double T = temperatureOfNone);
+  /// Within [lower, upper], else message 108 with the bounds in the client's unit; moved onto a
+  /// bound as above.
+  bool validRange(std::string_view name, double& value, double lower, double upper,
+                  UnitGroup group);
+  // The same for a value that is only looked at.
+  bool validTemperature(std::string_view name, const double& T) {
+    double looked = T;
+    return validTemperature(name, looked);
+  }
+  bool validPressure(std::string_view name, const double& P, double T = temperatureOfNone) {
+    double looked = P;
+    return validPressure(name, looked, T);
+  }
+  bool validRange(std::string_view name, const double& value, double lower, double upper,
+                  UnitGroup group) {
+    double looked = value;
+    return validRange(name, looked, lower, upper, group);
+  }
   /// At least zero, else message 102.
   bool notNegative(std::string_view name, double value);
   /// Posts the error and answers false.
@@ -206,11 +223,12 @@ class ZvThermoInt {
 
  private:
   int property(PropertyMember::Index index, double* out, double first, double second);
-  bool validInputs(const PropertyMember& member, double first, double second);
-  bool validTransportRange(Quantity::Letter result, double P, double T);
+  void moveOntoBound(double& value, double lower, double upper, UnitGroup group) const;
+  bool validInputs(const PropertyMember& member, double& first, double& second);
+  bool validTransportRange(Quantity::Letter result, double& P, double& T);
   Phases stateOf(const PropertyMember& member, double first, double second);
   bool onLine(const PropertyMember& member, double* out, double userFirst);
-  bool validOnLine(Quantity::Letter given, double value);
+  bool validOnLine(Quantity::Letter given, double& value);
   int saturation(std::string_view name, Quantity::Letter result, Quantity::Letter given,
                  double* out, double first, double Q);
   int fromPH(std::string_view name, double* pQ, double* pT, Property third, UnitGroup thirdGroup,

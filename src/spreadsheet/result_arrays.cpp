@@ -18,7 +18,17 @@ bool equalInAnyCase(std::string_view a, std::string_view b) {
   return std::ranges::equal(a, b, {}, lower, lower);
 }
 
-// The tokens that the text names, in its order; null for one that the variant does not know.
+std::vector<Cell> row(const ZvThermoInt& engine, const Token& token, double value) {
+  std::vector<Cell> cells;
+  cells.reserve(maxColumns);
+  if (engine.ReturnModelTokens() != 0) cells.emplace_back(std::string(token.label));
+  cells.emplace_back(value);
+  if (engine.ReturnModelUnits() != 0) cells.emplace_back(engine.unitName(token.group));
+  return cells;
+}
+
+}  // namespace
+
 std::vector<const Token*> readTokens(const Variant& variant, std::string_view text) {
   constexpr std::string_view separators = ",;: ";
   const auto named = [&](std::string_view word) -> const Token* {
@@ -37,17 +47,6 @@ std::vector<const Token*> readTokens(const Variant& variant, std::string_view te
   }
   return tokens;
 }
-
-std::vector<Cell> row(const ZvThermoInt& engine, const Token& token, double value) {
-  std::vector<Cell> cells;
-  cells.reserve(maxColumns);
-  if (engine.ReturnModelTokens() != 0) cells.emplace_back(std::string(token.label));
-  cells.emplace_back(value);
-  if (engine.ReturnModelUnits() != 0) cells.emplace_back(engine.unitName(token.group));
-  return cells;
-}
-
-}  // namespace
 
 int returnResults(ZvThermoInt& engine, const Variant& variant, std::span<const double> inputs,
                   std::string_view strTokens, ResultArray* pRetArray) {

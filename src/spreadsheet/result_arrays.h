@@ -7,11 +7,16 @@
 #include <span>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "engine/result_array.h"
 #include "spreadsheet/variants.h"
 
 namespace calvex::spreadsheet {
+
+/// The variant's tokens that a text names, in its order and whatever their case; null for one that
+/// the variant does not know.
+[[nodiscard]] std::vector<const Token*> readTokens(const Variant& variant, std::string_view text);
 
 /// Runs the variant's model once and answers a row for each token, in the order of the tokens:
 /// its label (while `ReturnModelTokens` is on), the value in the client's unit, and that unit's

@@ -56,6 +56,12 @@ class UserUnits {
   /// refuses.
   [[nodiscard]] double toInternal(UnitGroup group, double value) const;
   [[nodiscard]] double toUser(UnitGroup group, double value) const;
+  /// Whether the two are the identity for a group.
+  [[nodiscard]] bool isInternal(UnitGroup group) const noexcept {
+    const ZvUomLiteGroup& units = catalogue_[group];
+    return (mode_ == UnitsMode::builtIn || mode_ == UnitsMode::catalogue) &&
+           &units.currentUnit() == &units.internalUnit();
+  }
 
   [[nodiscard]] const ZvUomLite& catalogue() const noexcept { return catalogue_; }
   /// The server while the mode is 1, else nullptr.

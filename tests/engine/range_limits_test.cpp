@@ -1,6 +1,8 @@
 // The hard and the strictly valid range of temperature and pressure, and the order of the checks.
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "support/engine.h"
 
 namespace calvex::test {
@@ -47,6 +49,46 @@ TEST_F(RangeLimits, BoundsAreGivenInTheUsersPressureUnit) {
   ASSERT_EQ(engine.SetUserUnit("P", "barg"), 1);
   EXPECT_EQ(errorOf(engine, &ZvThermoInt::APT, -2.0, 500.0),
             "Pressure parameter out of range (Valid range -1.01 to 29998.99 barg).");
+}
+
+// 647.126 K is 373.976 C, 705.1568 F and 1164.8268 R; 273.16 K is 0.01 C and 32.018 F. Their
+// conversions end up to 5e-9 K beyond.
+TEST_F(RangeLimits, ABoundThatAConversionMovesPastItselfIsTheBound) {
+  double critical = 0.0, triple = 0.0;
+  ASSERT_EQ(engine.PSatT(&critical, 647.126), 1);
+  ASSERT_EQ(engine.PSatT(&triple, 273.16), 1);
+  const struct {
+    const char* unit;
+    double critical, triple, lowest, highest, hottest;
+  } scales[] = {{"C", 373.976, 0.01, -13.15, 2226.85, 1000.0},
+                {"F", 705.1568, 32.018, 8.33, 4040.33, 1832.0},
+                {"R", 1164.8268, 491.688, 468.0, 4500.0, 2291.67}};
+  for (const auto& scale : scales) {
+    SCOPED_TRACE(scale.unit);
+    ASSERT_EQ(engine.SetUserUnit("T", scale.unit), 1);
+    double P = 0.0;
+    EXPECT_EQ(engine.PSatT(&P, scale.critical), 1) << engine.LastError();
+    EXPECT_DOUBLE_EQ(P, critical);
+    EXPECT_EQ(engine.PSatT(&P, scale.triple), 1) << engine.LastError();
+    EXPECT_NEAR(P, triple, 1e-9 * triple);
+    EXPECT_TRUE(succeeds(engine, &ZvThermoInt::APT, 1.0, scale.lowest)) << engine.LastError();
+    EXPECT_TRUE(succeeds(engine, &ZvThermoInt::APT, 1.0, scale.highest)) << engine.LastError();
+    EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::APT, 1.0, scale.hottest), temperatureWarning));
+    for (const double beyond : {scale.critical + 1e-6, scale.triple - 1e-6}) {
+      EXPECT_EQ(engine.PSatT(&P, beyond), 0) << beyond;
+    }
+  }
+}
+
+// What a client gives in the engine's own unit is what it is.
+TEST_F(RangeLimits, WithoutAConversionABoundEndsAtItsLastDigit) {
+  double P = 0.0;
+  EXPECT_EQ(engine.PSatT(&P, std::nextafter(647.126, 1000.0)), 0);
+  EXPECT_EQ(engine.PSatT(&P, std::nextafter(273.16, 0.0)), 0);
+  ASSERT_EQ(engine.SetUserUnit("P", "bara"), 1);
+  double T = 0.0;
+  EXPECT_EQ(engine.TSatP(&T, 220.55), 1) << engine.LastError();
+  EXPECT_EQ(engine.TSatP(&T, 220.55000001), 0);
 }
 
 TEST_F(RangeLimits, PressureAboveTheHardBoundFails) {

@@ -9,6 +9,9 @@ namespace calvex::test {
 /// tests/data
 [[nodiscard]] std::string dataFolder();
 
+/// The folder of the pages for users.
+[[nodiscard]] std::string docsFolder();
+
 /// The version that CMakeLists.txt gives the project.
 [[nodiscard]] std::string projectVersion();
 

@@ -25,6 +25,13 @@ inline Answer calvexWithInput(const std::string& input, Words words) {
 
 inline Answer calvex(Words words) { return calvexWithInput("", std::move(words)); }
 
+inline std::vector<std::string> linesOf(const std::string& text) {
+  std::istringstream in(text);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  return lines;
+}
+
 inline bool contains(const std::string& text, const std::string& part) {
   return text.find(part) != std::string::npos;
 }

@@ -10,6 +10,8 @@
 #include <sstream>
 #include <string>
 
+#include "support/checkout.h"
+
 namespace {
 
 struct Finished {
@@ -41,7 +43,7 @@ Finished calvex(const std::string& arguments) {
 TEST(Program, AnswersTheFirstQuestion) {
   const Finished run = calvex("HPT 10 773.15");
   EXPECT_EQ(run.status, 0);
-  EXPECT_EQ(run.out, "pH  3373.998049  kJ/kg\n");
+  EXPECT_EQ(run.out, "H = 3373.998049 kJ/kg  enthalpy\n");
   EXPECT_EQ(run.err, "");
 }
 
@@ -53,7 +55,7 @@ TEST(Program, ExitStatusIsOneWhenACallFailed) {
 }
 
 TEST(Program, ExitStatusIsTwoForUsageErrors) {
-  for (const char* arguments : {"", "HTP 1 2", "HPT 10", "HPT 10 nan", "HPT 1 2 -u P=psi",
+  for (const char* arguments : {"", "HTP 1 2", "HPT 10", "HPT 10 nan", "HPT 1 2 -u P=psix",
                                 "HPT 1 2 -s X=1", "convert P", "table", "run /no/such/file"}) {
     const Finished run = calvex(arguments);
     EXPECT_EQ(run.status, 2) << arguments;
@@ -63,7 +65,8 @@ TEST(Program, ExitStatusIsTwoForUsageErrors) {
 }
 
 TEST(Program, UnitsAreTypedInUtf8) {
-  EXPECT_EQ(calvex("HPT 10000000 500 -u 'P=N/m\u00B2' -u T=C").out, "pH  3373.998049  kJ/kg\n");
+  EXPECT_EQ(calvex("HPT 10000000 500 -u 'P=N/m\u00B2' -u T=C").out,
+            "H = 3373.998049 kJ/kg  enthalpy\n");
   EXPECT_EQ(calvex("convert P 1 'ft H2O' 'N/m\u00B2'").out, "1 ft H2O = 2989.07 N/m\u00B2\n");
 }
 
@@ -76,7 +79,7 @@ TEST(Program, RunsAScriptFromAFileAndFromStandardInput) {
   unlink(path.c_str());
   EXPECT_EQ(run.status, 1);
   EXPECT_EQ(
-      run.out.find("{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":0}\n{\"member\":\"HPT\""),
+      run.out.find("{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":1}\n{\"member\":\"HPT\""),
       0U)
       << run.out;
   EXPECT_EQ(run.err.find("calvex: line 2: HPT failed"), 0U) << run.err;
@@ -85,6 +88,69 @@ TEST(Program, RunsAScriptFromAFileAndFromStandardInput) {
 TEST(Program, OutputThatCannotBeWrittenIsAFailure) {
   const std::string command = std::string(CALVEX_CLI) + " members >/dev/full 2>/dev/null";
   EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 1);
+}
+
+// A shell that is not installed proves nothing; bash always is.
+TEST(Program, CompletionsAreScriptsOfTheirShells) {
+  for (const std::string shell : {"bash", "zsh", "fish"}) {
+    const Finished script = calvex("completion " + shell);
+    EXPECT_EQ(script.status, 0);
+    EXPECT_NE(script.out.find(" HPT "), std::string::npos) << script.out;
+    EXPECT_EQ(script.out.find('@'), script.out.find("[@]") == std::string::npos
+                                        ? std::string::npos
+                                        : script.out.find("[@]") + 1)
+        << "a list is missing";
+    if (std::system(("command -v " + shell + " >/dev/null").c_str()) != 0) continue;
+    const std::string check =
+        std::string(CALVEX_CLI) + " completion " + shell + " | " + shell + " -n /dev/stdin";
+    EXPECT_EQ(std::system(check.c_str()), 0) << shell;
+  }
+  EXPECT_EQ(calvex("completion tcsh").status, 2);
+}
+
+TEST(Program, BashCompletesMembersAndQuantities) {
+  const auto completed = [](const std::string& words, int at) {
+    const std::string base = testing::TempDir() + "calvex_completed_" + std::to_string(getpid());
+    std::ofstream(base + ".bash") << "source <(" CALVEX_CLI " completion bash)\nCOMP_WORDS=("
+                                  << words << ")\nCOMP_CWORD=" << at
+                                  << "\n_calvex\necho \"${COMPREPLY[*]}\"\n";
+    EXPECT_EQ(std::system(("bash " + base + ".bash >" + base + ".out").c_str()), 0);
+    const std::string answer = contentOf(base + ".out");
+    unlink((base + ".bash").c_str());
+    unlink((base + ".out").c_str());
+    return answer;
+  };
+  EXPECT_EQ(completed("calvex HVLT", 1), "HVLTSat_PQ\n");
+  EXPECT_EQ(completed("calvex HPT 10 500 -u Effi", 5), "Efficiency=\n");
+  EXPECT_EQ(completed("calvex HPT 10 500 -s SatP", 5), "SatPolish=\n");
+  EXPECT_EQ(completed("calvex HPT 10 500 --no", 4), "--no-config\n");
+  EXPECT_EQ(completed("calvex table iso", 2), "isobar isotherm\n");
+  EXPECT_EQ(completed("calvex sta", 1), "state\n");
+  EXPECT_EQ(completed("calvex state T", 2), "T=\n");
+}
+
+TEST(Program, TheManualPageNamesEveryCommandAndOption) {
+  const std::string page = contentOf(calvex::test::docsFolder() + "/calvex.1");
+  std::istringstream help(calvex("--help").out);
+  int commands = 0;
+  std::string line;
+  while (std::getline(help, line) && line != "Commands:") {
+  }
+  while (std::getline(help, line) && line.starts_with("  ")) {
+    const std::string name = line.substr(2, line.find(' ', 2) - 2);
+    EXPECT_NE(page.find("\n.B " + name), std::string::npos) << name;
+    ++commands;
+  }
+  EXPECT_GE(commands, 10);
+  for (const char* option : {"\\-u", "\\-s", "\\-\\-json", "\\-\\-trace", "\\-\\-no\\-config"}) {
+    EXPECT_NE(page.find(option), std::string::npos) << option;
+  }
+  if (std::system("command -v man >/dev/null") == 0) {
+    const std::string lint =
+        "LC_ALL=C.UTF-8 MANROFFSEQ= MANWIDTH=80 man --warnings -E UTF-8 -l -Tutf8 -Z " +
+        calvex::test::docsFolder() + "/calvex.1 2>&1 >/dev/null | grep -q .";
+    EXPECT_NE(std::system(lint.c_str()), 0) << "man has something to say about it";
+  }
 }
 
 TEST(Program, StartsWithinFiftyMilliseconds) {

@@ -96,6 +96,20 @@ TEST(RunCommand, LastErrorIsGivenWhenAStatusMemberRefuses) {
             Lines{R"({"member":"TraceLevel","hresult":1,"lastError":"Invalid reporting level."})"});
 }
 
+TEST(RunCommand, ACauseStandsBelowAReasonThatDoesNotSayIt) {
+  const Answer text = calvexWithInput("HPT 1 2500.001\n", {"run"});
+  const std::string failure =
+      "HPT failed: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n"
+      "  Temperature 2500.001 K is above 2500 K.\n";
+  EXPECT_EQ(text.out, "HPT 1 2500.001\n  " + failure);
+  EXPECT_EQ(text.err, "calvex: line 1: " + failure);
+  const Lines lines = jsonOf("HPT 1 2500.001\nHPT 1 3000\n");
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_TRUE(lines[0].ends_with(R"(,"cause":"Temperature 2500.001 K is above 2500 K."})"))
+      << lines[0];
+  EXPECT_FALSE(contains(lines[1], "cause")) << lines[1];
+}
+
 TEST(RunCommand, AnArrayIsAListOfRowsAndTakesNoArgument) {
   EXPECT_EQ(jsonOf("GetAlarms"),
             Lines{R"({"member":"GetAlarms","hresult":0,"pAlarmArray":[["Alarm Name0",)"
@@ -122,14 +136,14 @@ TEST(RunCommand, ALineThatCannotBeRunIsAnErrorAndTheNextOneRuns) {
   ASSERT_EQ(lines.size(), 8U);
   EXPECT_EQ(lines[0],
             R"({"error":"HPT takes 2 arguments: P (Pressure, MPa), T (Temperature, K), but 1 was )"
-            R"(given"})");
+            R"(given","line":1,"text":"HPT 10"})");
   EXPECT_TRUE(contains(lines[1], "'nan' is not a finite number")) << lines[1];
   EXPECT_TRUE(contains(lines[2], "did you mean HPT")) << lines[2];
   EXPECT_TRUE(contains(lines[3], "'inf' is not a finite number")) << lines[3];
   EXPECT_TRUE(contains(lines[4], "'0.5' is not a whole number")) << lines[4];
   EXPECT_TRUE(contains(lines[5], "Windows-1252")) << lines[5];
   EXPECT_TRUE(contains(lines[6], "reset takes no arguments")) << lines[6];
-  EXPECT_EQ(lines[7], R"({"member":"SatPolish","hresult":0,"value":1})");
+  EXPECT_EQ(lines[7], R"({"member":"SatPolish","hresult":0,"value":2})");
 }
 
 TEST(RunCommand, TheTraceIsNestedFromTheRoot) {
@@ -146,9 +160,10 @@ TEST(RunCommand, TheTraceIsNestedFromTheRoot) {
 TEST(RunCommand, ResetMakesANewClientObject) {
   const Lines lines = jsonOf(
       "SatPolish 0\nSetUserUnit T C\nHPT 10 99999\nreset\nSatPolish\n"
-      "GetUserUnit T\ntrace\n");
-  ASSERT_EQ(lines.size(), 7U);
-  EXPECT_EQ(lines[4], R"({"member":"SatPolish","hresult":0,"value":1})");
+      "GetUserUnit T\ntrace\nTraceLevel\n");
+  ASSERT_EQ(lines.size(), 8U);
+  EXPECT_EQ(lines[4], R"({"member":"SatPolish","hresult":0,"value":2})");
+  EXPECT_EQ(lines[7], R"({"member":"TraceLevel","hresult":0,"value":1})");
   EXPECT_TRUE(contains(lines[5], R"("pVal":"C")")) << "the units stay";
   EXPECT_EQ(lines[6], R"({"text":"Root","kind":0,"columns":[],"children":[]})");
 }
@@ -157,12 +172,81 @@ TEST(RunCommand, PrintsReadableTextAndReasonsWithLineNumbers) {
   const Answer answer =
       calvexWithInput("# steam\nHPT 10 773.15\n\nHPT 10 99999\nAppLevel 4\ntrace\n", {"run", "-"});
   EXPECT_EQ(answer.out,
-            "HPT 10 773.15\n  pH  3373.998049  kJ/kg\nHPT 10 99999\nAppLevel 4\ntrace\n  HPT\n"
+            "HPT 10 773.15\n  H = 3373.998049 kJ/kg  enthalpy\nHPT 10 99999\n"
+            "  HPT failed: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n"
+            "AppLevel 4\n  AppLevel failed and gave no reason\n  AppLevel takes 0 to 3\n"
+            "trace\n  HPT\n"
             "    error: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n");
   EXPECT_EQ(answer.err,
             "calvex: line 4: HPT failed: Temperature parameter out of range (Valid range 260.00 to "
             "2500.00 K).\ncalvex: line 5: AppLevel failed and gave no reason\n"
             "  AppLevel takes 0 to 3\n");
+}
+
+// Where the two streams go to one place, each reason is told once, in its place.
+TEST(RunCommand, FailingLinesKeepTheirPlaceAmongTheAnswers) {
+  std::istringstream in("TraceLevel\nHPT 10\nHPT 10 99999\nSatPolish 1\n");
+  std::ostringstream both;
+  Console console{in, both, both};
+  console.errIsOut = true;
+  EXPECT_EQ(static_cast<int>(runCommandLine({"run"}, console)), 2);
+  EXPECT_EQ(both.str(),
+            "TraceLevel\n  TraceLevel = 1  reporting level\nHPT 10\n"
+            "calvex: line 2: HPT takes 2 arguments: P (Pressure, MPa), T (Temperature, K), but 1 "
+            "was given\nHPT 10 99999\n"
+            "calvex: line 3: HPT failed: Temperature parameter out of range (Valid range 260.00 to "
+            "2500.00 K).\nSatPolish 1\n  done\n");
+  const Answer apart = calvexWithInput("TraceLevel\n  HPT 10  # one\nTraceLevel\n", {"run"});
+  EXPECT_EQ(apart.out,
+            "TraceLevel\n  TraceLevel = 1  reporting level\nHPT 10\n"
+            "  HPT takes 2 arguments: P (Pressure, MPa), T (Temperature, K), but 1 was given\n"
+            "TraceLevel\n  TraceLevel = 1  reporting level\n");
+}
+
+TEST(RunCommand, AnErroneousLineInJsonCarriesItsNumberAndText) {
+  EXPECT_EQ(jsonOf("\n# steam\n  HPT \"10 \n"),
+            Lines{R"({"error":"a closing quote is missing","line":3,"text":"HPT \"10"})"});
+}
+
+TEST(RunCommand, UnitsAreChosenInTheWordsPeopleUse) {
+  const Lines lines = jsonOf(
+      "SetUserUnit pressure BAR\nSetUserUnitIndex 0 degC\nHPT 100 500\nGetUserUnit PRESSURE\n"
+      "Convert Pressure psi bar 100\n");
+  ASSERT_EQ(lines.size(), 5U);
+  EXPECT_NEAR(numberAt(lines[2], "pH"), 3373.99804895, 1e-9 * 3373.99804895);
+  EXPECT_TRUE(contains(lines[3], R"("pVal":"bara")")) << lines[3];
+  EXPECT_NEAR(numberAt(lines[4], "dblToVal"), 6.89476751, 1e-12);
+}
+
+// 0.0328 m3/kg at 10 MPa and 500 C in published tables; 1 ft3/lbm = 0.06242796 m3/kg.
+TEST(RunCommand, AUnitThatTheCatalogueLacksLastsLikeTheOthers) {
+  const Lines lines = jsonOf(
+      "SetUserUnit T C\nVPT 10 500\nSetUserUnit V \"cu ft/lb\"\nVPT 10 500\nGetUserUnit V\n"
+      "SetUserUnit P bar\nVPT 100 500\nreset\nVPT 100 500\nSetUserUnit V m3/kg\nVPT 100 500\n"
+      "Convert V ft3/lbm m3/kg 1\nConvert V ft3/lbm l/kg 1e308\n");
+  ASSERT_EQ(lines.size(), 13U);
+  const double volume = numberAt(lines[1], "pV");
+  EXPECT_NEAR(volume, 0.0328, 0.0001);
+  for (const std::size_t line : {3U, 6U, 8U}) {
+    EXPECT_NEAR(numberAt(lines[line], "pV"), volume / 0.0624279605761446, 1e-12) << lines[line];
+    EXPECT_TRUE(contains(lines[line], R"("units":{"pV":"cu ft/lb"})")) << lines[line];
+  }
+  EXPECT_TRUE(contains(lines[4], R"("pVal":"cu ft/lb")")) << lines[4];
+  EXPECT_NEAR(numberAt(lines[10], "pV"), volume, 1e-15);
+  EXPECT_NEAR(numberAt(lines[11], "dblToVal"), 0.0624279605761446, 1e-16);
+  EXPECT_TRUE(contains(lines[12], R"("lastError":"Solution Error.")")) << lines[12];
+}
+
+TEST(RunCommand, WarnsOfAUnitThatIsNotPhysical) {
+  const Answer answer = calvexWithInput("SetUserUnit V ft3/lb\n", {"run"});
+  EXPECT_EQ(answer.status, 0);
+  EXPECT_TRUE(contains(answer.err, "calvex: warning: line 1: ft3/lb: not the physical unit"))
+      << answer.err;
+}
+
+TEST(RunCommand, ACustomUnitHasWhateverNameItsMakerGivesIt) {
+  const Lines lines = jsonOf("AppLevel 3\nSetCustomUserUnitIndex 1 bar 2 0\nGetUserUnitIndex 1\n");
+  EXPECT_TRUE(contains(lines.at(2), R"("pVal":"bar")")) << lines.at(2);
 }
 
 TEST(RunCommand, ARepeatedFailureGivesItsReasonAgain) {
@@ -196,6 +280,14 @@ TEST(RunCommand, ASilentFailureDoesNotTakeTheReasonOfTheCallBefore) {
   EXPECT_TRUE(contains(answer.err, "AppLevel failed and gave no reason")) << answer.err;
 }
 
+TEST(RunCommand, AWarningSaysWhichLine) {
+  const Answer answer = calvexWithInput("HPT 1 1300\nHPT 1 1200\nHPT 1 1300\n", {"run"});
+  EXPECT_EQ(answer.status, 0);
+  EXPECT_EQ(answer.err,
+            "calvex: warning: line 1: Temperature parameter out of strictly valid range.\n"
+            "calvex: warning: line 3: Temperature parameter out of strictly valid range.\n");
+}
+
 TEST(RunCommand, ALineIsPrintedSoThatItCanBeRunAgain) {
   EXPECT_EQ(calvexWithInput(" SetUserUnit P \"ft H2O\"  # water column\n", {"run"}).out,
             "SetUserUnit P \"ft H2O\"\n  done\n");
@@ -218,16 +310,20 @@ TEST(RunCommand, TakesUnitsSettingsAndTrace) {
 
 TEST(RunCommand, ReadsLinesOfOtherSystems) {
   EXPECT_EQ(calvexWithInput("\xEF\xBB\xBFTraceLevel\r\nSatPolish\r\n", {"run"}).out,
-            "TraceLevel\n  TraceLevel  0\nSatPolish\n  SatPolish  1\n");
-  EXPECT_EQ(calvexWithInput("TraceLevel", {"run"}).out, "TraceLevel\n  TraceLevel  0\n");
+            "TraceLevel\n  TraceLevel = 1  reporting level\nSatPolish\n"
+            "  SatPolish = 2  exactness of the saturation line\n");
+  EXPECT_EQ(calvexWithInput("TraceLevel", {"run"}).out,
+            "TraceLevel\n  TraceLevel = 1  reporting level\n");
 }
 
 TEST(RunCommand, ALineThatIsTooLongIsRefusedAndTheNextOneRuns) {
   const Answer answer =
       calvexWithInput("AppName " + std::string(1 << 20, 'x') + "\nTraceLevel\n", {"run", "--json"});
   EXPECT_EQ(answer.out,
-            "{\"error\":\"the line is longer than 65536 bytes\"}\n"
-            "{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":0}\n");
+            "{\"error\":\"the line is longer than 65536 bytes\",\"line\":1,\"text\":\"AppName " +
+                std::string(192, 'x') +
+                "\"}\n"
+                "{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":1}\n");
 }
 
 TEST(RunCommand, FilesThatCannotBeReadAreUsageErrors) {

@@ -107,7 +107,8 @@ inline std::vector<std::string> runCommandLine(const std::string& script) {
   startup.hStdOutput = output;
   PROCESS_INFORMATION process{};
   const std::wstring program = windowsPath(CALVEX_CLI);
-  std::wstring command = L"calvex run --json " + wide(in);
+  // The settings that the server starts with; the command line has its own.
+  std::wstring command = L"calvex run --json -s SatPolish=1 -s TraceLevel=0 " + wide(in);
   if (CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                      &startup, &process) == FALSE) {
     ADD_FAILURE() << "cannot start " << CALVEX_CLI;
