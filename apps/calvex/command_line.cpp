@@ -25,11 +25,12 @@ struct Command {
   ExitStatus (*run)(const Words& words, Console& console);
 };
 
-constexpr std::array<Command, 7> commands = {{
+constexpr std::array<Command, 8> commands = {{
     {"members", "members [PATTERN]", "List members, or explain one", membersCommand},
     {"units", "units [GROUP]", "List quantities, or the units of one", unitsCommand},
     {"convert", "convert GROUP VALUE FROM TO", "Convert a value between units", convertCommand},
     {"table", "table saturation|isobar", "Print a table over a range", tableCommand},
+    {"batch", "batch FILE|- COLUMN...", "Add computed columns to a table", batchCommand},
     {"run", "run [FILE|-]", "Run a script, one call a line", runCommand},
     {"help", "help [COMMAND|MEMBER]", "Explain a command or a member", helpCommand},
     {"version", "version", "Print the version", versionCommand},

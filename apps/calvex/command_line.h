@@ -15,6 +15,7 @@ struct Console {
   std::ostream& out;
   std::ostream& err;
   bool outIsTerminal = false;
+  bool errIsTerminal = false;
 };
 
 /// Runs `calvex words...`. No exception comes out.
@@ -28,6 +29,7 @@ ExitStatus membersCommand(const Words& words, Console& console);
 ExitStatus unitsCommand(const Words& words, Console& console);
 ExitStatus convertCommand(const Words& words, Console& console);
 ExitStatus tableCommand(const Words& words, Console& console);
+ExitStatus batchCommand(const Words& words, Console& console);
 ExitStatus runCommand(const Words& words, Console& console);
 
 }  // namespace calvex::cli
