@@ -16,8 +16,8 @@ namespace calvex::cli {
 
 struct BatchRequest {
   std::vector<BatchColumn> columns;
-  ClientOptions client;           ///< units and settings
-  std::optional<char> separator;  ///< of cells; otherwise what the header has
+  ClientOptions client{};           ///< units and settings
+  std::optional<char> separator{};  ///< of cells; otherwise what the header has
   bool decimalComma = false;
   std::string why = "why";  ///< the name of the column for reasons
   unsigned threads = 0;     ///< 0: one for each core
