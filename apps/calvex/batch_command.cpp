@@ -82,7 +82,7 @@ ExitStatus batchCommand(const Words& words, Console& console) {
       "Every cell of the table stays as it is. Numbers are added with all their digits; where\n"
       "there is none the cell is empty and the last column, 'why', has the reason.\n"
       "The output file is complete or not there.\n"
-      "Exit status: 2 when nothing was done, else 1 when a row has a reason, else 0.");
+      "Exit status: 2 when something could not be read, else 1 when a row has a reason, else 0.");
   BatchRequest request;
   std::string output, separator, threads = "0";
   app.add_option("-o,--output", output, "Output file (standard output)")->type_name("FILE");

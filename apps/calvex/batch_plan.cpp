@@ -112,7 +112,7 @@ class Planner {
 
   [[nodiscard]] BatchPlan::Operand resolve(const BatchOperand& operand) const {
     if (const auto* const number = std::get_if<double>(&operand)) return {std::nullopt, *number};
-    const std::string& name = std::get<std::string>(operand);
+    const auto& name = std::get<std::string>(operand);
     if (const auto added = std::ranges::find(plan_.added, name, &BatchPlan::Added::name);
         added != plan_.added.end()) {
       return added->value;

@@ -5,6 +5,8 @@
 #include <limits>
 #include <memory>
 
+#include "server/direct_members.h"
+
 namespace calvex {
 
 namespace {
@@ -165,21 +167,82 @@ class RowCall {
   std::array<int, spreadsheet::maxFlags> flags_{};
 };
 
+/// Rows through the direct road, in blocks; those that it refuses are the member's to decide.
+class DirectRows {
+ public:
+  static std::optional<DirectRows> of(const MemberRequest& request, const ZvThermoInt& engine) {
+    const std::optional<DirectMember> member = directMember(request.member.member());
+    if (!member || !hasDirectSettings(engine)) return std::nullopt;
+    const std::optional<direct::Units> units = directUnits(engine.units());
+    if (!units) return std::nullopt;
+    return DirectRows(request, *member, *units);
+  }
+
+  template <class Refused>
+  void evaluate(std::size_t begin, std::size_t end, Refused&& refused) {
+    static constexpr double liquid = 0.0;
+    std::array<short, 1024> status;
+    for (std::size_t at = begin; at < end;) {
+      const std::size_t count = std::min(end - at, status.size());
+      for (std::size_t i = 0; i < results_.size(); ++i) {
+        results_[i].value = from(request_.outputs[i].value, at);
+      }
+      direct::Request request{
+          member_.pair, from(request_.inputs[0], at),
+          member_.ofLiquid ? direct::Column{&liquid, 0} : from(request_.inputs[1], at), results_};
+      request.status = {status.data()};
+      request.units = &units_;
+      direct::evaluate(request, 0, count);
+      for (std::size_t i = 0; i < count; ++i) {
+        if (status.at(i) != 0) {
+          refused(at + i);
+        } else {
+          put(request_.status, at + i, short{0});
+        }
+      }
+      at += count;
+    }
+  }
+
+ private:
+  DirectRows(const MemberRequest& request, const DirectMember& member, const direct::Units& units)
+      : request_(request), member_(member), units_(units), results_(request.outputs.size()) {
+    for (direct::Result& result : results_) result.letter = member.result;
+  }
+
+  // The column from that row on.
+  template <class Column>
+  static Column from(const Column& column, std::size_t row) {
+    if (column.data == nullptr) return column;
+    return {column.data + static_cast<std::ptrdiff_t>(row) * column.stride, column.stride};
+  }
+
+  const MemberRequest& request_;
+  DirectMember member_;
+  direct::Units units_;
+  std::vector<direct::Result> results_;
+};
+
 void evaluate(const MemberRequest& request, ZvThermoInt& engine, std::size_t begin,
               std::size_t end) {
   const bool reasons = request.status.data != nullptr || request.reason;
   const QuietEngine quiet(engine, reasons);
   RowCall call(request);
-  for (std::size_t row = begin; row < end; ++row) {
+  const auto ask = [&](std::size_t row) {
     if (call(engine, row)) {
       put(request.status, row, short{0});
-      continue;
+      return;
     }
     for (const MemberRequest::Output& output : request.outputs) put(output.value, row, none);
-    if (!reasons) continue;
+    if (!reasons) return;
     put(request.status, row, messageNumber(engine.LastError()));
     if (request.reason) request.reason(row, engine.LastError());
     engine.ClearTraceInfo();
+  };
+  if (std::optional<DirectRows> rows = DirectRows::of(request, engine)) {
+    rows->evaluate(begin, end, ask);
+  } else {
+    for (std::size_t row = begin; row < end; ++row) ask(row);
   }
 }
 

@@ -71,6 +71,10 @@ struct MemberRequest {
 
 /// Computes the rows [begin, end) on this thread with this engine, whose trace is empty afterwards.
 /// The outputs of a row that fails are NaN. Nothing is allocated for a row that succeeds.
+///
+/// The answers are the members'. Those of the members from two properties and of the saturation
+/// line come by the direct road, many at once and equal to 1e-10, while the engine has its settings
+/// (SatPolish 2, the solver's by default); a row that it refuses is asked of the member.
 void evaluate(const MemberRequest& request, ZvThermoInt& engine, std::size_t begin,
               std::size_t end);
 

@@ -8,6 +8,7 @@
 #include <set>
 #include <stdexcept>
 
+#include "server/direct_members.h"
 #include "server/zv_calvex.h"
 #include "spreadsheet/samples.h"
 #include "support/engine.h"
@@ -261,6 +262,56 @@ TEST(MemberColumns, AreTheSameOnAnyNumberOfThreads) {
       }
     }
   }
+}
+
+TEST(MemberColumns, TheDirectRoadAnswersAsTheMembersDo) {
+  ZvThermoInt exact;
+  useCelsiusAndPsig(exact);
+  ASSERT_EQ(exact.SetUserUnit("H", "Btu/lb"), 1);
+  exact.SetSatPolish(2);
+  ZvThermoInt memberwise;
+  memberwise.TakeSettings(exact);
+  memberwise.SetSolverIter(201);  // not the direct road's settings
+  Grid grid("direct road");
+  int members = 0;
+  for (const Member& member : memberTable()) {
+    if (!directMember(member)) continue;
+    ++members;
+    const NumericMember found = NumericMember::of(member).value();
+    Sheet direct(found, 60), single(found, 60);
+    for (std::size_t k = 0; k < direct.inputs.size(); ++k) {
+      for (std::size_t row = 0; row < direct.rows; ++row) {
+        // All pairs of some values.
+        const double value = valueOfGroup(found.inputs()[k].group, k == 0 ? row % 12 : row / 5);
+        direct.inputs[k][row] = single.inputs[k][row] = value;
+      }
+    }
+    evaluate(direct.request(), exact, 0, direct.rows);
+    evaluate(single.request(), memberwise, 0, single.rows);
+    for (std::size_t row = 0; row < direct.rows; ++row) {
+      const std::string where = std::string(member.name) + " row " + std::to_string(row);
+      grid.holds(direct.status[row] == single.status[row], where + " " + direct.reasons[row]);
+      grid.holds(direct.reasons[row] == single.reasons[row], where + " " + direct.reasons[row]);
+      if (single.status[row] != 0) continue;
+      // Energies and entropies have their zero where the formulation put it: 1 of a unit is their
+      // scale.
+      const double scale = std::max(std::abs(single.outputs[0][row]), 1.0);
+      grid.near(direct.outputs[0][row], single.outputs[0][row], 1e-8, scale, where);
+    }
+  }
+  EXPECT_EQ(members, 90 + 10 + 2);  // all but QTx
+}
+
+TEST(MemberColumns, TheDirectRoadIsLeftWhereTheSettingsAreOthers) {
+  ZvThermoInt engine;
+  EXPECT_FALSE(hasDirectSettings(engine));
+  engine.SetSatPolish(2);
+  EXPECT_TRUE(hasDirectSettings(engine));
+  engine.SetSolverTol(1e-8);
+  EXPECT_FALSE(hasDirectSettings(engine));
+  EXPECT_TRUE(directUnits(engine.units()));
+  engine.SetAppLevel(3);
+  EXPECT_FALSE(directUnits(engine.units()));
 }
 
 TEST(MemberColumns, AStopEndsThemEarly) {
