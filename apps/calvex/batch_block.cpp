@@ -70,7 +70,7 @@ void BlockWorker::read(const CsvBlocks::Block& block) {
 
 void BlockWorker::keep(const CsvRecord& record, std::size_t line) {
   const std::size_t columns = table_.header.size();
-  Row row{record.text, record.lineEnd, 0, line};
+  Row row{record.text, record.lineEnd, 0, line, record.isBlank()};
   if (record.cells.size() < columns) row.missingCells = columns - record.cells.size();
   if (record.cells.size() > columns) {
     // A separator at the end of a line is no cell.
@@ -86,7 +86,7 @@ void BlockWorker::keep(const CsvRecord& record, std::size_t line) {
     row.text = record.text.substr(0, static_cast<std::size_t>(end - record.text.data()));
   }
   for (std::size_t place = 0; place < plan_.read.size(); ++place) {
-    numbers_[place].push_back(row.isBlank() ? none : number(record, plan_.read[place]));
+    numbers_[place].push_back(row.isBlank ? none : number(record, plan_.read[place]));
   }
   rows_.push_back(row);
 }
@@ -140,7 +140,7 @@ void BlockWorker::compute(const BatchPlan::Call& call) {
       }};
   // Rows that lack an input have their reason already.
   const auto ready = [&](std::size_t row) {
-    return !rows_[row].isBlank() &&
+    return !rows_[row].isBlank &&
            std::ranges::none_of(call.operands, [&](const BatchPlan::Operand& operand) {
              return operand.place && std::isnan(numbers_[*operand.place][row]);
            });
@@ -159,7 +159,7 @@ void BlockWorker::write(BlockAnswer& answer) {
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     const Row& row = rows_[i];
     answer.text += row.text;
-    if (!row.isBlank()) {
+    if (!row.isBlank) {
       ++answer.rows;
       answer.text.append(row.missingCells, table_.separator);
       for (const BatchPlan::Added& added : plan_.added) {

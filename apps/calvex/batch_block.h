@@ -48,8 +48,7 @@ class BlockWorker {
     std::string_view lineEnd;
     std::size_t missingCells;
     std::size_t line;
-
-    [[nodiscard]] bool isBlank() const noexcept { return text.empty(); }
+    bool isBlank;
   };
   /// Why columns have no number in a row; UTF-8.
   struct Note {

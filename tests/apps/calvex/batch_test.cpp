@@ -258,6 +258,10 @@ TEST(Batch, TheColumnForReasonsMayHaveAnotherName) {
   EXPECT_TRUE(answer.out.starts_with("P,why,T,reason\n1,x,")) << answer.out;
 }
 
+TEST(Batch, ASeparatorAloneIsARowAndNoBlankLine) {
+  EXPECT_EQ(batch("P\n,\n\n", {"T=TSatP(P)"}).out, "P,T,why\n,,P: the cell is empty\n\n");
+}
+
 TEST(Batch, AHeaderAloneIsATableToo) {
   EXPECT_EQ(batch("P,T\n", {"h=HPT(P,T)"}).out, "P,T,h,why\n");
   EXPECT_EQ(batch("P,T", {"h=HPT(P,T)"}).out, "P,T,h,why");
