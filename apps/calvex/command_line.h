@@ -48,6 +48,7 @@ ExitStatus unitsCommand(const Words& words, Console& console);
 ExitStatus convertCommand(const Words& words, Console& console);
 ExitStatus stateCommand(const Words& words, Console& console);
 ExitStatus tableCommand(const Words& words, Console& console);
+ExitStatus batchCommand(const Words& words, Console& console);
 ExitStatus runCommand(const Words& words, Console& console);
 ExitStatus configCommand(const Words& words, Console& console);
 ExitStatus completionCommand(const Words& words, Console& console);

@@ -11,26 +11,38 @@
 
 namespace calvex::cli {
 
-double parseNumber(std::string_view word) {
-  std::string_view digits = word;
-  if (digits.starts_with('+') && !digits.starts_with("+-")) digits.remove_prefix(1);
+ReadNumber readNumber(std::string_view word) noexcept {
+  if (word.starts_with('+') && !word.starts_with("+-")) word.remove_prefix(1);
   double value = 0.0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (error == std::errc::invalid_argument || end != digits.data() + digits.size()) {
-    const bool comma = word.find(',') != std::string_view::npos;
-    throw UsageError(fmt::format("{} is not a number{}", inQuotes(word),
-                                 comma ? "; the decimal sign is a point, as in 1013.25" : ""));
+  const char* const last = word.data() + word.size();
+  const auto [end, error] = std::from_chars(word.data(), last, value);
+  if (error == std::errc::invalid_argument || end != last) return {value, NumberFault::notANumber};
+  if (error == std::errc::result_out_of_range) return {value, NumberFault::beyondNumbers};
+  return {value, std::isfinite(value) ? NumberFault::none : NumberFault::notFinite};
+}
+
+std::string faultText(std::string_view word, NumberFault fault) {
+  switch (fault) {
+    case NumberFault::none:
+      break;
+    case NumberFault::notANumber:
+      return fmt::format("{} is not a number", inQuotes(word));
+    case NumberFault::beyondNumbers:
+      return fmt::format(
+          "{} is beyond the numbers that can be computed with (about 1e-308 to 1e308)",
+          inQuotes(word));
+    case NumberFault::notFinite:
+      return fmt::format("{} is not a finite number", inQuotes(word));
   }
-  if (error == std::errc::result_out_of_range) {
-    throw UsageError(
-        fmt::format("{} is beyond the numbers that can be computed with "
-                    "(about 1e-308 to 1e308)",
-                    inQuotes(word)));
-  }
-  if (!std::isfinite(value)) {
-    throw UsageError(fmt::format("{} is not a finite number", inQuotes(word)));
-  }
-  return value;
+  return {};
+}
+
+double parseNumber(std::string_view word) {
+  const auto [value, fault] = readNumber(word);
+  if (fault == NumberFault::none) return value;
+  const bool comma = fault == NumberFault::notANumber && word.find(',') != std::string_view::npos;
+  throw UsageError(faultText(word, fault) +
+                   (comma ? "; the decimal sign is a point, as in 1013.25" : ""));
 }
 
 int parseWholeNumber(std::string_view word, int smallest, int largest) {
@@ -45,13 +57,22 @@ int parseWholeNumber(std::string_view word, int smallest, int largest) {
 }
 
 std::string shortestText(double value) {
-  if (std::isnan(value)) return "nan";
-  if (std::isinf(value)) return value > 0 ? "inf" : "-inf";
-  // Many readers take "-0" for an integer and lose its sign.
-  if (value == 0.0 && std::signbit(value)) return "-0.0";
-  char text[32];
-  const auto [end, error] = std::to_chars(text, text + sizeof text, value);
-  return {text, end};
+  std::string text;
+  appendShortest(text, value);
+  return text;
+}
+
+void appendShortest(std::string& text, double value) {
+  if (std::isnan(value)) {
+    text += "nan";
+  } else if (std::isinf(value)) {
+    text += value > 0 ? "inf" : "-inf";
+  } else if (value == 0.0 && std::signbit(value)) {
+    text += "-0.0";  // many readers take "-0" for an integer and lose its sign
+  } else {
+    char digits[32];
+    text.append(digits, std::to_chars(digits, digits + sizeof digits, value).ptr);
+  }
 }
 
 std::string readableText(double value, int digits) {

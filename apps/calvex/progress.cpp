@@ -12,7 +12,7 @@ constexpr int barWidth = 40;
 
 }  // namespace
 
-Progress::Progress(std::ostream& err, long total, bool shown, Clock now)
+Progress::Progress(std::ostream& err, std::int64_t total, bool shown, Clock now)
     : err_(err), total_(total), shown_(shown), now_(std::move(now)) {
   next_ = now_() + std::chrono::seconds(1);
 }
@@ -21,7 +21,7 @@ Progress::~Progress() {
   if (drawn_) err_ << '\r' << std::string(barWidth + 7, ' ') << '\r' << std::flush;
 }
 
-void Progress::at(long done) {
+void Progress::at(std::int64_t done) {
   if (!shown_ || total_ <= 0) return;
   const auto now = now_();
   if (now < next_) return;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <iosfwd>
 
@@ -14,16 +15,17 @@ class Progress {
   using Clock = std::function<std::chrono::steady_clock::time_point()>;
 
   /// Nothing is drawn unless `shown`.
-  Progress(std::ostream& err, long total, bool shown, Clock now = std::chrono::steady_clock::now);
+  Progress(std::ostream& err, std::int64_t total, bool shown,
+           Clock now = std::chrono::steady_clock::now);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  void at(long done);
+  void at(std::int64_t done);
 
  private:
   std::ostream& err_;
-  long total_;
+  std::int64_t total_;
   bool shown_;
   Clock now_;
   std::chrono::steady_clock::time_point next_;

@@ -45,4 +45,8 @@ enum class Message : int {
   return messageText(static_cast<int>(message));
 }
 
+/// The number of the error (100 to 199) whose text this is, with whatever its format was filled
+/// with; 100, the error of any text, when it is none of the others.
+[[nodiscard]] short messageNumber(std::string_view errorText) noexcept;
+
 }  // namespace calvex

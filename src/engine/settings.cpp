@@ -4,6 +4,13 @@
 
 namespace calvex {
 
+void ZvThermoInt::TakeSettings(const ZvThermoInt& other) {
+  units_ = other.units_;
+  steam_.solver().setTolerance(other.SolverTol());
+  steam_.solver().setIterations(other.SolverIter());
+  steam_.setSatPolish(other.SatPolish());
+}
+
 int ZvThermoInt::SetSolverTol(double newVal) {
   return call("SetSolverTol", [&] {
     if (!steam_.solver().setTolerance(newVal)) return fail(Message::invalidSolverTolerance);

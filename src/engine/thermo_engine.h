@@ -42,6 +42,10 @@ class ZvThermoInt {
   /// chose stay.
   void Reset();
 
+  /// Takes over another engine's units and the settings that results depend on: those of the solver
+  /// and of the saturation line.
+  void TakeSettings(const ZvThermoInt& other);
+
   // Properties from two others
   // --------------------------------------------------------------------- The letters: result, then
   // the two inputs in the order of the arguments. P pressure, T temperature, H enthalpy, S entropy,

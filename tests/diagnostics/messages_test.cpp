@@ -46,5 +46,21 @@ TEST(Messages, NamesCarryTheirNumbers) {
   EXPECT_EQ(static_cast<int>(Message::outOfStrictRange), 201);
 }
 
+TEST(Messages, ANumberIsFoundByItsText) {
+  EXPECT_EQ(messageNumber("Temperature parameter out of range (Valid range -13.15 to 2226.85 C)."),
+            108);
+  EXPECT_EQ(messageNumber("Quality parameter out of range (Valid range 0.00 to 1.00)."), 101);
+  EXPECT_EQ(messageNumber("Enthalpy parameter out of range."), 102);
+  EXPECT_EQ(messageNumber("Maximum number of iterations reached."), 103);
+  EXPECT_EQ(messageNumber("Solution Error."), 104);
+  EXPECT_EQ(messageNumber("No solution !! (Solver return code = -1)."), 105);
+  EXPECT_EQ(messageNumber("Two phase conditions - Underspecified problem."), 106);
+  EXPECT_EQ(messageNumber("Unknown solver return code."), 107);
+  for (const char* other : {"", "Solution Error", "Solution Error..", "A text of a model",
+                            " parameter out of range (Valid range", "%s"}) {
+    EXPECT_EQ(messageNumber(other), 100) << other;
+  }
+}
+
 }  // namespace
 }  // namespace calvex

@@ -309,5 +309,27 @@ TEST_F(Reset, HappensWhenTheLastObjectIsReleased) {
   EXPECT_EQ(engine.SolverTol(), 1e-9);
 }
 
+TEST_F(Settings, OfAnotherEngineAreTakenOverWithItsUnits) {
+  ZvThermoInt other;
+  other.SetAppLevel(3);
+  other.SetUserUnit("T", "C");
+  other.SetCustomUserUnitIndex(1, "decabar", 1.0, 0.0);
+  other.SetSolverTol(1e-8);
+  other.SetSolverIter(123);
+  other.SetSatPolish(0);
+  engine.TakeSettings(other);
+  EXPECT_EQ(engine.AppLevel(), 3);
+  EXPECT_EQ(engine.SolverTol(), 1e-8);
+  EXPECT_EQ(engine.SolverIter(), 123);
+  EXPECT_EQ(engine.SatPolish(), 0);
+  EXPECT_EQ(engine.unitName(UnitGroup::pressure), "decabar");
+  EXPECT_EQ(engine.LastError(), "");
+  other.SetAppLevel(2);
+  EXPECT_EQ(other.unitName(UnitGroup::temperature), "C");
+  engine.TakeSettings(other);
+  EXPECT_EQ(engine.unitName(UnitGroup::temperature), "C");
+  EXPECT_EQ(valueOf(engine, &ZvThermoInt::TSatP, 1.0), valueOf(other, &ZvThermoInt::TSatP, 1.0));
+}
+
 }  // namespace
 }  // namespace calvex::test

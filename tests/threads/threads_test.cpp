@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <thread>
 
+#include "direct/chunks.h"
 #include "support/engine.h"
 
 namespace calvex::test {
@@ -58,6 +59,24 @@ TEST(Threads, TwoEnginesGiveTheBitsOfOneAlone) {
   EXPECT_EQ(first, kelvin);
   EXPECT_EQ(second, celsius);
   EXPECT_EQ(third, kelvin);
+}
+
+TEST(Threads, ChunksAnswerTheSameOnAnyNumberOfThem) {
+  const auto enthalpies = [](unsigned threads) {
+    const ChunkedLoop loop{.threads = threads, .chunk = 3, .progress = [](std::size_t) {}};
+    std::vector<double> values(50);
+    std::vector<ZvThermoInt> engines(loop.workers(values.size()));
+    EXPECT_TRUE(forEachChunk(values.size(), loop, [&](const Chunk& chunk) {
+      for (std::size_t i = chunk.begin; i < chunk.end; ++i) {
+        engines[chunk.worker].HPT(&values[i], 10.0, 300.0 + 10.0 * static_cast<double>(i));
+      }
+    }));
+    return values;
+  };
+  const std::vector<double> alone = enthalpies(1);
+  EXPECT_GT(alone.front(), 0.0);
+  EXPECT_EQ(enthalpies(2), alone);
+  EXPECT_EQ(enthalpies(7), alone);
 }
 
 }  // namespace

@@ -1,0 +1,69 @@
+#include "server/direct_members.h"
+
+namespace calvex {
+
+namespace {
+
+// The letters of both roads are the same, in the same order.
+direct::Letter letterOf(Quantity::Letter letter) { return static_cast<direct::Letter>(letter); }
+static_assert(static_cast<int>(Quantity::Letter::L) == static_cast<int>(direct::Letter::L));
+
+std::optional<direct::Pair> pairOf(direct::Letter first, direct::Letter second) {
+  for (int i = 0; i < direct::pairCount; ++i) {
+    const auto pair = static_cast<direct::Pair>(i);
+    if (firstOf(pair) == first && secondOf(pair) == second) return pair;
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<DirectMember> directMember(const Member& member) {
+  using direct::Letter;
+  using direct::Pair;
+  for (int i = 0; i < PropertyMember::count; ++i) {
+    const PropertyMember& row = propertyMember(static_cast<PropertyMember::Index>(i));
+    if (row.name != member.name) continue;
+    // The direct road answers 1 for a liquid above the critical pressure, the members from a
+    // temperature 0 (QTV at 293.15 K and 0.0009 m3/kg).
+    if (row.result == Quantity::Letter::Q && row.first == Quantity::Letter::T) return std::nullopt;
+    const auto pair = pairOf(letterOf(row.first), letterOf(row.second));
+    if (!pair) return std::nullopt;
+    return DirectMember{*pair, letterOf(row.result)};
+  }
+  if (member.name == "PSatT") return DirectMember{Pair::TQ, Letter::P, true};
+  if (member.name == "TSatP") return DirectMember{Pair::PQ, Letter::T, true};
+#define X(result)                                                                    \
+  if (member.name == #result "SatTQ") return DirectMember{Pair::TQ, Letter::result}; \
+  if (member.name == #result "SatPQ") return DirectMember{Pair::PQ, Letter::result};
+  CALVEX_SATURATION_RESULTS(X)
+#undef X
+  return std::nullopt;
+}
+
+std::optional<direct::Units> directUnits(const UserUnits& units) {
+  if (units.mode() != UnitsMode::builtIn && units.mode() != UnitsMode::catalogue) {
+    return std::nullopt;
+  }
+  direct::Units all = direct::modelUnits();
+  for (int i = 0; i < direct::letterCount; ++i) {
+    const Quantity& row = quantity(static_cast<Quantity::Letter>(i));
+    if (!row.hasUnit) continue;
+    const ZvUomLiteGroup& group = units.catalogue()[row.group];
+    const ZvUomLiteKeyword& from = group.currentUnit();
+    const ZvUomLiteKeyword& to = group.internalUnit();
+    if (&from == &to) continue;
+    const double factor = from.factor / to.factor;
+    all.at(static_cast<std::size_t>(i)) = {factor, from.offset - to.offset / factor, from.name};
+  }
+  return all;
+}
+
+bool hasDirectSettings(const ZvThermoInt& engine) {
+  constexpr double tolerance = 1e-9;
+  constexpr short iterations = 200;
+  return engine.SatPolish() == 2 && engine.SolverTol() == tolerance &&
+         engine.SolverIter() == iterations;
+}
+
+}  // namespace calvex

@@ -1,0 +1,30 @@
+/// \file
+/// Which members the direct road answers, and in which terms.
+#pragma once
+
+#include <optional>
+
+#include "direct/direct_road.h"
+#include "engine/thermo_engine.h"
+#include "server/member_table.h"
+
+namespace calvex {
+
+/// A member's one output as a property of a state.
+struct DirectMember {
+  direct::Pair pair;
+  direct::Letter result;
+  bool ofLiquid = false;  ///< a member of one input on the saturation line: the quality is 0
+};
+
+/// The members from two properties and those of the saturation line; nothing for the others.
+[[nodiscard]] std::optional<DirectMember> directMember(const Member& member);
+
+/// The engine's units; nothing while they are those of a units server.
+[[nodiscard]] std::optional<direct::Units> directUnits(const UserUnits& units);
+
+/// Whether the direct road has the engine's settings: the exact saturation line, and the solver's
+/// as they are by default.
+[[nodiscard]] bool hasDirectSettings(const ZvThermoInt& engine);
+
+}  // namespace calvex
