@@ -8,6 +8,7 @@
 
 #include "direct/kernels.h"
 #include "direct/member_road.h"
+#include "direct/reasons.h"
 #include "steam/constants.h"
 
 namespace calvex::direct {
@@ -496,6 +497,15 @@ double evaluate(Pair pair, double first, double second, Letter letter) noexcept 
   double value = nothing;
   evaluate(pair, first, second, {&letter, 1}, &value);
   return value;
+}
+
+std::string reason(Pair pair, double first, double second, std::span<const Letter> letters,
+                   const Units& units) {
+  const double a = toModel(units[static_cast<std::size_t>(firstOf(pair))], first);
+  const double b = toModel(units[static_cast<std::size_t>(secondOf(pair))], second);
+  std::array<double, letterCount> values;
+  const int status = evaluate(pair, a, b, letters, values.data());
+  return status == 0 ? std::string() : reasonText(status, pair, a, b, letters, units);
 }
 
 int saturationPressure(double T, double& P, double* slope) noexcept {

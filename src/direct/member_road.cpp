@@ -74,22 +74,21 @@ int checkInputs(Pair pair, double first, double second) noexcept {
   return second >= 0.0 ? 0 : outOfRange;
 }
 
+double highestTransportTemperature(Letter letter) noexcept {
+  return letter == Letter::E ? 823.15 : 1073.15;
+}
+
+double highestTransportPressure(Letter letter, double T) noexcept {
+  if (letter == Letter::M) return T < 373.15 ? 1000.0 : T < 833.15 ? 350.0 : 100.0;
+  return letter == Letter::E ? 500.0 : 100.0;
+}
+
 int checkTransport(Letter letter, double P, double T) noexcept {
-  constexpr double lowest = 273.15;
-  const auto within = [&](double highestT, double highestP) {
-    return T >= lowest && T <= highestT && P >= 0.0 && P <= highestP ? 0 : outOfRangeUnit;
-  };
-  switch (letter) {
-    case Letter::M:
-      return within(1073.15, T < 373.15 ? 1000.0 : T < 833.15 ? 350.0 : 100.0);
-    case Letter::E:
-      return within(823.15, 500.0);
-    case Letter::K:
-    case Letter::N:
-      return within(1073.15, 100.0);
-    default:
-      return 0;
+  if (letter != Letter::M && letter != Letter::E && letter != Letter::K && letter != Letter::N) {
+    return 0;
   }
+  const int status = checkRange(T, constants::celsiusZero, highestTransportTemperature(letter));
+  return status != 0 ? status : checkRange(P, 0.0, highestTransportPressure(letter, T));
 }
 
 MemberRoad::MemberRoad() : model_(diagnostics_) {

@@ -39,5 +39,8 @@ class MemberRoad {
 [[nodiscard]] int checkInputs(Pair pair, double first, double second) noexcept;
 /// The range of a transport correlation: 0 or 108; 0 for all other letters.
 [[nodiscard]] int checkTransport(Letter letter, double P, double T) noexcept;
+/// Its bounds: 273.15 K to this, 0 MPa to that.
+[[nodiscard]] double highestTransportTemperature(Letter letter) noexcept;
+[[nodiscard]] double highestTransportPressure(Letter letter, double T) noexcept;
 
 }  // namespace calvex::direct

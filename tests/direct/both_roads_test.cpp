@@ -22,7 +22,7 @@ constexpr double agreement = 1e-10;
 // little pressure, the first bubble in a liquid) the roads differ by more. Then the judge with 50
 // digits decides whether the direct road's state has the given properties and the property that is
 // answered, each to rounding: to this part of the terms that it is the sum of.
-constexpr double rounding = 1e-11;
+constexpr double rounding = 3e-11;
 
 double termsOf(Letter letter, double value, double T, double density) {
   constexpr double R = 0.461522;

@@ -1,0 +1,208 @@
+// The direct road by itself: what does not depend on lanes, units and neighbours, and (h, s), which
+// no member answers.
+#include <array>
+
+#include "direct/states.h"
+#include "support/failures.h"
+
+namespace calvex::test {
+namespace {
+
+using direct::Letter;
+using direct::Pair;
+
+constexpr Pair allPairs[] = {Pair::PT, Pair::PH, Pair::PS, Pair::PU, Pair::PR, Pair::PV, Pair::TH,
+                             Pair::TS, Pair::TU, Pair::TR, Pair::TV, Pair::PQ, Pair::TQ, Pair::HS};
+constexpr std::size_t count = 500;
+
+struct Answers {
+  std::array<double, count> T{}, density{}, h{};
+  std::array<short, count> status{};
+};
+
+void evaluate(Pair pair, const std::vector<double>& first, const std::vector<double>& second,
+              Answers& answers) {
+  const direct::Result results[] = {{Letter::T, {answers.T.data()}},
+                                    {Letter::R, {answers.density.data()}},
+                                    {Letter::H, {answers.h.data()}}};
+  direct::Request request{pair, {first.data()}, {second.data()}, results};
+  request.status = {answers.status.data()};
+  direct::evaluate(request, 0, count);
+}
+
+void inputsOf(Pair pair, std::vector<double>& first, std::vector<double>& second) {
+  first.resize(count);
+  second.resize(count);
+  RandomInputs inputs(pair, 23);
+  for (std::size_t i = 0; i < count; ++i) inputs.next(first[i], second[i]);
+}
+
+TEST(DirectRoad, EveryInstructionSetAnswersTheSame) {
+  ASSERT_GE(direct::instructionSets().size(), 1U);
+  std::vector<double> first, second;
+  for (const Pair pair : allPairs) {
+    Grid grid("instruction sets");
+    inputsOf(pair, first, second);
+    Answers best;
+    evaluate(pair, first, second, best);
+    for (const std::string_view set : direct::instructionSets()) {
+      ASSERT_TRUE(direct::useInstructionSet(set));
+      Answers answers;
+      evaluate(pair, first, second, answers);
+      for (std::size_t i = 0; i < count; ++i) {
+        const std::string at = fmt::format("{} pair {}: {:.17g}, {:.17g}", set,
+                                           static_cast<int>(pair), first[i], second[i]);
+        grid.holds(answers.status[i] == best.status[i], at);
+        if (best.status[i] != 0 || answers.status[i] != 0) continue;
+        // What the last digit of an input moves is not the lanes': a liquid's density at a given
+        // temperature, and the first bubble of a mixture.
+        double moved = 0.0;
+        double density = 0.0;
+        const Letter letters[] = {Letter::R};
+        if (direct::evaluate(pair, first[i], second[i] * (1.0 + 1e-14), letters, &density) == 0) {
+          moved = std::abs(density / best.density[i] - 1.0);
+        }
+        grid.near(answers.density[i], best.density[i], 1e-12 + 100.0 * moved, best.density[i], at);
+        grid.near(answers.T[i], best.T[i], 1e-12 + 100.0 * moved, best.T[i], at);
+      }
+    }
+  }
+  EXPECT_TRUE(direct::useInstructionSet({}));
+  EXPECT_FALSE(direct::useInstructionSet("abacus"));
+}
+
+TEST(DirectRoad, NeighboursDoNotMatter) {
+  std::vector<double> first, second;
+  for (const Pair pair : allPairs) {
+    inputsOf(pair, first, second);
+    Answers together;
+    evaluate(pair, first, second, together);
+    const direct::Result one[] = {{Letter::R, {}}};
+    for (std::size_t i = 0; i < count; i += 7) {
+      double density = 0.0;
+      short status = -1;
+      direct::Result results[] = {one[0]};
+      results[0].value = {&density};
+      direct::Request request{pair, {&first[i]}, {&second[i]}, results};
+      request.status = {&status};
+      direct::evaluate(request, 0, 1);
+      EXPECT_EQ(status, together.status[i]);
+      if (status == 0) {
+        EXPECT_EQ(density, together.density[i])
+            << static_cast<int>(pair) << ": " << first[i] << ", " << second[i];
+      } else {
+        EXPECT_TRUE(std::isnan(density));
+      }
+    }
+  }
+}
+
+TEST(DirectRoad, OneStateIsThatOfTheArrays) {
+  std::vector<double> first, second;
+  for (const Pair pair : allPairs) {
+    Grid grid("single states");
+    inputsOf(pair, first, second);
+    Answers together;
+    evaluate(pair, first, second, together);
+    for (std::size_t i = 0; i < count; ++i) {
+      double values[2];
+      const Letter letters[] = {Letter::T, Letter::H};
+      const int status = direct::evaluate(pair, first[i], second[i], letters, values);
+      const std::string at = fmt::format("{:.17g}, {:.17g}", first[i], second[i]);
+      grid.holds(status == together.status[i], at);
+      if (status != 0) {
+        grid.holds(std::isnan(values[0]) && std::isnan(values[1]), at);
+        continue;
+      }
+      grid.near(values[1], together.h[i], 1e-10, 2000.0 + values[0], at);
+    }
+  }
+}
+
+TEST(DirectRoad, StridesAndConstantsAreRead) {
+  const double points[] = {600.0, 0.0, 700.0, 0.0, 800.0, 0.0};
+  const double P = 5.0;
+  double h[6] = {-1.0, -2.0, -1.0, -2.0, -1.0, -2.0};
+  const direct::Result results[] = {{Letter::H, {h, 2}}};
+  const direct::Request request{Pair::PT, {&P, 0}, {points, 2}, results};
+  direct::evaluate(request, 0, 3);
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(h[2 * i + 1], -2.0);
+    double one = 0.0;
+    const Letter letters[] = {Letter::H};
+    ASSERT_EQ(direct::evaluate(Pair::PT, P, points[2 * i], letters, &one), 0);
+    EXPECT_NEAR(h[2 * i], one, 1e-9);
+  }
+}
+
+TEST(DirectRoad, UnitsAreConvertedOnTheWay) {
+  direct::Units units = direct::modelUnits();
+  units[static_cast<int>(Letter::T)] = {1.0, 273.15, "C"};
+  units[static_cast<int>(Letter::P)] = {0.1, 0.0, "bara"};
+  const double P = 100.0;
+  const double T = 500.0;
+  double values[2], slope[2];
+  const direct::Result results[] = {{Letter::H, {&values[0]}, {&slope[0]}, {}},
+                                    {Letter::T, {&values[1]}}};
+  direct::Request request{Pair::PT, {&P}, {&T}, results};
+  request.units = &units;
+  direct::evaluate(request, 0, 1);
+  EXPECT_NEAR(values[0], direct::evaluate(Pair::PT, 10.0, 773.15, Letter::H), 1e-9);
+  EXPECT_NEAR(values[1], 500.0, 1e-12);
+  const double delta = direct::evaluate(Pair::PT, 10.0, 773.15, Letter::I);  // dh/dP at constant T
+  EXPECT_NEAR(slope[0], 0.1 * delta, 1e-9);
+  const Letter letters[] = {Letter::H};
+  EXPECT_EQ(direct::reason(Pair::PT, 100.0, 3000.0, letters, units),
+            "Temperature parameter out of range (Valid range -13.15 to 2226.85 C).");
+  EXPECT_EQ(direct::reason(Pair::PH, 1.0, -1.0, letters), "Enthalpy parameter out of range.");
+  EXPECT_EQ(direct::reason(Pair::PT, 1.0, 600.0, letters), "");
+}
+
+TEST(DirectRoad, EnthalpyAndEntropyGiveTheStateBack) {
+  Grid grid("(h, s)");
+  RandomInputs inputs(Pair::PH, 31);
+  for (int i = 0; i < 3000; ++i) {
+    double P = 0.0;
+    double h = 0.0;
+    inputs.next(P, h);
+    double values[2];
+    const Letter letters[] = {Letter::S, Letter::T};
+    if (!(h >= 0.0) || direct::evaluate(Pair::PH, P, h, letters, values) != 0) continue;
+    const double s = values[0];
+    // Dense cold water of the equation, beyond where there is any, has two states for one (h, s).
+    if (!(s >= 0.0) || P > 500.0) continue;
+    double back[2];
+    const Letter both[] = {Letter::H, Letter::T};
+    const std::string at = fmt::format("h = {:.17g}, s = {:.17g} of P = {:.17g}", h, s, P);
+    const Letter found[] = {Letter::P, Letter::T};
+    const int status = direct::evaluate(Pair::HS, h, s, found, back);
+    grid.holds(status == 0, at);
+    if (status != 0) continue;
+    static_cast<void>(both);
+    // dh = T ds + v dP: the pressure of cold water hangs on the last digits of h.
+    const double density = direct::evaluate(Pair::HS, h, s, Letter::R);
+    const double v = 1.0 / density;
+    grid.near(back[0], P, 1e-9, std::max(P, 1e-3 / v), at);
+    grid.near(back[1], values[1], 1e-9, values[1], at);
+  }
+  const Letter letters[] = {Letter::T};
+  double T = 0.0;
+  EXPECT_EQ(direct::evaluate(Pair::HS, -1.0, 1.0, letters, &T), 102);
+  EXPECT_EQ(direct::evaluate(Pair::HS, 100.0, 12.0, letters, &T), 104);
+}
+
+TEST(DirectRoad, TheLineIsItsOwnInverse) {
+  for (double T = 273.2; T < 647.0; T += 3.7) {
+    double P = 0.0, slope = 0.0, back = 0.0;
+    ASSERT_EQ(direct::saturationPressure(T, P, &slope), 0);
+    ASSERT_EQ(direct::saturationTemperature(P, back), 0);
+    EXPECT_NEAR(back, T, 1e-9 * T);
+    double above = 0.0, below = 0.0;
+    ASSERT_EQ(direct::saturationPressure(T + 1e-3, above), 0);
+    ASSERT_EQ(direct::saturationPressure(T - 1e-3, below), 0);
+    EXPECT_NEAR(slope, (above - below) / 2e-3, 1e-5 * slope);
+  }
+}
+
+}  // namespace
+}  // namespace calvex::test
