@@ -23,8 +23,11 @@ namespace {
 
 using namespace constants;
 
-// On the line a mixture has g(T) = h - T s; both sides fall with T, the right one faster inside the
-// two-phase region, so that there is one temperature.
+// A saturated state is found from one side of the line or from the other.
+constexpr double onTheLine = 1e-9;
+
+// On the line a mixture has g(T) = h - T s. The difference falls with rising T as long as s is more
+// than the liquid's, and with it the mixture exists.
 bool mixture(double h, double s, FoundState& state) {
   const auto excess = [&](double T, PhaseEquilibrium& line) {
     line = calvex::equilibriumAtT(T);
@@ -35,6 +38,16 @@ bool mixture(double h, double s, FoundState& state) {
   PhaseEquilibrium line;
   double low = triplePointTemperature;
   double high = criticalTemperature;
+  const auto liquidEntropy = [&](double T) {
+    return calvex::evaluate(Property::entropy, T, calvex::equilibriumAtT(T).liquidDensity);
+  };
+  if (s < liquidEntropy(high)) {
+    double cold = low;
+    while (high - cold > 1e-9 * high) {
+      const double middle = 0.5 * (cold + high);
+      (liquidEntropy(middle) <= s ? cold : high) = middle;
+    }
+  }
   if (!(excess(low, line) >= 0.0) || !(excess(high, line) <= 0.0)) return false;
   while (high - low > 1e-12 * high) {
     const double middle = 0.5 * (low + high);
@@ -47,8 +60,9 @@ bool mixture(double h, double s, FoundState& state) {
   const double liquid = HelmholtzPoint(part, line.liquidDensity).entropy();
   const double vapour = HelmholtzPoint(part, line.vapourDensity).entropy();
   const double quality = (s - liquid) / (vapour - liquid);
-  if (!(quality >= 0.0 && quality <= 1.0)) return false;
-  state = {true, low, line.liquidDensity, line.vapourDensity, line.P, quality};
+  if (!(quality >= -onTheLine && quality <= 1.0 + onTheLine)) return false;
+  state = {
+      true, low, line.liquidDensity, line.vapourDensity, line.P, std::clamp(quality, 0.0, 1.0)};
   return true;
 }
 
@@ -60,7 +74,8 @@ bool isState(double T, double density) {
   if (T >= criticalTemperature) return true;
   if (T < triplePointTemperature) return (density < 100.0) == (P < triplePointPressure);
   const PhaseEquilibrium line = calvex::equilibriumAtT(T);
-  return density >= line.liquidDensity || density <= line.vapourDensity;
+  return density >= line.liquidDensity * (1.0 - onTheLine) ||
+         density <= line.vapourDensity * (1.0 + onTheLine);
 }
 
 struct Known {

@@ -364,9 +364,10 @@ Decision<N> decideHS(const N& h, const N& s) {
 template <class N>
 HWY_INLINE void startInTwoPhases(const N& h, const N& s, N& T, N& liquid, N& vapour) {
   const LineTable& line = lineByTemperature();
-  T = N(450.0);
-  // On the line g(T) = h - T s with the g of the table; dg/dT is -s' but for v' dP/dT.
-  for (int step = 0; step < 6; ++step) {
+  // On the line g(T) = h - T s with the g of the table; dg/dT is -s' but for v' dP/dT. From the
+  // cold end the steps stay on their side.
+  T = N(274.0);
+  for (int step = 0; step < 8; ++step) {
     const LinePlace<N> place = placeAtT(line, T);
     const N sL = place(line.column[LineTable::sL]);
     const N excess = h - place(line.column[LineTable::hL]) - T * (s - sL);

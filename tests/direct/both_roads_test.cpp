@@ -24,21 +24,6 @@ constexpr double agreement = 1e-10;
 // answered, each to rounding: to this part of the terms that it is the sum of.
 constexpr double rounding = 3e-11;
 
-double termsOf(Letter letter, double value, double T, double density) {
-  constexpr double R = 0.461522;
-  switch (letter) {
-    case Letter::P:
-      return 1e-3 * R * T * density;
-    case Letter::H:
-    case Letter::U:
-      return 2000.0 + R * T;
-    case Letter::S:
-      return 3.5;
-    default:
-      return std::abs(value);
-  }
-}
-
 bool meetsItsInputs(const PairMembers& row, double first, double second, Letter result,
                     double value) {
   double T = 0.0;

@@ -103,6 +103,27 @@ inline std::size_t stateCount(std::size_t usual) {
   return wanted != nullptr ? std::strtoull(wanted, nullptr, 10) : usual;
 }
 
+/// The terms that a property is the sum of, by whose last digits it is wrong: a liquid's pressure
+/// is the difference of attraction and repulsion, energies and entropy have their zero by
+/// constants.
+inline double termsOf(direct::Letter letter, double value, double T, double density) {
+  using direct::Letter;
+  constexpr double R = 0.461522;
+  switch (letter) {
+    case Letter::P:
+      return 1e-3 * R * T * density;
+    case Letter::H:
+    case Letter::U:
+      return 2000.0 + R * T;
+    case Letter::S:
+      return 3.5;
+    case Letter::Z:
+      return 1.0;
+    default:
+      return std::abs(value);
+  }
+}
+
 /// Inputs of a pair: true states of the hard range, of a plant, of two phases, and numbers that
 /// belong to no state.
 class RandomInputs {
