@@ -78,7 +78,7 @@ class TemperaturePartOf {
 
   N T_;
   Order known_ = Order::none;
-  N logReduced_;                                                // ln(T/T0)
+  N logReduced_;                                                       // ln(T/T0)
   std::array<N, coefficients::highestTemperatureExponent + 1> power_;  // x^0 .. x^6
 };
 
