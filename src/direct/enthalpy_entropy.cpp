@@ -106,7 +106,7 @@ const std::vector<Known>& knownStates() {
 }  // namespace
 
 int stateFromHS(double h, double s, FoundState& state) {
-  if (mixture(h, s, state)) return 0;
+  // One phase first: it is the cheaper search.
   const auto distance = [&](const Known& known) {
     return std::fabs(known.h - h) / 1000.0 + std::fabs(known.s - s);
   };
@@ -119,7 +119,7 @@ int stateFromHS(double h, double s, FoundState& state) {
     state = {false, found.T, found.density, 0.0, 0.0, 0.0};
     return 0;
   }
-  return static_cast<int>(Message::solutionError);
+  return mixture(h, s, state) ? 0 : static_cast<int>(Message::solutionError);
 }
 
 }  // namespace calvex::direct

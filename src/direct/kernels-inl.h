@@ -356,7 +356,25 @@ Decision<N> decideHS(const N& h, const N& s) {
   d.T = select(between, T, nextT);
   d.density = exp(select(between, logDensity, select(known, nextLog, N(0.0))));
   d.vapour = N(0.0);
-  d.way = select(sane && known, N(onePhase), select(sane, N(twoPhases), N(member)));
+  MaskOf<N> one = known;
+  // The liquid is a narrow band above its saturated states: it starts from the one with its
+  // entropy.
+  const MaskOf<N> hasLiquid = safeS < N(4.1);
+  if (any(hasLiquid)) {
+    const LineTable& line = lineByTemperature();
+    N Tl = 273.16 * exp(min(safeS, N(4.1)) * (1.0 / 4.6));
+    for (int step = 0; step < 4; ++step) {
+      Tl = Tl +
+           (min(safeS, N(4.1)) - placeAtT(line, Tl)(line.column[LineTable::sL])) * Tl * (1.0 / 4.6);
+      Tl = min(max(Tl, N(lineBottom + 2.0)), N(lineTop - 1.0));
+    }
+    const LinePlace<N> place = placeAtT(line, Tl);
+    const MaskOf<N> liquid = hasLiquid && safeH > place(line.column[LineTable::hL]);
+    d.T = select(liquid && !between, Tl, d.T);
+    d.density = select(liquid && !between, place(line.column[LineTable::liquid]), d.density);
+    one = (one && !hasLiquid) || liquid;
+  }
+  d.way = select(sane && one, N(onePhase), select(sane, N(twoPhases), N(member)));
   return d;
 }
 

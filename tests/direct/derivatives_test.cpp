@@ -163,7 +163,7 @@ std::string nameOf(const testing::TestParamInfo<Pair>& parameter) {
 INSTANTIATE_TEST_SUITE_P(Direct, Derivatives,
                          testing::Values(Pair::PT, Pair::PH, Pair::PS, Pair::PU, Pair::PR, Pair::PV,
                                          Pair::TH, Pair::TS, Pair::TU, Pair::TR, Pair::TV, Pair::PQ,
-                                         Pair::TQ),
+                                         Pair::HS, Pair::TQ),
                          nameOf);
 
 }  // namespace
