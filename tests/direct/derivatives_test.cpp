@@ -127,7 +127,7 @@ TEST_P(Derivatives, AreThoseOf50Digits) {
         const double variable = n % 2 == 0 ? value[0] : two ? 1.0 : value[1];
         const Fifty kept = slopes[n];
         // The state of (h, s) itself is known to less where both change alike, as along a liquid.
-        slopes[n] += (pair == Pair::HS ? 1e-10 : 1e-11) * terms / variable;
+        slopes[n] += (pair == Pair::HS ? 1e-9 : 1e-11) * terms / variable;
         const auto [first, second] = byInputs();
         slopes[n] = kept;
         roundedA += std::abs(static_cast<double>(first - exactFirst));
