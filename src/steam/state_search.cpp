@@ -97,8 +97,9 @@ Start SteamModel::polished(const Request& request, Start found) {
   if (equation == Equation::density) at.density = value;
   if (request.fromT() && equation == Equation::density) return at;
   const bool fromPT = equation == Equation::pressure;
-  // The minimiser has come closer, but for a thin gas at a known temperature.
-  double last = request.fromT() ? 1e3 : 1e-3;
+  // The minimiser has come closer, but for a thin gas at a known temperature. Where the pressure
+  // hardly rises with the density, next to the critical point, a longer step leads anywhere.
+  double last = request.fromT() && !fromPT && found.density < 1.0 ? 1e3 : 1e-3;
   for (;;) {
     const double r = 0.001 * at.density;
     const HelmholtzPoint point(

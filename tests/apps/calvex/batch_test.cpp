@@ -87,7 +87,7 @@ TEST(Batch, TextsOfAnswersAreThoseOfCalls) {
   const auto rows = rowsOf(batch("P,T\n10,773.15\n1,300\n", {"h=HPT(P,T)"}).out);
   for (const std::size_t i : {1U, 2U}) {
     char text[64];
-    std::snprintf(text, sizeof text, "pH  %.10g  kJ/kg\n", std::stod(rows.at(i).at(2)));
+    std::snprintf(text, sizeof text, "H = %.10g kJ/kg  enthalpy\n", std::stod(rows.at(i).at(2)));
     EXPECT_EQ(calvex({"HPT", rows[i][0], rows[i][1]}).out, text);
   }
 }
@@ -239,7 +239,7 @@ TEST(Batch, NamesAreChecked) {
       {{"w=TurbineA(P,P,1,1,1).Powr"}, "no result 'Powr'; did you mean Power?"},
       {{"why=1"}, "'why' is the column for reasons; --why NAME"},
       {{"h=1", "--why", "note"}, "the table has a column 'note' already; --why NAME"},
-      {{"h=1", "-u", "T=Celsius"}, "is not a unit of Temperature"},
+      {{"h=1", "-u", "T=parsec"}, "is not a unit of Temperature"},
       {{"h=1", "--separator", "dot"}, "--separator takes comma, semicolon or tab"},
       {{"h=1", "--threads", "many"}, "'many' is not a number"},
       {{}, "which columns are to be added"},
