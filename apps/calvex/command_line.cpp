@@ -143,6 +143,7 @@ ExitStatus dispatch(Words words, Console& console) {
 
 std::vector<CommandName> commandNames() {
   std::vector<CommandName> names;
+  names.reserve(commands.size());
   for (const Command& command : commands) {
     names.push_back({command.name, command.form, command.summary});
   }

@@ -32,13 +32,13 @@ struct Lists {
       words.emplace_back(row(UnitGroup(group)).keywords.front());
     }
     // Only words without blanks: a shell splits its lists there.
-    std::erase_if(words, [](const std::string& word) { return word.find(' ') != word.npos; });
+    std::erase_if(words, [](const std::string& word) { return word.find(' ') != std::string::npos; });
     groups = joined(words);
   }
 
  private:
   static std::string joined(Words& words) {
-    const std::string text = fmt::format("{}", fmt::join(words, " "));
+    std::string text = fmt::format("{}", fmt::join(words, " "));
     words.clear();
     return text;
   }

@@ -41,8 +41,8 @@ char** complete(const char* word, int start, int /*end*/) {
   if (words.empty()) return nullptr;
   std::string_view common = words.front();
   for (const std::string& other : words) {
-    const auto differ = std::ranges::mismatch(common, other).in1;
-    common = common.substr(0, static_cast<std::size_t>(differ - common.begin()));
+    const auto same = std::ranges::mismatch(common, other).in1 - common.begin();
+    common = common.substr(0, static_cast<std::size_t>(same));
   }
   // The typed letters stay where the words agree on nothing more (their case may differ).
   if (common.size() < std::strlen(word)) common = word;
@@ -56,9 +56,9 @@ char** complete(const char* word, int start, int /*end*/) {
 
 }  // namespace
 
-LineEditor::LineEditor(std::string history, Completer complete_) : history_(std::move(history)) {
+LineEditor::LineEditor(std::string history, Completer newCompleter) : history_(std::move(history)) {
   std::setlocale(LC_CTYPE, "");  // the library edits characters, not bytes
-  completer() = std::move(complete_);
+  completer() = std::move(newCompleter);
   static char name[] = "calvex";
   rl_readline_name = name;
   rl_initialize();
@@ -91,7 +91,7 @@ std::optional<std::string> LineEditor::read(const std::string& prompt) {
 
 #else
 
-LineEditor::LineEditor(std::string history, Completer /*completer*/)
+LineEditor::LineEditor(std::string history, Completer /*newCompleter*/)
     : history_(std::move(history)) {}
 LineEditor::~LineEditor() = default;
 

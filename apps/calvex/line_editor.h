@@ -18,7 +18,7 @@ class LineEditor {
       std::function<std::vector<std::string>(std::string_view before, std::string_view word)>;
 
   /// `history` is a file, or empty; it is made with its folders when there is something to keep.
-  LineEditor(std::string history, Completer completer);
+  LineEditor(std::string history, Completer newCompleter);
   ~LineEditor();
   LineEditor(const LineEditor&) = delete;
   LineEditor& operator=(const LineEditor&) = delete;

@@ -316,7 +316,7 @@ class Sequence {
     }
     for (const char* group : {"0", "1", "26", "27", "-1"}) call("GetUserUnitIndex", {group});
     call("SetUserUnit", {"Velocity", "knot"});  // of no input
-    call("SetUserUnit", {"P", "bar"});
+    call("SetUserUnit", {"P", "furlong"});
     call("SetUserUnitIndex", {"1", "K"});
     call("SetUserUnitIndex", {"99", "K"});
     call("Convert", {"P", "psig", "N/m\xC2\xB2", "1.5"});

@@ -179,12 +179,15 @@ TEST_F(TraceDialog, TheSelectedCallStaysSelectedAtALevelThatListsIt) {
 TEST_F(TraceDialog, TheTreeShowsTheSelectedCallExpanded) {
   calculateSheet();
   show({[](HWND dialog) {
-    EXPECT_EQ(outlineOf(dialog),
-              L"0 TurbineA +\n"
-              L"  1 Inlet Pressure parameter out of strictly valid range.\n"
-              L"  0 SPH +\n"
-              L"    1 Pressure parameter out of strictly valid range.\n"
-              L"    0 Solution Error.\n");
+    EXPECT_EQ(
+        outlineOf(dialog),
+        L"0 TurbineA +\n"
+        L"  1 Inlet Pressure parameter out of strictly valid range.\n"
+        L"  0 SPH +\n"
+        L"    1 Pressure parameter out of strictly valid range.\n"
+        L"    0 Solution Error.\n"
+        L"  0 Inlet enthalpy 34000 kJ/kg is above 8653.84 kJ/kg, that of the hottest steam at the "
+        L"inlet pressure: there is no such steam.\n");
     selectRow(dialog, 3);
     EXPECT_EQ(outlineOf(dialog),
               L"1 HPT +\n  1 Temperature parameter out of strictly valid range.\n");
