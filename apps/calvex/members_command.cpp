@@ -103,7 +103,7 @@ std::string list(const std::vector<Found>& members) {
   std::size_t longest = 0;
   for (const Found& found : members) longest = std::max(longest, found.member->name.size());
   for (int i = 0; i < memberHeadingCount; ++i) {
-    const MemberHeading heading = MemberHeading(i);
+    const auto heading = MemberHeading(i);
     bool first = true;
     for (const Found& found : members) {
       if (found.explained.heading != heading) continue;

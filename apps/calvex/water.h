@@ -31,7 +31,7 @@ class Water {
   explicit Water(Client& client) : client_(client) {}
 
   /// A member's first output. It must take nothing but these letters, in any order.
-  [[nodiscard]] Answer ask(std::string_view member, const std::vector<Given>& inputs);
+  [[nodiscard]] Answer ask(std::string_view name, const std::vector<Given>& inputs);
 
   /// A property of the one phase with that temperature and density (K, kg/m3), in the client's
   /// unit.
