@@ -53,7 +53,7 @@ struct StateTable {
   Axis first;
   Axis second;
   Focus focus;  // of the second
-  std::array<FloatPair, 2 * layer> node;
+  std::array<FloatPair, 2 * std::size_t{layer}> node;
 };
 
 /// The line over sqrt(Tc - T), and over sqrt(ln(Pc/P)). It ends where the phases become too alike.
