@@ -93,7 +93,8 @@ std::unique_ptr<LineTable> buildLineByPressure() {
     if (i < 3) {
       // P falls along the other table.
       const LineTable::Column& pressures = byT.column[LineTable::P];
-      const auto* const below = std::lower_bound(pressures.begin(), pressures.end(), P, std::greater<>());
+      const auto* const below =
+          std::lower_bound(pressures.begin(), pressures.end(), P, std::greater<>());
       T = byT.column[LineTable::T][static_cast<std::size_t>(below - pressures.begin())];
     }
     const LinePlace<double> place = placeAtT(byT, T);
@@ -112,8 +113,8 @@ double unfocused(const Focus& focus, double u) {
 
 FloatPair& nodeAt(StateTable& table, int layer, int row, int column) {
   const auto at = [](int n) { return static_cast<std::size_t>(n); };
-  return table.node[at(layer) * at(StateTable::layer) + at(row) * at(StateTable::columns) +
-                    at(column)];
+  return table
+      .node[at(layer) * at(StateTable::layer) + at(row) * at(StateTable::columns) + at(column)];
 }
 
 // In the gas layer the density is divided by the pressure: nearly constant where steam is thin.

@@ -14,6 +14,7 @@ namespace calvex {
 namespace {
 
 using constants::criticalPressure;
+using constants::criticalRegion;
 using constants::criticalTemperature;
 using constants::gasConstant;
 using constants::highestTemperature;
@@ -25,6 +26,9 @@ using constants::triplePointTemperature;
 constexpr double defaultTemperature = 773.15;
 constexpr double gasDensity = 1.0;
 constexpr double liquidDensity = 1000.0;
+
+// The pressure of the line 0.5 K below the critical point, MPa.
+constexpr double scalingLawFrom = 21.92;
 
 // Above the critical pressure or temperature a value below these starts as a liquid.
 double liquidLikeBelow(Property property) {
@@ -201,8 +205,15 @@ Phases SteamModel::stateFromP(double P, Property second, double value) {
     }
   }
   if (isDensity) start.density = value;
-  store(solveState(request), quality);
-  return Phases::one;
+  int status = 0;
+  if (const auto found = findState(request, status)) {
+    store(*found, quality);
+    return Phases::one;
+  }
+  if (P > scalingLawFrom && P < criticalPressure && polish() != SatPolish::deciding) {
+    return onExactLine([&] { return stateFromP(P, second, value); });
+  }
+  raiseWithoutState(status);
 }
 
 Phases SteamModel::stateFromT(double T, Property second, double value) {
@@ -258,7 +269,25 @@ Phases SteamModel::stateFromT(double T, Property second, double value) {
       }
     }
   }
+  if (T >= criticalTemperature - criticalRegion && T < criticalTemperature &&
+      polish() != SatPolish::deciding) {
+    return onExactLine([&] { return stateFromT(T, second, value); });
+  }
   raiseWithoutState(status);
+}
+
+// Between the phases of the equation, next to the critical point, where the scaling law has none.
+Phases SteamModel::onExactLine(const auto& call) {
+  struct Deciding {
+    explicit Deciding(int& flag) : flag_(flag), kept_(flag) { flag_ = 2; }
+    ~Deciding() { flag_ = kept_; }
+    Deciding(const Deciding&) = delete;
+    Deciding& operator=(const Deciding&) = delete;
+    int& flag_;
+    int kept_;
+  };
+  const Deciding deciding(satPolish_);
+  return call();
 }
 
 Phases SteamModel::storeMixture(Property property, const Bracket& line, double value) {

@@ -16,7 +16,7 @@ using constants::criticalPressure;
 using constants::criticalTemperature;
 
 // Where the equilibrium ends and the straight rest of the line begins, K.
-constexpr double lastEquilibrium = criticalTemperature - 1e-4;
+constexpr double lastEquilibrium = criticalTemperature - 1e-6;
 
 // Starting points where the density correlations, made for another critical temperature, are of no
 // use: densities of the equilibrium, rounded. The equation has two liquids around 646.686 K, where

@@ -160,12 +160,11 @@ std::optional<Start> SteamModel::search(const Request& request) {
           roots::density(value, T, request.side == Side::liquid ? Side::vapour : Side::liquid);
     }
   } else if (!isDensity) {
-    const bool dense = request.start.density > phasesMeet;
     const double light = thinnest;
     const double heavy = request.side == Side::vapour ? request.saturated : densestAt(T);
     if (request.side == Side::liquid) {
       density = roots::density(T, propertyOf(equation), value, request.saturated, heavy);
-    } else if (request.side == Side::vapour || dense) {
+    } else if (request.side == Side::vapour) {
       density = roots::density(T, propertyOf(equation), value, heavy, light);
     } else {
       density = roots::density(T, propertyOf(equation), value, light, heavy);
@@ -208,12 +207,17 @@ std::optional<Start> SteamModel::findState(const Request& request, int& status) 
   return std::nullopt;
 }
 
-// On its way from the line the property of a liquid has to fall to the value, which lies below that
-// of saturated liquid; where it rises, it has fallen before.
+// On its way from the line, above the critical temperature from the thin gas, a property has to
+// fall to the value, which lies below that of saturated liquid, of the ideal gas; where it rises,
+// it has fallen before.
 bool SteamModel::isNearest(const Request& request, Start found) {
-  if (!request.fromT() || request.saturated == 0.0 || request.side != Side::liquid) return true;
-  if (request.second.equation == Equation::density) return true;
   const double T = found.temperature;
+  const bool falls = T >= criticalTemperature || request.side == Side::liquid;
+  const auto equation = request.second.equation;
+  if (!request.fromT() || !falls || equation == Equation::density ||
+      equation == Equation::pressure) {
+    return true;
+  }
   const HelmholtzPoint point(temperaturePart(T, TemperaturePart::Order::curvature), found.density);
   return slopesOf(request.second.equation, point, T, 0.001 * found.density).density < 0.0;
 }

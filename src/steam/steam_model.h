@@ -164,6 +164,7 @@ class SteamModel final : private ZvSolverCallBack {
   /// Whether no other state that meets the request lies between the line and this one.
   [[nodiscard]] bool isNearest(const Request& request, Start found);
   void noteOtherState(const Request& request, Start found);
+  Phases onExactLine(const auto& call);
 
   [[nodiscard]] double densityAt(double P, double T, double start, Side side);
   [[nodiscard]] int solveEquilibrium(Target third, double T);

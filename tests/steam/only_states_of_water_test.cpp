@@ -327,6 +327,23 @@ TEST_F(OnlyStatesOfWater, HaveAQualityWhereTheLiquidIsMostCompressible) {
   }
 }
 
+TEST_F(OnlyStatesOfWater, AreFoundNextToTheCriticalPointOnEveryLine) {
+  // Inside of the equation's own dome, where the scaling law has no two phases.
+  for (const int polish : {0, 1, 2}) {
+    steam.setSatPolish(polish);
+    EXPECT_NO_THROW(steam.stateFromP(22.05277468, Property::entropy, 4.475485207)) << polish;
+    EXPECT_NO_THROW(steam.stateFromP(21.941, Property::enthalpy, 2024.0)) << polish;
+    EXPECT_NO_THROW(steam.stateFromT(647.1219931, Property::density, 295.6308466)) << polish;
+    EXPECT_EQ(steam.satPolish(), polish);
+  }
+}
+
+TEST_F(OnlyStatesOfWater, AboveTheCriticalTemperatureAreThoseOfTheLowerPressure) {
+  // At 660 K the enthalpy falls with pressure and rises again: 30.85 MPa and 545 MPa have 1900.
+  steam.stateFromT(660.0, Property::enthalpy, 1900.0);
+  EXPECT_NEAR(steam.property(Property::pressure), 30.849, 0.001);
+}
+
 // Cases that were answered by what is not water, or refused.
 struct Case {
   bool fromT;

@@ -75,6 +75,11 @@ bool mayBeAnother(const Truth& truth, bool fromT, Property second, const SteamSt
 void invert(SteamModel& steam, const Truth& truth, bool fromT, Property second, Tally& tally) {
   const double value = evaluate(second, truth.T, truth.density);
   if (value < 0.0) return;  // no member takes a negative input
+  // Below the triple point a temperature's energies and entropy are a vapour's or none.
+  if (fromT && truth.T < constants::triplePointTemperature && second != Property::density &&
+      truth.density > constants::criticalDensity) {
+    return;
+  }
   const auto fail = [&](const std::string& what) {
     if (++tally.failed <= 5) {
       tally.examples += fmt::format("  P {:.9g} T {:.9g} density {:.9g} value {:.9g}: {}\n",
