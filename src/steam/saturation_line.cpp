@@ -125,16 +125,14 @@ double SteamModel::mixture(Property property, LinePoint line, double Q, double v
   const bool isDensity = property == Property::density;
   // Where both phases are known for nothing, none is left out.
   const double tolerance = polish() == SatPolish::deciding ? 0.0 : qualityTolerance;
-  if (Q <= tolerance) Q = 0.0;
-  if (Q >= 1.0 - tolerance) Q = 1.0;
   double vapour = isDensity ? vapourStart : 0.0;
   double liquid = isDensity ? liquidStart : 0.0;
-  if (Q > 0.0) {
+  if (Q > tolerance) {
     const double density = densityOfVapour(line, vapourFrom);
     vapour = propertyAt(property, line.T, density);
     store({line.T, density}, state_.quality);
   }
-  if (Q < 1.0) {
+  if (Q < 1.0 - tolerance) {
     const double density = densityOfLiquid(line, liquidFrom);
     liquid = propertyAt(property, line.T, density);
     store({line.T, density}, state_.quality);
