@@ -32,7 +32,8 @@ struct Lists {
       words.emplace_back(row(UnitGroup(group)).keywords.front());
     }
     // Only words without blanks: a shell splits its lists there.
-    std::erase_if(words, [](const std::string& word) { return word.find(' ') != std::string::npos; });
+    std::erase_if(words,
+                  [](const std::string& word) { return word.find(' ') != std::string::npos; });
     groups = joined(words);
   }
 

@@ -6,9 +6,9 @@
 /// density falls from 366.4 to 355.1 kg/m3, its pressure goes on without a jump.
 ///
 /// The equation's own critical point lies at 647.12645 K, 22.05401 MPa and 297 kg/m3, next to the
-/// critical constants of the formulation, 647.126 K and 22.055 MPa. Up to a millionth of a kelvin below the latter
-/// the line is the equilibrium; from there it runs straight to the critical point, so that it
-/// covers both ranges and rises strictly.
+/// critical constants of the formulation, 647.126 K and 22.055 MPa. Up to a millionth of a kelvin
+/// below the latter the line is the equilibrium; from there it runs straight to the critical point,
+/// so that it covers both ranges and rises strictly.
 #pragma once
 
 namespace calvex {
