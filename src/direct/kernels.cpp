@@ -52,6 +52,8 @@ namespace saturation {
 //
 #include "direct/lookup-inl.h"
 //
+#include "direct/pairs-inl.h"
+//
 #include "direct/kernels-inl.h"
 
 Kernels lanesHere() { return kernelsOf<Lanes>(hwy::TargetName(HWY_TARGET)); }
