@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <map>
-#include <string_view>
+#include <string>
 
 #include "support/checkout.h"
 
@@ -11,7 +11,7 @@ namespace calvex {
 namespace {
 
 TEST(Messages, TextsAreLetterByLetter) {
-  const std::map<int, std::string_view> texts = {
+  const std::map<int, std::string> texts = {
       {1, test::projectVersion()},
       {3, "Type mismatch in %s parameter."},
       {4, "Array dimension mismatch in %s parameter."},
