@@ -3,6 +3,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -53,7 +54,14 @@ class OnATerminal : public testing::Test {
     _exit(127);
   }
 
+  /// Keys typed at a prompt. The editor takes the terminal over only after its prompt is out: until
+  /// then a Ctrl-D would be the terminal's.
   void type(const std::string& keys) {
+    termios line{};
+    for (int waited = 0; waited < 2000; ++waited) {
+      if (tcgetattr(terminal_, &line) != 0 || (line.c_lflag & ICANON) == 0U) break;
+      usleep(1000);
+    }
     ASSERT_EQ(write(terminal_, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
   }
 
@@ -84,7 +92,10 @@ class OnATerminal : public testing::Test {
     while (readSome()) {
     }
     int status = 0;
-    waitpid(child_, &status, 0);
+    for (int waited = 0; waitpid(child_, &status, WNOHANG) == 0; ++waited) {
+      if (waited == 2000) kill(child_, SIGKILL);
+      usleep(1000);
+    }
     close(terminal_);
     child_ = 0;
     seen_ = 0;
