@@ -140,6 +140,11 @@ const Implausible implausible[] = {
      {"Steam enthalpy 300 kJ/kg is not above 439.383 kJ/kg, that of the water in the outlet: such "
       "steam does not heat the feed water.",
       "Feed water flow -13.4343 kg/s is below 0 kg/s: no stream runs backwards."}},
+    {"DeAerator",  // with a vent of saturated vapour: (0.1 x 2683.28 + 439.383) / 1.1 = 643.4 kJ/kg
+     {0.12, 600.0, 320.0, 10.0, 0.1},
+     {"Steam enthalpy 600 kJ/kg is not above 643.373 kJ/kg, that of the water in the outlet: such "
+      "steam does not heat the feed water.",
+      "Feed water flow -1.18168 kg/s is below 0 kg/s: no stream runs backwards."}},
     {"TurbineB3",
      {3213.0, 4.0, 1.0, 0.5, 0.3, 0.8, 0.8, 0.8, 100.0, 10.0, 10.0},
      {"Power of the extractions 6774.38 kW is above 100 kW, the given power: nothing is left for "
