@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 
+#include "diagnostics/diagnostics.h"
 #include "diagnostics/thermo_exception.h"
 
 namespace calvex {
@@ -33,6 +35,21 @@ TEST(SolverStatus, EveryOtherStatusHasItsMessage) {
   }
   EXPECT_EQ(raised(9), "Unknown solver return code.");
   EXPECT_EQ(raised(ZvSolver::notASolution), "Solution Error.");
+}
+
+// Residuals that the solve does not have are written as 0, whatever lies behind those it has.
+TEST(SolverNote, HasTheResidualsOfTheSolveInTheirOrder) {
+  constexpr std::array<double, 3> f{1.25e-9, -2.5e-8, 5e-7};
+  const auto note = [&](int m) {
+    Diagnostics diagnostics;
+    diagnostics.setLevel(2);
+    const ZvFuncTrace call(diagnostics, "TPH");
+    ZvSolver::note(diagnostics, 17, m, f.data());
+    return std::string(diagnostics.root().firstChild()->firstChild()->text());
+  };
+  EXPECT_EQ(note(1), "Solver : Iter = 17, f() =   1.25e-09,   0.00e+00,   0.00e+00.");
+  EXPECT_EQ(note(2), "Solver : Iter = 17, f() =   1.25e-09,  -2.50e-08,   0.00e+00.");
+  EXPECT_EQ(note(3), "Solver : Iter = 17, f() =   1.25e-09,  -2.50e-08,   5.00e-07.");
 }
 
 }  // namespace
