@@ -137,7 +137,10 @@ double SteamModel::mixture(Property property, LinePoint line, double Q, double v
     liquid = propertyAt(property, line.T, density);
     store({line.T, density}, state_.quality);
   }
-  return isDensity ? 1.0 / ((1.0 - Q) / liquid + Q / vapour) : (1.0 - Q) * liquid + Q * vapour;
+  // The line's ends have the phases' own values, to the last bit: from them a state of one phase is
+  // found again.
+  const bool addsVolumes = isDensity && Q > 0.0 && Q < 1.0;
+  return addsVolumes ? 1.0 / ((1.0 - Q) / liquid + Q / vapour) : (1.0 - Q) * liquid + Q * vapour;
 }
 
 double SteamModel::saturatedTQ(Property property, double T, double Q) {

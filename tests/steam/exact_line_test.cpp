@@ -119,7 +119,8 @@ TEST_F(DecidingLine, GivesOneDensityFromTemperatureAndFromPressure) {
 
 TEST_F(DecidingLine, DecidesThePhaseOfPressureAndTemperature) {
   // The correlation has 0.09 % too little at 100 °C: 0.101325 MPa is above the line's 0.1013...
-  for (const double T : {280.0, 373.14, 450.0, 600.0, 645.0, 646.9, 647.1}) {
+  for (const double T :
+       {triplePointTemperature, 280.0, 373.14, 450.0, 600.0, 645.0, 646.9, 647.1}) {
     const double Ps = steam.PSatT(T);
     SCOPED_TRACE(fmt::format("{} K", T));
     EXPECT_EQ(steam.stateFromPT(Ps * (1.0 + 0.9e-4), T), Phases::two);
@@ -130,6 +131,24 @@ TEST_F(DecidingLine, DecidesThePhaseOfPressureAndTemperature) {
     const double vapour = steam.state().density;
     EXPECT_GE(liquid, equilibriumAtT(T).liquidDensity);
     EXPECT_LE(vapour, equilibriumAtT(T).vapourDensity);
+  }
+}
+
+// Its ends are liquid and vapour, of which the properties of one phase are defined.
+TEST_F(DecidingLine, BelongsToOnePhaseAtItsEnds) {
+  for (const double P : {0.001, 0.1, 1.0, 10.0, 20.0}) {
+    for (const double Q : {0.0, 1.0}) {
+      for (const Property second : {Property::density, Property::enthalpy, Property::entropy}) {
+        SCOPED_TRACE(fmt::format("{} MPa, quality {}, property {}", P, Q, int(second)));
+        const double value = steam.saturatedPQ(second, P, Q);
+        EXPECT_EQ(steam.stateFromP(P, second, value), Phases::one);
+        EXPECT_EQ(steam.state().quality, Q);
+        const double T = steam.TSatP(P);
+        const double valueAtT = steam.saturatedTQ(second, T, Q);
+        EXPECT_EQ(steam.stateFromT(T, second, valueAtT), Phases::one);
+        EXPECT_EQ(steam.state().quality, Q);
+      }
+    }
   }
 }
 
