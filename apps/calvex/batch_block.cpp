@@ -133,10 +133,12 @@ void BlockWorker::compute(const BatchPlan::Call& call) {
   }
   const MemberRequest request{
       call.member, inputs, outputs, {}, [&](std::size_t row, std::string_view reason) {
-        notes_.push_back({row, call.columns,
-                          reason.empty()
-                              ? fmt::format("{} gave no reason", call.member.member().name)
-                              : toUtf8(reason)});
+        const std::string cause = toUtf8(client_.engine().diagnostics().cause());
+        notes_.push_back(
+            {row, call.columns,
+             reason.empty()
+                 ? fmt::format("{} gave no reason", call.member.member().name)
+                 : fmt::format("{}{}{}", toUtf8(reason), cause.empty() ? "" : " ", cause)});
       }};
   // Rows that lack an input have their reason already.
   const auto ready = [&](std::size_t row) {

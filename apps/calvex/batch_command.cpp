@@ -92,7 +92,8 @@ ExitStatus batchCommand(const Words& words, Console& console) {
       ->type_name("comma|semicolon|tab");
   app.add_flag("--decimal-comma", request.decimalComma, "Numbers in cells are such as 3,5");
   app.add_option("--why", request.why, "Name of the column for reasons (why)")->type_name("NAME");
-  app.add_option("--threads", threads, "Threads (one for each core)")->type_name("N");
+  app.add_option("--threads", threads, "Threads, up to 1024; 0, the default, is one for each core")
+      ->type_name("N");
   const std::optional<Words> rest = parseAround(app, words, console);
   if (!rest) return ExitStatus::ok;
   if (rest->empty()) {
@@ -108,7 +109,8 @@ ExitStatus batchCommand(const Words& words, Console& console) {
                                  inQuotes(rest->front())));
   }
   if (!separator.empty()) request.separator = separatorNamed(separator);
-  request.threads = static_cast<unsigned>(parseWholeNumber(threads, 0, 1024));
+  request.threads = static_cast<unsigned>(
+      optionValue("--threads", [&] { return parseWholeNumber(threads, 0, 1024); }));
 
   const BatchOutcome outcome = run(rest->front(), output, request, console);
   if (outcome.rowsWithReason == 0) return ExitStatus::ok;

@@ -4,22 +4,26 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include "encoding.h"
 #include "failure.h"
 #include "numbers.h"
+#include "quantities.h"
 #include "server/member_explanations.h"
 #include "suggestions.h"
+#include "units/unit_words.h"
 
 namespace calvex::cli {
 
 namespace {
 
-Value parseValue(std::string_view word, ValueType type) {
-  switch (type) {
+Value parseValue(std::string_view word, const Parameter& parameter, const UserUnits& units) {
+  switch (parameter.type) {
     case ValueType::real:
-      return parseNumber(word);
+      return parameter.hasUnit() ? valueWithUnit(word, UnitGroup(parameter.group), units)
+                                 : parseNumber(word);
     case ValueType::shortInteger:
       return static_cast<short>(parseWholeNumber(word, std::numeric_limits<short>::min(),
                                                  std::numeric_limits<short>::max()));
@@ -39,14 +43,65 @@ Value parseValue(std::string_view word, ValueType type) {
 Value parseArgument(const Member& member, const Parameter& parameter, std::string_view word,
                     const UserUnits& units) {
   try {
-    return parseValue(word, parameter.type);
+    return parseValue(word, parameter, units);
   } catch (const UsageError& error) {
     if (member.isProperty) {
-      throw UsageError(fmt::format("{}: {}", member.name, error.what()));
+      const auto limits = parameterExplanation(member, parameter).limits;
+      throw UsageError(
+          fmt::format("{}: {}{}", member.name, error.what(),
+                      limits ? fmt::format("; it takes {}", limitsText(*limits, parameter, units))
+                             : std::string()));
     }
     throw UsageError(fmt::format("{} of {}: {}; {} takes {}", parameter.name, member.name,
                                  error.what(), member.name, describeInputs(member, units)));
   }
+}
+
+// The name in NAME=VALUE, where a parameter may be called so.
+std::string_view assignedName(std::string_view word) {
+  const std::size_t sign = word.find('=');
+  return sign == std::string_view::npos ? std::string_view() : word.substr(0, sign);
+}
+
+// The words for the wanted parameters in their order. NAME=VALUE is understood where all words are
+// such: P=10 T=500, temperature=500 pressure=10.
+std::vector<std::string> inOrder(const Member& member, const std::vector<const Parameter*>& wanted,
+                                 std::span<const std::string> words, const UserUnits& units) {
+  const auto named = [](const Parameter& parameter, std::string_view name) {
+    return lowerCase(parameter.name) == lowerCase(name) ||
+           (parameter.name.size() == 1 && findLetterNamed(name) == parameter.name.front());
+  };
+  std::vector<std::string> ordered(words.begin(), words.end());
+  std::vector<bool> taken(wanted.size());
+  std::size_t count = 0;
+  for (const std::string& word : words) {
+    const std::string_view name = assignedName(word);
+    if (name.empty()) continue;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+      if (taken[i] || !named(*wanted[i], name)) continue;
+      taken[i] = true;
+      ordered[i] = word.substr(name.size() + 1);
+      ++count;
+      break;
+    }
+  }
+  if (count == 0) return {words.begin(), words.end()};
+  if (count == words.size() && count == wanted.size()) return ordered;
+  throw UsageError(fmt::format("{} takes {}; name each of them once, as in {}=..., or none",
+                               member.name, describeInputs(member, units), wanted.front()->name));
+}
+
+// Of too many words some may be units: a unit belongs to its number.
+std::string unitAdvice(const std::vector<const Parameter*>& wanted,
+                       std::span<const std::string> words) {
+  for (const std::string& word : words) {
+    for (const Parameter* parameter : wanted) {
+      if (!parameter->hasUnit()) continue;
+      if (findUnitWord(UnitGroup(parameter->group), word).unit == nullptr) continue;
+      return fmt::format("\na unit stands right behind its number, as in 10{}", word);
+    }
+  }
+  return {};
 }
 
 const ZvFunctionCall* newestEntry(const Diagnostics& diagnostics) {
@@ -64,24 +119,59 @@ const ZvFunctionCall* entryLeft(const Diagnostics& diagnostics,
   return newest == newestBefore ? nullptr : newest;
 }
 
-void collectWarnings(const ZvFunctionCall& node, std::vector<std::string>& warnings) {
+// The range that a warning of the strictly valid one leaves unsaid; `node` is the call warned of.
+std::string strictRange(const ZvFunctionCall& node, std::string_view warning,
+                        const UserUnits& units) {
+  if (!warning.ends_with(messageText(Message::outOfStrictRange).substr(2))) return {};
+  const auto shown = [&](UnitGroup group, double value) {
+    return fmt::format("{} {}", readableText(units.toUser(group, value), 6),
+                       currentUnit(units, static_cast<int>(group)));
+  };
+  const auto T = [&](double value) { return shown(UnitGroup::temperature, value); };
+  const auto P = [&](double value) { return shown(UnitGroup::pressure, value); };
+  const RangeLimits limits;
+  if (warning.find("emperature") != std::string_view::npos) {
+    return fmt::format(" Strictly valid: {} to {}.", T(limits.TStrictMin), T(limits.TStrictMax));
+  }
+  if (node.text() == "MPT") return fmt::format(" Strictly valid: up to {}.", P(100.0));
+  return fmt::format(" Strictly valid: up to {} at {}, rising to {} from {} on.", P(500.0),
+                     T(limits.TStrictMin), P(1500.0), T(423.15));
+}
+
+void collectWarnings(const ZvFunctionCall& node, const UserUnits& units,
+                     std::vector<std::string>& warnings) {
   for (const auto* child = node.firstChild(); child != nullptr; child = child->nextSibling()) {
     if (child->kind() == ZvFunctionCall::Kind::warning) {
       std::string text = toUtf8(child->text());
+      text += strictRange(node, text, units);
       if (std::ranges::find(warnings, text) == warnings.end()) warnings.push_back(std::move(text));
     }
-    collectWarnings(*child, warnings);
+    collectWarnings(*child, units, warnings);
   }
 }
 
-bool hasZeroPressure(const Call& call) {
-  const std::span<const Parameter> parameters = call.member->parameters();
-  for (std::size_t i = 0; i < parameters.size(); ++i) {
-    const auto* const value = std::get_if<double>(&call.arguments[i]);
-    const bool isPressure = parameters[i].group == static_cast<short>(UnitGroup::pressure);
-    if (parameters[i].isInput() && isPressure && value != nullptr && *value == 0.0) return true;
+// Why a member refuses that leaves no word of it.
+std::string silentReason(const Call& call) {
+  if (call.member->name == "SetCustomUserUnitIndex") {
+    return fmt::format("custom units need AppLevel 3 and a group number 0 to {}",
+                       unitGroupCount - 1);
   }
-  return false;
+  if (!call.isPut || call.member->name != "AppLevel") return {};
+  const short level = std::get<short>(call.arguments.front());
+  return level == 1 ? "there is no units server here"
+                    : fmt::format(
+                          "{} is not 0 or 2 (units of the catalogue), 1 (a units server) or "
+                          "3 (units of one's own)",
+                          level);
+}
+
+// What the user of a setting's new value should know.
+std::string settingNotice(const Member& member, const Value& value) {
+  if (member.name != "SatPolish") return {};
+  const int polish = std::get<int>(value);
+  if (polish >= 0 && polish <= 2) return {};
+  return fmt::format("SatPolish {} does what 1 does; 0, 1 and 2 are the values that differ",
+                     polish);
 }
 
 // The messages of the spreadsheet members' tokens.
@@ -91,13 +181,27 @@ bool isTokenError(std::string_view text) {
 
 }  // namespace
 
+std::string limitsText(const Limits& limits, const Parameter& parameter, const UserUnits& units) {
+  const auto shown = [&](double value) {
+    constexpr int digits = 7;
+    return readableText(
+        parameter.hasUnit() ? units.toUser(UnitGroup(parameter.group), value) : value, digits);
+  };
+  const std::string low =
+      fmt::format("{} {}", limits.aboveLow ? "above" : "at least", shown(limits.low));
+  if (std::isinf(limits.high)) return low;
+  if (limits.belowHigh) return fmt::format("{}, below {}", low, shown(limits.high));
+  return fmt::format("{}{} to {}", limits.aboveLow ? "above " : "", shown(limits.low),
+                     shown(limits.high));
+}
+
 const Member& memberNamed(std::string_view name) {
   if (const Member* member = findMember(name)) return *member;
   std::vector<std::string> names;
   for (const Member& member : memberTable()) names.emplace_back(member.name);
   const std::string suggestion = didYouMean(name, names);
   throw UsageError(fmt::format("there is no member {}{}", inQuotes(name),
-                               suggestion.empty() ? "; calvex members lists them" : suggestion));
+                               suggestion.empty() ? "; 'calvex members' lists them" : suggestion));
 }
 
 std::vector<const Parameter*> inputs(const Member& member) {
@@ -153,23 +257,27 @@ Call prepare(const Member& member, std::span<const std::string> words, const Use
   }
   std::vector<const Parameter*> wanted = inputs(member);
   if (call.isPut) wanted = {&member.parameters().front()};
+  const std::vector<std::string> ordered =
+      member.isProperty ? std::vector<std::string>(words.begin(), words.end())
+                        : inOrder(member, wanted, words, units);
   if (words.size() != wanted.size()) {
     const std::size_t count = wanted.size();
-    throw UsageError(
-        fmt::format("{} takes {}{}{}, but {} given", member.name,
-                    count == 0   ? "no arguments"
-                    : count == 1 ? member.isProperty ? "one new value" : "one argument"
-                                 : fmt::format("{} arguments", count),
-                    count == 0 || member.isProperty ? "" : ": ",
-                    member.isProperty ? "" : describeInputs(member, units),
-                    words.size() == 1 ? "1 was" : fmt::format("{} were", words.size())));
+    throw UsageError(fmt::format("{} takes {}{}{}, but {} given{}", member.name,
+                                 count == 0   ? "no arguments"
+                                 : count == 1 ? member.isProperty ? "one new value" : "one argument"
+                                              : fmt::format("{} arguments", count),
+                                 count == 0 || member.isProperty ? "" : ": ",
+                                 member.isProperty ? "" : describeInputs(member, units),
+                                 words.size() == 1 ? "1 was" : fmt::format("{} were", words.size()),
+                                 words.size() > count ? unitAdvice(wanted, words) : ""));
   }
   call.arguments.resize(member.parameters().size());
-  for (std::size_t i = 0; i < words.size(); ++i) {
+  for (std::size_t i = 0; i < ordered.size(); ++i) {
     const auto place = static_cast<std::size_t>(wanted[i] - member.parameters().data());
-    call.arguments[place] = parseArgument(member, *wanted[i], words[i], units);
+    call.arguments[place] = parseArgument(member, *wanted[i], ordered[i], units);
   }
   call.choice = nameUnits(member, call.arguments);
+  if (call.isPut) call.choice.warning = settingNotice(member, call.arguments.front());
   return call;
 }
 
@@ -187,7 +295,7 @@ Outcome perform(Client& client, Call call) {
         outcome.tracing && entry != nullptr && entry->contains(ZvFunctionCall::Kind::error);
     if (outcome.reasonRecorded) outcome.cause = toUtf8(diagnostics.cause());
   }
-  if (entry != nullptr) collectWarnings(*entry, outcome.warnings);
+  if (entry != nullptr) collectWarnings(*entry, client.units(), outcome.warnings);
   return outcome;
 }
 
@@ -199,24 +307,17 @@ std::string failureText(const Outcome& outcome) {
         "(FunctionCallTracing 1 turns it on)",
         name);
   }
-  if (!outcome.reasonRecorded) return fmt::format("{} failed and gave no reason", name);
+  if (!outcome.reasonRecorded) {
+    const std::string reason = silentReason(outcome.call);
+    return reason.empty() ? fmt::format("{} failed and gave no reason", name)
+                          : fmt::format("{} failed: {}", name, reason);
+  }
   return fmt::format("{} failed: {}", name, outcome.lastError);
 }
 
 std::string hint(const Outcome& outcome) {
   const Call& call = outcome.call;
-  if (call.member->name == "SetCustomUserUnitIndex") {
-    return fmt::format("custom units need AppLevel 3 and a group number 0 to {}",
-                       unitGroupCount - 1);
-  }
-  if (call.isPut && call.member->name == "AppLevel") {
-    return std::get<short>(call.arguments.front()) == 1 ? "there is no units server"
-                                                        : "AppLevel takes 0 to 3";
-  }
-  if (outcome.reasonRecorded && outcome.lastError == messageText(Message::solutionError) &&
-      hasZeroPressure(call)) {
-    return "the pressure must be above zero";
-  }
+  if (!outcome.reasonRecorded && !silentReason(call).empty()) return {};
   if (outcome.reasonRecorded && isTokenError(outcome.lastError)) {
     std::vector<std::string_view> names;
     for (const spreadsheet::Token& token : tokensOf(*call.member)) names.push_back(token.text);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "client.h"
+#include "server/member_explanations.h"
 #include "unit_calls.h"
 
 namespace calvex::cli {
@@ -17,7 +18,7 @@ struct Call {
   const Member* member;
   bool isPut;
   std::vector<Value> arguments;  ///< one for each parameter
-  UnitChoice choice = {};        ///< of a member that takes units
+  UnitChoice choice = {};        ///< of a member that takes units; the warning also of a setting
 };
 
 /// What a call answered.
@@ -50,8 +51,13 @@ struct Outcome {
 /// "P (Pressure, MPa), T (Temperature, K)".
 [[nodiscard]] std::string describeInputs(const Member& member, const UserUnits& units);
 
-/// A setting takes no word (get) or one (put), every other member one word for each input. Throws
-/// UsageError saying what was expected.
+/// "above 0 to 3000", in the client's unit.
+[[nodiscard]] std::string limitsText(const Limits& limits, const Parameter& parameter,
+                                     const UserUnits& units);
+
+/// A setting takes no word (get) or one (put), every other member one word for each input:
+/// in order, or each as NAME=VALUE. A unit may stand behind a number. Throws UsageError saying what
+/// was expected.
 [[nodiscard]] Call prepare(const Member& member, std::span<const std::string> words,
                            const UserUnits& units);
 

@@ -36,9 +36,11 @@ Assignment split(const std::string& text, std::string_view form) {
 void runOrFail(Client& client, Call call) {
   const Outcome outcome = perform(client, std::move(call));
   if (outcome.succeeded()) return;
-  const std::string help = hint(outcome);
-  throw Failure(ExitStatus::callFailed,
-                fmt::format("{}{}{}", failureText(outcome), help.empty() ? "" : "\n", help));
+  std::string text = failureText(outcome);
+  for (const std::string& more : {outcome.cause, hint(outcome)}) {
+    if (!more.empty()) text += '\n' + more;
+  }
+  throw Failure(ExitStatus::callFailed, text);
 }
 
 }  // namespace
@@ -152,6 +154,18 @@ const ZvUomLiteKeyword& findUnit(UnitGroup group, std::string_view unit) {
 std::string unitWarning(UnitGroup group, std::string_view unit) {
   const std::string_view notice = findUnitWord(group, unit).notice;
   return notice.empty() ? std::string() : fmt::format("{}: {}", unit, notice);
+}
+
+std::string settingWarning(const std::string& choice) {
+  const std::size_t sign = choice.find('=');
+  const Member* member = findMember(choice.substr(0, sign));
+  if (sign == std::string::npos || member == nullptr || member->put == nullptr) return {};
+  const std::string words[] = {choice.substr(sign + 1)};
+  try {
+    return prepare(*member, words, UserUnits()).choice.warning;
+  } catch (const UsageError&) {
+    return {};  // applyTo refuses it
+  }
 }
 
 std::string unitWarning(const std::string& choice) {

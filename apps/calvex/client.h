@@ -75,6 +75,8 @@ struct ClientOptions {
 [[nodiscard]] std::string unitWarning(UnitGroup group, std::string_view unit);
 /// The same for GROUP=UNIT; empty also when that is no choice of a unit.
 [[nodiscard]] std::string unitWarning(const std::string& choice);
+/// The same of SETTING=VALUE.
+[[nodiscard]] std::string settingWarning(const std::string& choice);
 
 [[nodiscard]] const UnitGroupRow& row(UnitGroup group);
 /// The unit that the client uses for a group, in UTF-8; empty for group -1.

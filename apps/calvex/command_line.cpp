@@ -74,6 +74,19 @@ std::string generalHelp() {
   return text;
 }
 
+// Throws UsageError with the nearest names of members and commands.
+void requireMember(const std::string& name) {
+  if (findMember(name) != nullptr) return;
+  Words names;
+  for (const Command& command : commands) names.emplace_back(command.name);
+  for (const Member& member : memberTable()) names.emplace_back(member.name);
+  const std::string suggestion = didYouMean(name, names);
+  throw UsageError(fmt::format(
+      "there is no member or command {}{}", inQuotes(name),
+      suggestion.empty() ? "\n'calvex members' lists the members, 'calvex --help' the commands"
+                         : suggestion));
+}
+
 ExitStatus helpCommand(const Words& words, Console& console) {
   if (words.empty() || words.front().starts_with('-')) {
     console.out << generalHelp();
@@ -87,6 +100,7 @@ ExitStatus helpCommand(const Words& words, Console& console) {
     return command->run({"--help"}, console);
   }
   Words about = words;
+  requireMember(words.front());
   about.front() = memberNamed(words.front()).name;
   return membersCommand(about, console);
 }
@@ -126,16 +140,7 @@ ExitStatus dispatch(Words words, Console& console) {
     words.erase(words.begin());
     return command->run(words, console);
   }
-  if (findMember(words.front()) == nullptr) {
-    Words names;
-    for (const Member& member : memberTable()) names.emplace_back(member.name);
-    for (const Command& command : commands) names.emplace_back(command.name);
-    const std::string suggestion = didYouMean(words.front(), names);
-    throw UsageError(fmt::format(
-        "there is no member or command {}{}", inQuotes(words.front()),
-        suggestion.empty() ? "\n'calvex members' lists the members, 'calvex --help' the commands"
-                           : suggestion));
-  }
+  requireMember(words.front());
   return callCommand(words, console);
 }
 

@@ -109,6 +109,9 @@ bool parse(CommandOptions& options, const Words& words, Console& console) {
   if (units != nullptr) {
     for (const std::string& choice : units->results()) warn(console, unitWarning(choice));
   }
+  if (const CLI::Option* const settings = app.get_option_no_throw("--set")) {
+    for (const std::string& choice : settings->results()) warn(console, settingWarning(choice));
+  }
   return true;
 }
 

@@ -152,7 +152,7 @@ ExitStatus completionCommand(const Words& words, Console& console) {
       "  eval \"$(calvex completion zsh)\"        in ~/.zshrc\n"
       "  calvex completion fish | source        in config.fish");
   std::string shell;
-  app.add_option("SHELL", shell, "bash, zsh or fish")->type_name("")->required();
+  app.add_option("SHELL", shell, "bash, zsh or fish")->type_name("");
   if (!parse(app, words, console)) return ExitStatus::ok;
   if (shell == "bash") {
     console.out << filled(bash);
@@ -160,6 +160,8 @@ ExitStatus completionCommand(const Words& words, Console& console) {
     console.out << filled(zsh);
   } else if (shell == "fish") {
     console.out << filled(fish);
+  } else if (shell.empty()) {
+    throw UsageError("for which shell? 'calvex completion bash', zsh or fish");
   } else {
     throw UsageError(fmt::format("there is no completion for {}{}", inQuotes(shell),
                                  "; there is one for bash, zsh and fish"));

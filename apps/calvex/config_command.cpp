@@ -78,7 +78,10 @@ ExitStatus configCommand(const Words& words, Console& console) {
   app.add_flag("--clear", clear, "Forget everything");
   app.takesStartingOptions = false;
   if (!parse(app, words, console)) return ExitStatus::ok;
-  for (const std::string& assignment : assignments) warn(console, unitWarning(assignment));
+  for (const std::string& assignment : assignments) {
+    warn(console, unitWarning(assignment));
+    warn(console, settingWarning(assignment));
+  }
   assignments.insert(assignments.end(), chosen.units.begin(), chosen.units.end());
   assignments.insert(assignments.end(), chosen.settings.begin(), chosen.settings.end());
   const std::string& path = console.configFile;

@@ -14,20 +14,23 @@ namespace calvex::cli {
 
 namespace {
 
-// The coldest value that a unit of temperature can have is what 0 K is in it. A rounded factor may
-// make it less by as much as -459.67 F, which is -2e-9 K, shows: that is 0 K.
-double notBelowAbsoluteZero(UnitGroup group, const ZvUomLiteKeyword& unit, double value) {
+// The lowest value that a unit of temperature or pressure can have is what 0 K or 0 MPa is in it. A
+// rounded factor may make it less by as much as -459.67 F, which is -2e-9 K, shows: that is 0 K.
+double notBelowNothing(UnitGroup group, const ZvUomLiteKeyword& unit, double value) {
   constexpr double rounding = 1e-8;
-  if (group != UnitGroup::temperature) return value;
-  const ZvUomLiteKeyword& kelvin = findUnit(group, "K");
-  const double zero = convert(kelvin, unit, 0.0);
-  const double coldest = std::fabs(zero) < rounding ? 0.0 : zero;
-  const double kelvins = convert(unit, kelvin, value);
-  if (kelvins >= 0.0) return value;
-  if (kelvins >= -rounding) return coldest;
+  const bool isTemperature = group == UnitGroup::temperature;
+  if (!isTemperature && group != UnitGroup::pressure) return value;
+  const ZvUomLiteKeyword& model = findUnit(group, toUtf8(row(group).internalUnit));
+  const double zero = convert(model, unit, 0.0);
+  const double lowest = std::fabs(zero) < rounding ? 0.0 : zero;
+  const double absolute = convert(unit, model, value);
+  if (absolute >= 0.0) return value;
+  if (absolute >= -rounding) return lowest;
   throw Failure(ExitStatus::callFailed,
-                fmt::format("{0} {1} is below absolute zero; the lowest temperature is {2} {1}",
-                            readableText(value), toUtf8(unit.name), readableText(coldest, 8)));
+                fmt::format("{0} {1} is below {3}; the lowest {4} is {2} {1}", readableText(value),
+                            toUtf8(unit.name), readableText(lowest, 8),
+                            isTemperature ? "absolute zero" : "vacuum",
+                            isTemperature ? "temperature" : "pressure"));
 }
 
 }  // namespace
@@ -61,7 +64,7 @@ ExitStatus convertCommand(const Words& words, Console& console) {
 
   Client client;
   const Words arguments = {keyword, operands[2], operands[3],
-                           shortestText(notBelowAbsoluteZero(group, from, value))};
+                           shortestText(notBelowNothing(group, from, value))};
   const Outcome outcome =
       perform(client, prepare(*findMember("Convert"), arguments, client.units()));
   warn(console, outcome.call.choice.warning);

@@ -4,7 +4,6 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
-#include <cmath>
 
 #include "call.h"
 #include "encoding.h"
@@ -27,17 +26,6 @@ std::string sentence(std::string text) {
     text.front() = static_cast<char>(text.front() - 'a' + 'A');
   }
   return text + ".\n";
-}
-
-std::string limitsText(const Limits& limits, const Parameter& parameter, const UserUnits& units) {
-  const auto shown = [&](double value) {
-    constexpr int digits = 7;
-    return readableText(
-        parameter.hasUnit() ? units.toUser(UnitGroup(parameter.group), value) : value, digits);
-  };
-  if (std::isinf(limits.high)) return fmt::format("at least {}", shown(limits.low));
-  return fmt::format("{}{} to {}", limits.aboveLow ? "above " : "", shown(limits.low),
-                     shown(limits.high));
 }
 
 using Rows = std::vector<std::vector<std::string>>;

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "failure.h"
+
 namespace calvex::cli {
 
 /// What keeps a word from being a number that can be computed with.
@@ -34,5 +36,15 @@ void appendShortest(std::string& text, double value);
 
 /// For people: ten significant digits, more than the formulation deserves.
 [[nodiscard]] std::string readableText(double value, int digits = 10);
+
+/// A number that stands behind an option: what is wrong with it is told with the option's name.
+template <class Read>
+[[nodiscard]] auto optionValue(std::string_view option, Read&& read) {
+  try {
+    return read();
+  } catch (const UsageError& error) {
+    throw UsageError(std::string(option) + ": " + error.what());
+  }
+}
 
 }  // namespace calvex::cli

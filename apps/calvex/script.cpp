@@ -9,6 +9,7 @@
 
 #include "diagnostics/formatting.h"
 #include "encoding.h"
+#include "numbers.h"
 #include "output.h"
 #include "suggestions.h"
 
@@ -112,6 +113,20 @@ std::string_view wordsOf(std::string_view line) {
   }
 }
 
+// A script has members in it, no commands. The member Convert, whose name may be written in small
+// letters, takes its number last, the command convert second.
+void refuseCommand(const ScriptLine& line) {
+  const std::vector<CommandName> names = commandNames();
+  if (std::ranges::find(names, line.words.front(), &CommandName::name) == names.end()) return;
+  const bool isCommand =
+      findMember(line.words.front()) == nullptr ||
+      (line.words.size() == 5 && readNumber(line.words[2]).fault == NumberFault::none);
+  if (!isCommand) return;
+  throw UsageError(fmt::format(
+      "{} is a command, and a script has only members, trace and reset; on its own: calvex {}",
+      line.words.front(), line.source));
+}
+
 }  // namespace
 
 ScriptLine splitLine(std::string_view line) {
@@ -171,6 +186,7 @@ void Interpreter::run(const ScriptLine& line) {
     }
     return;
   }
+  refuseCommand(line);
   const Outcome outcome = perform(client_, prepare(memberNamed(name), arguments, client_.units()));
   if (options_.json) {
     fmt::print(out, "{}\n", outcomeJson(outcome, client_.units()));

@@ -3,7 +3,6 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
-#include <charconv>
 #include <ostream>
 
 #include "call.h"
@@ -14,67 +13,19 @@
 #include "json.h"
 #include "numbers.h"
 #include "output.h"
-#include "suggestions.h"
+#include "quantities.h"
 #include "water.h"
 
 namespace calvex::cli {
 
 namespace {
 
-constexpr std::string_view inputLetters = "PTHSURVQ";
 constexpr std::string_view propertyLetters = "PTVRHSUQAGCDWZMKNEIJBL";
 constexpr std::string_view saturationLetters = "VRHSUC";
 constexpr std::string_view transportLetters = "MKNE";  // their equations have ranges of their own
 
 bool has(std::string_view letters, char letter) {
   return letters.find(letter) != std::string_view::npos;
-}
-
-// Small letters, with a blank for what people put between words.
-std::string plainName(std::string_view name) {
-  std::string plain = lowerCase(name);
-  std::ranges::replace(plain, '-', ' ');
-  std::ranges::replace(plain, '_', ' ');
-  return plain;
-}
-
-// "p", "pressure", "rho", "specific volume"
-char letterNamed(std::string_view name) {
-  const std::string wanted = plainName(name);
-  std::vector<std::string> known;
-  for (const char letter : inputLetters) {
-    const LetterExplanation& row = letterExplanation(letter);
-    known.insert(known.end(), {std::string(1, letter), std::string(row.words)});
-    for (std::string_view rest = row.other; !rest.empty();) {
-      const std::string_view word = rest.substr(0, rest.find(' '));
-      known.emplace_back(word);
-      rest.remove_prefix(std::min(rest.size(), word.size() + 1));
-    }
-    for (const std::string_view keyword : cli::row(row.group).keywords) known.emplace_back(keyword);
-    for (const std::string& one : known) {
-      if (plainName(one) == wanted) return letter;
-    }
-  }
-  throw UsageError(fmt::format(
-      "{} is not a property that determines a state{}\nProperties: P pressure, T temperature, "
-      "H enthalpy, S entropy, U internal energy, R density, V specific volume, Q quality",
-      inQuotes(name), didYouMean(name, known)));
-}
-
-// A number in the client's unit; a unit may stand behind it, as in 500C.
-double valueOf(std::string_view text, char letter, const UserUnits& units) {
-  double number = 0.0;
-  const std::string_view digits = text.substr(text.starts_with('+') ? 1 : 0);
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-  std::string_view unitName(end, static_cast<std::size_t>(digits.data() + digits.size() - end));
-  if (error != std::errc() || unitName.empty()) return parseNumber(text);
-  const char first = unitName.front();
-  if (first == ',' || first == '.' || (first >= '0' && first <= '9')) return parseNumber(text);
-  unitName.remove_prefix(std::min(unitName.size(), unitName.find_first_not_of(' ')));
-  const UnitGroup group = letterExplanation(letter).group;
-  const ZvUomLiteKeyword& unit = findUnit(group, unitName);
-  const ZvUomLiteKeyword& model = findUnit(group, toUtf8(cli::row(group).internalUnit));
-  return units.toUser(group, convert(unit, model, number));
 }
 
 constexpr const char* usageHint = "state takes two properties, as in 'calvex state P=10 T=773.15'";
@@ -96,7 +47,8 @@ std::vector<Given> readInputs(const Words& words, const UserUnits& units) {
   for (std::size_t i = 0; i < pieces.size(); i += 2) {
     const char letter = letterNamed(pieces[i]);
     try {
-      inputs.push_back({letter, valueOf(pieces[i + 1], letter, units)});
+      inputs.push_back(
+          {letter, valueWithUnit(pieces[i + 1], letterExplanation(letter).group, units)});
     } catch (const UsageError& error) {
       throw UsageError(fmt::format("{}: {}", pieces[i], error.what()));
     }
@@ -106,7 +58,7 @@ std::vector<Given> readInputs(const Words& words, const UserUnits& units) {
         fmt::format("{} is given twice; {}", letterExplanation(inputs[0].letter).words, usageHint));
   }
   // P or T first; of both, P.
-  const auto rank = [](const Given& given) { return inputLetters.find(given.letter); };
+  const auto rank = [](const Given& given) { return stateLetters.find(given.letter); };
   std::ranges::sort(inputs, {}, rank);
   if (!has("PT", inputs[0].letter)) {
     throw UsageError(fmt::format(
@@ -223,30 +175,19 @@ StateReport report(Water& water, const std::vector<Given>& inputs) {
   return state;
 }
 
-// The members that were asked are not those that the user typed.
-std::string_view reasonOf(std::string_view failure) {
-  constexpr std::string_view sign = " failed: ";
-  const std::size_t at = failure.find(sign);
-  return at == std::string_view::npos ? failure : failure.substr(at + sign.size());
-}
-
-std::string refusal(const Water& water, const std::vector<Given>& inputs, const char* failure) {
+std::string refusal(const Water& water, const std::vector<Given>& inputs, std::string_view reason) {
   const auto shown = [&](const Given& given) {
     const std::string unit = water.unit(given.letter);
     return fmt::format("{} = {} {}", given.letter, readableText(given.value), unit);
   };
-  const std::string_view reason = reasonOf(failure);
-  std::string text =
-      fmt::format("no state has {} and {}: {}", shown(inputs[0]), shown(inputs[1]), reason);
-  if (reason == messageText(Message::twoPhase)) {
-    text = fmt::format(
+  const std::string_view twoPhase = messageText(Message::twoPhase);
+  if (reason.starts_with(twoPhase)) {
+    return fmt::format(
         "{} and {}: {}\nthey lie on the saturation line: give one of them with a quality, as in "
         "'calvex state P={} Q=0.5'",
-        shown(inputs[0]), shown(inputs[1]), reason, readableText(inputs[0].value));
-  } else if (inputs[0].letter == 'P' && water.toModel('P', inputs[0].value) == 0.0) {
-    text += "\nthe pressure must be above zero";
+        shown(inputs[0]), shown(inputs[1]), twoPhase, readableText(inputs[0].value));
   }
-  return text;
+  return fmt::format("no state has {} and {}: {}", shown(inputs[0]), shown(inputs[1]), reason);
 }
 
 std::string words(char letter) { return std::string(letterExplanation(letter).words); }
@@ -259,7 +200,7 @@ std::string text(const Water& water, const StateReport& state) {
       lines.push_back({std::string(1, line.letter), readableText(*line.value),
                        water.unit(line.letter), words(line.letter)});
     } else {
-      missing += fmt::format("{}: {}\n", words(line.letter), reasonOf(line.failure));
+      missing += fmt::format("{}: {}\n", words(line.letter), line.failure);
     }
   }
   std::string text = fmt::format("{}\n\n{}{}", state.phase, equations(lines), missing);
@@ -311,7 +252,7 @@ std::string json(const Water& water, const StateReport& state) {
   for (const Line& line : state.lines) {
     const std::string key(1, line.letter);
     if (!line.value) {
-      unavailable.add(key, jsonString(reasonOf(line.failure)));
+      unavailable.add(key, jsonString(line.failure));
       continue;
     }
     object.add(key, jsonNumber(*line.value));
@@ -351,7 +292,8 @@ ExitStatus stateCommand(const Words& words, Console& console) {
                      "around it.");
   app.footer(
       "Two properties determine a state: P or T with one of T, H, S, U, R, V and Q. Letters and\n"
-      "words go in any case, with = or a blank; a unit may stand behind a value.\n"
+      "words go in any case, with = or a blank; a unit may stand behind a value. x is another\n"
+      "word for the quality Q here (the X of the member XT is the surface tension).\n"
       "Examples:\n"
       "  calvex state P=10 T=500 -u T=C\n"
       "  calvex state pressure=10 enthalpy=2000\n"

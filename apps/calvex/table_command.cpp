@@ -1,6 +1,7 @@
 // calvex table saturation|isobar|isotherm
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <cmath>
 #include <ostream>
 
@@ -12,6 +13,8 @@
 #include "numbers.h"
 #include "output.h"
 #include "progress.h"
+#include "quantities.h"
+#include "suggestions.h"
 #include "water.h"
 
 namespace calvex::cli {
@@ -316,9 +319,9 @@ ExitStatus tableCommand(const Words& words, Console& console) {
   bool csv = false, json = false;
   ClientOptions options;
   app.add_option("--by", by, "What a saturation table runs over (T)")->type_name("T|P");
-  app.add_option("--from", from, "First value")->required()->type_name("X");
-  app.add_option("--to", to, "Last value")->required()->type_name("X");
-  app.add_option("--step", step, "Difference between lines")->required()->type_name("X");
+  app.add_option("--from", from, "First value")->type_name("X");
+  app.add_option("--to", to, "Last value")->type_name("X");
+  app.add_option("--step", step, "Difference between lines")->type_name("X");
   app.add_flag("--csv", csv, "Comma-separated, with all digits");
   app.add_flag("--json", json, "Print JSON, with all digits");
   options.addUnitsTo(app);
@@ -332,10 +335,24 @@ ExitStatus tableCommand(const Words& words, Console& console) {
     throw UsageError(fmt::format("--by takes T or P, not {}", inQuotes(by)));
   }
   const std::string kind = operands.empty() ? std::string() : operands.front();
+  if (const Words kinds = {"saturation", "isobar", "isotherm"};
+      std::ranges::find(kinds, kind) == kinds.end()) {
+    const std::string given = kind.empty() ? "" : fmt::format(", not {}", inQuotes(kind));
+    throw UsageError(
+        fmt::format("table takes 'saturation', 'isobar PRESSURE' or 'isotherm TEMPERATURE'{}{}\n"
+                    "'calvex help table' explains it",
+                    given, didYouMean(kind, kinds)));
+  }
+  const auto bound = [](const char* option, const std::string& word) {
+    if (word.empty()) {
+      throw UsageError(fmt::format("{} is missing: a table runs --from X --to X --step X", option));
+    }
+    return optionValue(option, [&] { return parseNumber(word); });
+  };
   Table table{Table::Kind::saturation,
               by.front(),
               0.0,
-              {parseNumber(from), parseNumber(to), parseNumber(step)},
+              {bound("--from", from), bound("--to", to), bound("--step", step)},
               csv    ? Format::csv
               : json ? Format::json
                      : Format::text};
@@ -350,14 +367,17 @@ ExitStatus tableCommand(const Words& words, Console& console) {
     }
     table.kind = isobar ? Table::Kind::isobar : Table::Kind::isotherm;
     table.key = isobar ? 'T' : 'P';
-    table.fixed = parseNumber(operands[1]);
-  } else if (kind != "saturation" || operands.size() != 1) {
+  } else if (operands.size() != 1) {
     throw UsageError(
-        "table takes 'saturation', 'isobar PRESSURE' or 'isotherm TEMPERATURE'\n"
-        "'calvex help table' explains it");
+        fmt::format("saturation takes no {}; --by P runs over pressures", inQuotes(operands[1])));
   }
   Client client;
   options.applyTo(client);
+  if (table.ofStates()) {
+    const UnitGroup group = table.key == 'T' ? UnitGroup::pressure : UnitGroup::temperature;
+    table.fixed =
+        optionValue(kind, [&] { return valueWithUnit(operands[1], group, client.units()); });
+  }
   return print(table, client, console);
 }
 

@@ -34,8 +34,9 @@ Answer Water::ask(std::string_view name, const std::vector<Given>& inputs) {
     if (std::ranges::find(warnings_, warning) == warnings_.end()) warnings_.push_back(warning);
   }
   if (!outcome.succeeded()) {
+    if (!outcome.reasonRecorded) return {std::nullopt, failureText(outcome)};
     const std::string_view blank = outcome.cause.empty() ? "" : " ";
-    return {std::nullopt, fmt::format("{}{}{}", failureText(outcome), blank, outcome.cause)};
+    return {std::nullopt, fmt::format("{}{}{}", outcome.lastError, blank, outcome.cause)};
   }
   return {std::get<double>(outcome.call.arguments.front()), {}};
 }

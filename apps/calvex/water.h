@@ -16,7 +16,7 @@ namespace calvex::cli {
 /// A number in the client's unit, or why there is none.
 struct Answer {
   std::optional<double> value;
-  std::string failure;  ///< "HPT failed: ..."
+  std::string failure;  ///< the message, and what is behind it
 };
 
 /// An input of a member by its letter, in the client's unit.

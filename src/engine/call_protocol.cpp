@@ -30,6 +30,10 @@ void ZvThermoInt::ReleaseObject() {
   if (--liveObjects_ == 0) Reset();
 }
 
+std::string ZvThermoInt::inUserUnit(UnitGroup group, double value, int digits) const {
+  return fmt::sprintf("%.*g %s", digits, units_.toUser(group, value), unitName(group));
+}
+
 std::string ZvThermoInt::unitName(UnitGroup group) const {
   std::string name;
   short status = 0;
@@ -69,9 +73,7 @@ void ZvThermoInt::explainRange(std::string_view name, double value, double lower
                                UnitGroup group) {
   const auto shown = [&](double x) { return std::round(units_.toUser(group, x) * 100.0); };
   if (!(shown(value) >= shown(lower) && shown(value) <= shown(upper))) return;
-  const auto text = [&](double x) {
-    return fmt::sprintf("%.10g %s", units_.toUser(group, x), unitName(group));
-  };
+  const auto text = [&](double x) { return inUserUnit(group, x); };
   // The least number above zero stands for a bound that is itself refused.
   const bool open = value < lower && lower == std::numeric_limits<double>::denorm_min();
   diagnostics_.postCause(fmt::sprintf("%s %s is %s %s.", name, text(value),
@@ -83,9 +85,13 @@ void ZvThermoInt::explainRange(std::string_view name, double value, double lower
                                                            : upper)));
 }
 
-bool ZvThermoInt::notNegative(std::string_view name, double value) {
+bool ZvThermoInt::notNegative(std::string_view name, UnitGroup group, double value) {
   if (value >= 0.0) return true;
   diagnostics_.postRangeError(name);
+  if (diagnostics_.tracing()) {
+    diagnostics_.postCause(fmt::sprintf("%s %s is below %s, the least that is accepted.", name,
+                                        inUserUnit(group, value), inUserUnit(group, 0.0)));
+  }
   return false;
 }
 
@@ -111,13 +117,13 @@ bool ZvThermoInt::validPressure(std::string_view name, double& P, double T) {
   return true;
 }
 
-bool ZvThermoInt::fail(Message message) {
-  diagnostics_.postError(message);
-  return false;
+bool ZvThermoInt::fail(Message message, std::string_view cause) {
+  return fail(messageText(message), cause);
 }
 
-bool ZvThermoInt::fail(std::string_view text) {
+bool ZvThermoInt::fail(std::string_view text, std::string_view cause) {
   diagnostics_.postError(text);
+  if (!cause.empty()) diagnostics_.postCause(cause);
   return false;
 }
 

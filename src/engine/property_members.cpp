@@ -2,10 +2,13 @@
 #include "engine/property_members.h"
 
 #include <cmath>
+#include <utility>
 
 #include "diagnostics/formatting.h"
+#include "diagnostics/thermo_exception.h"
 #include "engine/thermo_engine.h"
 #include "steam/constants.h"
+#include "steam/extremes.h"
 #include "steam/saturation_correlations.h"
 #include "steam/transport.h"
 
@@ -49,6 +52,8 @@ constexpr PropertyMember members[] = {
 };
 static_assert(std::size(members) == PropertyMember::count);
 
+bool isHeatCapacity(Letter letter) { return letter == Letter::C || letter == Letter::D; }
+
 }  // namespace
 
 const Quantity& quantity(Letter letter) noexcept {
@@ -67,13 +72,15 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
     double x2 = units_.toInternal(quantity(member.second).group, second);
     if (!validInputs(member, x1, x2)) return false;
 
-    const Phases phases = stateOf(member, x1, x2);
+    const GivenPair given{member.first, x1, member.second, x2};
+    const auto phases = solved(given, [&] { return stateOf(member, x1, x2); });
+    if (!phases) return false;
     if (phases == Phases::two) {
       // There are no two phases below the triple point.
       if (member.first == Letter::T && !validOnLine(Letter::T, x1)) return false;
       switch (member.twoPhases) {
         case PropertyMember::TwoPhases::fails:
-          return fail(Message::twoPhase);
+          return failBetweenPhases(member, given);
         case PropertyMember::TwoPhases::onLine:
           return onLine(member, out, first);
         case PropertyMember::TwoPhases::pressureOfLine:
@@ -89,6 +96,11 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
     }
     const double value = phases == Phases::two ? steam_.mixtureProperty(result.property)
                                                : steam_.property(result.property);
+    // Beyond 880 MPa the equation gives cold water a negative heat capacity at constant volume.
+    if (value <= 0.0 && isHeatCapacity(member.result)) {
+      diagnostics_.postWarning(
+          "The heat capacity is not above zero: the equation has no stable water here.");
+    }
     return result.hasUnit ? give(out, result.group, value) : give(out, value);
   });
 }
@@ -110,8 +122,9 @@ bool ZvThermoInt::validInputs(const PropertyMember& member, double& first, doubl
     return false;
   }
   // This one member spells it with a small letter.
-  if (&member == &members[PropertyMember::QPV]) return notNegative("Specific volume", second);
-  return notNegative(quantity(member.second).name, second);
+  const std::string_view name =
+      &member == &members[PropertyMember::QPV] ? "Specific volume" : quantity(member.second).name;
+  return notNegative(name, quantity(member.second).group, second);
 }
 
 // The ranges of the correlations, MPa and K.
@@ -148,6 +161,84 @@ Phases ZvThermoInt::stateOf(const PropertyMember& member, double first, double s
   const double value = isVolume ? 1.0 / second : second;
   return member.first == Letter::T ? steam_.stateFromT(first, given, value)
                                    : steam_.stateFromP(first, given, value);
+}
+
+// The phases that `solve` finds; where it finds no state, why, and what the inputs have to do with
+// it.
+template <class Solve>
+std::optional<Phases> ZvThermoInt::solved(const GivenPair& given, Solve&& solve) {
+  try {
+    return solve();
+  } catch (const ZvThermoException& failure) {
+    diagnostics_.postError(failure.what());
+    if (diagnostics_.tracing()) explainNoState(given);
+    return std::nullopt;
+  }
+}
+
+// Pressure, density and volume must be above zero; every property ends somewhere at a given
+// pressure or temperature.
+void ZvThermoInt::explainNoState(const GivenPair& given) {
+  const auto shown = [&](Letter letter, double value, int digits = 10) {
+    return inUserUnit(quantity(letter).group, value, digits);
+  };
+  const auto nameOf = [](Letter letter) { return std::string(quantity(letter).name); };
+  for (const auto& [letter, x] : {std::pair(given.first, given.x1), {given.second, given.x2}}) {
+    const bool mayBeZero = letter != Letter::P && letter != Letter::R && letter != Letter::V;
+    if (x != 0.0 || mayBeZero) continue;
+    diagnostics_.postCause(
+        fmt::sprintf("%s must be above %s.", nameOf(letter), shown(letter, 0.0)));
+    return;
+  }
+  if (given.second == Letter::T) return;
+
+  // A volume is the reciprocal of a density, so that its ends are the other way round.
+  const bool isVolume = given.second == Letter::V;
+  const Property property = isVolume ? Property::density : quantity(given.second).property;
+  const double value = isVolume ? 1.0 / given.x2 : given.x2;
+  const auto extremes = given.first == Letter::P ? extremesAtPressure(given.x1, property)
+                                                 : extremesAtTemperature(given.x1, property);
+  if (!extremes) return;
+  const bool above = value > extremes->greatest.value;
+  if (!above && !(value < extremes->least.value)) return;
+  const Extreme& end = above ? extremes->greatest : extremes->least;
+  const Letter other = given.first == Letter::P ? Letter::T : Letter::P;
+  constexpr double noPressure = 1e-6;  // MPa: the end of an ever thinner vapour
+  const std::string where = other == Letter::P && end.at < noPressure
+                                ? std::string("where the pressure vanishes")
+                                : fmt::sprintf("at %s", shown(other, end.at, 6));
+  const bool high = above != isVolume;
+  diagnostics_.postCause(
+      fmt::sprintf("%s %s is %s any that water has at %s: the %s is %s, %s.", nameOf(given.second),
+                   shown(given.second, given.x2), high ? "above" : "below",
+                   shown(given.first, given.x1), high ? "highest" : "lowest",
+                   shown(given.second, isVolume ? 1.0 / end.value : end.value, 6), where));
+}
+
+// What to ask instead where two properties leave open how much is vapour.
+bool ZvThermoInt::failBetweenPhases(const PropertyMember& member, const GivenPair& given) {
+  if (!diagnostics_.tracing()) return false;
+  if (given.second != Letter::T) {
+    return fail(Message::twoPhase,
+                fmt::sprintf("They are those of wet steam, %.4g of it vapour; this property is "
+                             "answered for the liquid or the vapour alone.",
+                             steam_.state().quality));
+  }
+  std::string advice =
+      "For the liquid ask at a slightly lower temperature, for the vapour at a slightly higher "
+      "one.";
+  const std::string_view letter = member.name.substr(0, 1);
+  if (std::string_view("HSUVR").find(letter) != std::string_view::npos) {
+    advice = fmt::sprintf(
+        "Give the pressure with the quality instead (%sSatPQ: 0 is liquid, 1 is vapour), or with "
+        "another property than the temperature.",
+        letter);
+  }
+  return fail(
+      Message::twoPhase,
+      fmt::sprintf("%s is the boiling point at %s, where liquid and vapour are together. %s",
+                   inUserUnit(UnitGroup::temperature, given.x2),
+                   inUserUnit(UnitGroup::pressure, given.x1), advice));
 }
 
 // Hands over to the saturation member of the same result, in the client's units. The V members go
@@ -206,7 +297,10 @@ int ZvThermoInt::HPTQ(double* pH, double P, double T, double Q) {
         !validRange("Quality", q, 0.0, 1.0, UnitGroup::quality)) {
       return false;
     }
-    if (steam_.stateFromPT(p, t) == Phases::two || isOnLine(p, t)) return HSatPQ(pH, P, Q) != 0;
+    const auto phases =
+        solved({Letter::P, p, Letter::T, t}, [&] { return steam_.stateFromPT(p, t); });
+    if (!phases) return false;
+    if (phases == Phases::two || isOnLine(p, t)) return HSatPQ(pH, P, Q) != 0;
     if (steam_.polish() == SatPolish::deciding) warnOfQuality(p, t, q);
     return give(pH, UnitGroup::enthalpy, steam_.property(Property::enthalpy));
   });
@@ -217,9 +311,12 @@ int ZvThermoInt::fromPH(std::string_view name, double* pQ, double* pT, Property 
   return call(name, [&] {
     double p = units_.toInternal(UnitGroup::pressure, P);
     const double h = units_.toInternal(UnitGroup::enthalpy, H);
-    if (!validPressure("Pressure", p) || !notNegative("Enthalpy", h)) return false;
-
-    const Phases phases = steam_.stateFromP(p, Property::enthalpy, h);
+    if (!validPressure("Pressure", p) || !notNegative("Enthalpy", UnitGroup::enthalpy, h)) {
+      return false;
+    }
+    const auto phases = solved({Letter::P, p, Letter::H, h},
+                               [&] { return steam_.stateFromP(p, Property::enthalpy, h); });
+    if (!phases) return false;
     double q = 0.0;
     double t = 0.0;
     double x = 0.0;

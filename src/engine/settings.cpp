@@ -13,7 +13,11 @@ void ZvThermoInt::TakeSettings(const ZvThermoInt& other) {
 
 int ZvThermoInt::SetSolverTol(double newVal) {
   return call("SetSolverTol", [&] {
-    if (!steam_.solver().setTolerance(newVal)) return fail(Message::invalidSolverTolerance);
+    if (!steam_.solver().setTolerance(newVal)) {
+      return fail(
+          Message::invalidSolverTolerance,
+          fmt::sprintf("The tolerance must be above 1e-14 and below 1e-06, not %g.", newVal));
+    }
     diagnostics_.postNote(fmt::sprintf("Solver tolerance = %e.", newVal));
     return true;
   });
@@ -21,7 +25,10 @@ int ZvThermoInt::SetSolverTol(double newVal) {
 
 int ZvThermoInt::SetSolverIter(short newVal) {
   return call("SetSolverIter", [&] {
-    if (!steam_.solver().setIterations(newVal)) return fail(Message::invalidSolverIterations);
+    if (!steam_.solver().setIterations(newVal)) {
+      return fail(Message::invalidSolverIterations,
+                  fmt::sprintf("The iterations must be 51 to 9998, not %d.", newVal));
+    }
     diagnostics_.postNote(fmt::sprintf("Solver maximum iterations = %d.", newVal));
     return true;
   });
@@ -29,7 +36,12 @@ int ZvThermoInt::SetSolverIter(short newVal) {
 
 int ZvThermoInt::SetTraceLevel(short newVal) {
   return call("SetTraceLevel", [&] {
-    if (newVal < 0 || newVal >= 3) return fail(Message::invalidReportingLevel);
+    if (newVal < 0 || newVal >= 3) {
+      return fail(
+          Message::invalidReportingLevel,
+          fmt::sprintf("The level must be 0 (errors), 1 (also warnings) or 2 (also notes), not %d.",
+                       newVal));
+    }
     diagnostics_.setLevel(newVal);
     diagnostics_.postNote(fmt::sprintf("Reporting level set to %d.", newVal));
     return true;
@@ -55,7 +67,10 @@ int ZvThermoInt::SetFunctionCallTracing(int newVal) {
 
 int ZvThermoInt::SetMaxTraceSize(short newVal) {
   return call("SetMaxDiagSize", [&] {
-    if (newVal < 2) return fail("Illegal function trace list size.");
+    if (newVal < 2) {
+      return fail("Illegal function trace list size.",
+                  fmt::sprintf("The size must be 2 to 32767, not %d.", newVal));
+    }
     diagnostics_.setMaxTraceSize(newVal);
     diagnostics_.postNote(fmt::sprintf("Max function trace list size set to %d.", newVal));
     return true;

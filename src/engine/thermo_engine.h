@@ -4,6 +4,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -209,13 +210,15 @@ class ZvThermoInt {
     return validRange(name, looked, lower, upper, group);
   }
   /// At least zero, else message 102.
-  bool notNegative(std::string_view name, double value);
-  /// Posts the error and answers false.
-  bool fail(Message message);
-  bool fail(std::string_view text);
+  bool notNegative(std::string_view name, UnitGroup group, double value);
+  /// Posts the error, and what is behind it where that is given, and answers false.
+  bool fail(Message message, std::string_view cause = {});
+  bool fail(std::string_view text, std::string_view cause = {});
 
   /// The name of the unit in which the client has that quantity.
   [[nodiscard]] std::string unitName(UnitGroup group) const;
+  /// A value in model units as the client reads it: "10 bara".
+  [[nodiscard]] std::string inUserUnit(UnitGroup group, double value, int digits = 10) const;
 
   /// Writes a result of that group in the client's unit. A value that is not finite is none:
   /// message 104 and false.
@@ -226,12 +229,24 @@ class ZvThermoInt {
   static constexpr double temperatureOfNone = 400.0;
 
  private:
+  /// Two properties that a state is asked for by, in model units.
+  struct GivenPair {
+    Quantity::Letter first;
+    double x1;
+    Quantity::Letter second;
+    double x2;
+  };
+
   int property(PropertyMember::Index index, double* out, double first, double second);
   void moveOntoBound(double& value, double lower, double upper, UnitGroup group) const;
   bool validInputs(const PropertyMember& member, double& first, double& second);
   bool validTransportRange(Quantity::Letter result, double& P, double& T);
   Phases stateOf(const PropertyMember& member, double first, double second);
   bool onLine(const PropertyMember& member, double* out, double userFirst);
+  template <class Solve>
+  std::optional<Phases> solved(const GivenPair& given, Solve&& solve);
+  void explainNoState(const GivenPair& given);
+  bool failBetweenPhases(const PropertyMember& member, const GivenPair& given);
   bool validOnLine(Quantity::Letter given, double& value);
   int saturation(std::string_view name, Quantity::Letter result, Quantity::Letter given,
                  double* out, double first, double Q);

@@ -55,8 +55,8 @@ bool mixing(ZvThermoInt& engine, double* pHs, double HIn, double Hw, double POp,
   const UserUnits& units = engine.units();
   mix.hIn = units.toInternal(UnitGroup::enthalpy, HIn);
   mix.hw = units.toInternal(UnitGroup::enthalpy, Hw);
-  if (!engine.notNegative("Inlet Steam Enthalpy", mix.hIn) ||
-      !engine.notNegative("Inlet Water Enthalpy", mix.hw) ||
+  if (!engine.notNegative("Inlet Steam Enthalpy", UnitGroup::enthalpy, mix.hIn) ||
+      !engine.notNegative("Inlet Water Enthalpy", UnitGroup::enthalpy, mix.hw) ||
       !engine.validPressure("Operating Pressure", units.toInternal(UnitGroup::pressure, POp)) ||
       !engine.validTemperature("Operating Temperature",
                                units.toInternal(UnitGroup::temperature, TOp)) ||
@@ -111,7 +111,7 @@ int boiler(ZvThermoInt& engine, std::string_view name, double* pMBd, double* pDu
   return engine.call(name, [&] {
     const UserUnits& units = engine.units();
     const double hIn = units.toInternal(UnitGroup::enthalpy, HIn);
-    if (!engine.notNegative("Inlet Enthalpy", hIn) ||
+    if (!engine.notNegative("Inlet Enthalpy", UnitGroup::enthalpy, hIn) ||
         !engine.validTemperature("Outlet Temperature",
                                  units.toInternal(UnitGroup::temperature, TOut)) ||
         !engine.validPressure("Outlet Pressure", units.toInternal(UnitGroup::pressure, POut))) {
@@ -157,7 +157,7 @@ int DeAerator(ZvThermoInt& engine, double* pHd, double* pTd, double* pMw, double
     const double hs = units.toInternal(UnitGroup::enthalpy, Hs);
     const double T = units.toInternal(UnitGroup::temperature, Tw);
     if (!engine.validPressure("Operating Pressure", P) ||
-        !engine.notNegative("Steam Enthalpy", hs) ||
+        !engine.notNegative("Steam Enthalpy", UnitGroup::enthalpy, hs) ||
         !engine.validRange("Water Temperature", T, constants::triplePointTemperature,
                            constants::criticalTemperature, UnitGroup::temperature)) {
       return false;
@@ -224,7 +224,7 @@ int WaterPump(ZvThermoInt& engine, double* pHOut, double* pPower, double HIn, do
     const double pIn = units.toInternal(UnitGroup::pressure, PIn);
     const double pOut = units.toInternal(UnitGroup::pressure, POut);
     const double efficiency = units.toInternal(UnitGroup::efficiency, Eff);
-    if (!engine.notNegative("Inlet Steam Enthalpy", hIn) ||
+    if (!engine.notNegative("Inlet Steam Enthalpy", UnitGroup::enthalpy, hIn) ||
         !engine.validPressure("Inlet Pressure", pIn) ||
         !engine.validPressure("Outlet Pressure", pOut) ||
         !validEfficiency(engine, "Efficiency", efficiency)) {
@@ -249,7 +249,8 @@ int LetDownValve(ZvThermoInt& engine, double* pTOut, double* pQOut, double HIn, 
     const UserUnits& units = engine.units();
     const double pIn = units.toInternal(UnitGroup::pressure, PIn);
     const double pOut = units.toInternal(UnitGroup::pressure, POut);
-    if (!engine.notNegative("Inlet Steam Enthalpy", units.toInternal(UnitGroup::enthalpy, HIn)) ||
+    if (!engine.notNegative("Inlet Steam Enthalpy", UnitGroup::enthalpy,
+                            units.toInternal(UnitGroup::enthalpy, HIn)) ||
         !engine.validPressure("Inlet Pressure", pIn) ||
         !engine.validPressure("Outlet Pressure", pOut)) {
       return false;
@@ -278,7 +279,8 @@ int FlashVessel(ZvThermoInt& engine, double* pTOut, double* pMVap, double* pMLiq
   return engine.call("FlashVessel", [&] {
     const UserUnits& units = engine.units();
     Saturation line;
-    if (!engine.notNegative("Inlet Enthalpy", units.toInternal(UnitGroup::enthalpy, HIn)) ||
+    if (!engine.notNegative("Inlet Enthalpy", UnitGroup::enthalpy,
+                            units.toInternal(UnitGroup::enthalpy, HIn)) ||
         !engine.validPressure("Operating Pressure", units.toInternal(UnitGroup::pressure, POp)) ||
         !saturationAt(engine, POp, line)) {
       return false;

@@ -125,8 +125,8 @@ struct Ejector {
     return engine.validPressure("Motive Steam Pressure", model.pMs) &&
            engine.validPressure("Suction Steam Pressure", model.Pss) &&
            engine.validPressure("Discharge Steam Pressure", model.Pds) &&
-           engine.notNegative("Motive Steam Enthalpy", model.Hms) &&
-           engine.notNegative("Suction Steam Enthalpy", model.Hss);
+           engine.notNegative("Motive Steam Enthalpy", UnitGroup::enthalpy, model.Hms) &&
+           engine.notNegative("Suction Steam Enthalpy", UnitGroup::enthalpy, model.Hss);
   }
 
   // Of the motive steam to the suction pressure; nothing if a property call fails.

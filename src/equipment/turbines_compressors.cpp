@@ -91,7 +91,8 @@ struct Stages {
   }
 
   bool valid() const {
-    if (!engine.notNegative("Inlet Enthalpy", internal(UnitGroup::enthalpy, inlet.H)) ||
+    if (!engine.notNegative("Inlet Enthalpy", UnitGroup::enthalpy,
+                            internal(UnitGroup::enthalpy, inlet.H)) ||
         !engine.validPressure("Inlet Pressure", internal(UnitGroup::pressure, inlet.P))) {
       return false;
     }
@@ -103,8 +104,8 @@ struct Stages {
       const double efficiency = internal(UnitGroup::efficiency, outlets[k].Eff);
       if (!validEfficiency(engine, texts(k).efficiency, efficiency)) return false;
     }
-    if (inlet.S != nullptr &&
-        !engine.notNegative("Inlet Entropy", internal(UnitGroup::entropy, *inlet.S))) {
+    if (inlet.S != nullptr && !engine.notNegative("Inlet Entropy", UnitGroup::entropy,
+                                                  internal(UnitGroup::entropy, *inlet.S))) {
       return false;
     }
     double before = inlet.P;

@@ -300,9 +300,9 @@ constexpr ExplanationRow rows[] = {
 
     // Settings. The example is a new value.
     {"SolverTol", settings, "tolerance of the solver",
-     "How exactly a state meets its two given properties, relative: above 1e-14, below 1e-6.",
+     "How exactly a state meets its two given properties, relative.",
      "pVal=tolerance of the solver", "1e-10", "", "accuracy precision"},
-    {"SolverIter", settings, "how many iterations the solver may take", "51 to 9998.",
+    {"SolverIter", settings, "how many iterations the solver may take", "",
      "pVal=iterations of the solver", "500"},
     {"TraceLevel", settings, "what the trace records besides errors",
      "0 errors only, 1 also warnings, 2 also notes of the solver.", "pVal=reporting level", "2", "",
@@ -312,12 +312,12 @@ constexpr ExplanationRow rows[] = {
      "temperature are tested against the correlation, so that within 0.16 % of the line the "
      "answer may be the other phase's. 2: the exact line decides there too: within 1e-4 of it "
      "the pressure and temperature do not determine the state, everywhere else the phase is the "
-     "true one, and a quality that contradicts it is warned of.",
+     "true one, and a quality that contradicts it is warned of. Any other number does what 1 does.",
      "pVal=exactness of the saturation line", "2", "", "phase boundary saturation"},
     {"FunctionCallTracing", settings, "whether calls and their errors are recorded",
      "1 yes, 0 no: failures then give no reason.", "pVal=recording of calls", "0"},
-    {"MaxTraceSize", settings, "how many calls the trace keeps",
-     "2 to 32767; the oldest are dropped.", "pVal=calls that are kept", "100"},
+    {"MaxTraceSize", settings, "how many calls the trace keeps", "The oldest are dropped.",
+     "pVal=calls that are kept", "100"},
     {"ReturnModelUnits", settings, "whether spreadsheet members answer the unit of each result",
      "0 no, anything else yes.", "pVal=units in the result arrays", "0"},
     {"ReturnThermoUnits", settings, "kept for clients that set it; nothing depends on it", "",
@@ -348,13 +348,13 @@ constexpr Limits none{};
 constexpr SpecialLimits specialLimitTable[] = {
     // The ranges of the transport equations.
     {"MPT", "T", {273.15, 1073.15}},
-    {"MPT", "P", {0.0, 1000.0}},
+    {"MPT", "P", {0.0, 1000.0, true}},
     {"KPT", "T", {273.15, 1073.15}},
-    {"KPT", "P", {0.0, 100.0}},
+    {"KPT", "P", {0.0, 100.0, true}},
     {"NPT", "T", {273.15, 1073.15}},
-    {"NPT", "P", {0.0, 100.0}},
+    {"NPT", "P", {0.0, 100.0, true}},
     {"EPT", "T", {273.15, 823.15}},
-    {"EPT", "P", {0.0, 500.0}},
+    {"EPT", "P", {0.0, 500.0, true}},
     // Models that ask for a saturated state at a pressure.
     {"DeAerator", "POp", onLineP},
     {"DeAerator", "Tw", onLineT},
@@ -372,7 +372,7 @@ constexpr SpecialLimits specialLimitTable[] = {
     {"XLHeatExchangerB", "ColdQualityOut", none},
     {"XLThermoCompA", "Rs", {0.0}},
     {"XLThermoCompB", "PF", {0.0, 1.0, true}},
-    {"SolverTol", "pVal", {1e-14, 1e-6, true}},
+    {"SolverTol", "pVal", {1e-14, 1e-6, true, true}},
     {"SolverIter", "pVal", {51.0, 9998.0}},
     {"TraceLevel", "pVal", {0.0, 2.0}},
     {"MaxTraceSize", "pVal", {2.0, 32767.0}},

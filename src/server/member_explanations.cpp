@@ -167,7 +167,7 @@ std::optional<Limits> limitsOf(const Member& member, const Parameter& parameter)
       return Limits{hard.TMin, hard.TMax};
     case UnitGroup::pressure:
       if (onLine) return Limits{constants::triplePointPressure, constants::criticalPressure};
-      return Limits{hard.PMin, hard.PMax};
+      return Limits{hard.PMin, hard.PMax, true};
     case UnitGroup::quality:
       return Limits{0.0, 1.0};
     case UnitGroup::efficiency:
@@ -175,9 +175,10 @@ std::optional<Limits> limitsOf(const Member& member, const Parameter& parameter)
     case UnitGroup::enthalpy:
     case UnitGroup::entropy:
     case UnitGroup::internalEnergy:
+      return Limits{0.0};
     case UnitGroup::density:
     case UnitGroup::specificVolume:
-      return Limits{0.0};
+      return Limits{0.0, std::numeric_limits<double>::infinity(), true};
     default:
       return std::nullopt;
   }

@@ -36,7 +36,8 @@ inline constexpr int memberHeadingCount = 7;
 struct Limits {
   double low = -std::numeric_limits<double>::infinity();
   double high = std::numeric_limits<double>::infinity();
-  bool aboveLow = false;  ///< the lower bound itself is refused
+  bool aboveLow = false;   ///< the lower bound itself is refused
+  bool belowHigh = false;  ///< the upper bound itself is refused
 };
 
 struct ParameterExplanation {

@@ -64,6 +64,7 @@ constexpr Synonym synonyms[] = {
     {"sec", "s"},
     {"second", "s"},
     {"pph", "lb/h"},
+    {"gcal", "mmkcal"},
     {"l/h", "kg/h", litresAreKilograms},
     {"l/min", "kg/min", litresAreKilograms},
     {"l/s", "kg/s", litresAreKilograms},
