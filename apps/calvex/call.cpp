@@ -45,15 +45,16 @@ Value parseArgument(const Member& member, const Parameter& parameter, std::strin
   try {
     return parseValue(word, parameter, units);
   } catch (const UsageError& error) {
-    if (member.isProperty) {
-      const auto limits = parameterExplanation(member, parameter).limits;
-      throw UsageError(
-          fmt::format("{}: {}{}", member.name, error.what(),
-                      limits ? fmt::format("; it takes {}", limitsText(*limits, parameter, units))
-                             : std::string()));
+    const auto limits = parameterExplanation(member, parameter).limits;
+    if (member.isProperty && limits) {
+      throw UsageError(fmt::format("{} takes {}, not {}", member.name,
+                                   limitsText(*limits, parameter, units), inQuotes(word)));
     }
-    throw UsageError(fmt::format("{} of {}: {}; {} takes {}", parameter.name, member.name,
-                                 error.what(), member.name, describeInputs(member, units)));
+    if (member.isProperty) throw UsageError(fmt::format("{}: {}", member.name, error.what()));
+    const std::string_view reason = error.what();
+    const bool isLong = reason.find('\n') != std::string_view::npos;
+    throw UsageError(fmt::format("{} of {}: {}{}{} takes {}", parameter.name, member.name, reason,
+                                 isLong ? "\n" : "; ", member.name, describeInputs(member, units)));
   }
 }
 
@@ -94,11 +95,11 @@ std::vector<std::string> inOrder(const Member& member, const std::vector<const P
 // Of too many words some may be units: a unit belongs to its number.
 std::string unitAdvice(const std::vector<const Parameter*>& wanted,
                        std::span<const std::string> words) {
-  for (const std::string& word : words) {
+  for (std::size_t i = 1; i < words.size(); ++i) {
     for (const Parameter* parameter : wanted) {
       if (!parameter->hasUnit()) continue;
-      if (findUnitWord(UnitGroup(parameter->group), word).unit == nullptr) continue;
-      return fmt::format("\na unit stands right behind its number, as in 10{}", word);
+      if (findUnitWord(UnitGroup(parameter->group), words[i]).unit == nullptr) continue;
+      return fmt::format("\na unit stands right behind its number: {}{}", words[i - 1], words[i]);
     }
   }
   return {};

@@ -4,6 +4,7 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <ctime>
 
 #include "encoding.h"
 #include "json.h"
@@ -113,8 +114,13 @@ std::string columnsText(const ZvFunctionCall& node) {
 
 void appendTrace(std::string& text, const ZvFunctionCall& node, std::size_t depth) {
   for (const auto* child = node.firstChild(); child != nullptr; child = child->nextSibling()) {
-    text += fmt::format("{:{}}{}{}{}\n", "", 2 * depth, kindName(child->kind()),
-                        toUtf8(child->text()), columnsText(*child));
+    // The engine's notes of the time are bare readings of the processor's clock.
+    const bool isTime =
+        child->kind() == ZvFunctionCall::Kind::note && child->text().starts_with("Time = ");
+    text += fmt::format(
+        "{:{}}{}{}{}{}\n", "", 2 * depth, kindName(child->kind()), toUtf8(child->text()),
+        isTime ? fmt::format(" (processor clock, {} ticks a second)", CLOCKS_PER_SEC) : "",
+        columnsText(*child));
     appendTrace(text, *child, depth + 1);
   }
 }

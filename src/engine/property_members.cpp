@@ -96,10 +96,14 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
     }
     const double value = phases == Phases::two ? steam_.mixtureProperty(result.property)
                                                : steam_.property(result.property);
-    // Beyond 880 MPa the equation gives cold water a negative heat capacity at constant volume.
+    // From 800 MPa on, where it freezes, water below 330 K has negative heat capacities by the
+    // equation, and no speed of sound.
     if (value <= 0.0 && isHeatCapacity(member.result)) {
       diagnostics_.postWarning(
           "The heat capacity is not above zero: the equation has no stable water here.");
+    } else if (std::isnan(value) && member.result == Letter::W) {
+      return fail(Message::solutionError,
+                  "The heat capacity is not above zero: the equation has no stable water here.");
     }
     return result.hasUnit ? give(out, result.group, value) : give(out, value);
   });

@@ -121,9 +121,13 @@ TEST_F(Settings, RejectionsAreTracedUnderThePutsName) {
   engine.SetMaxTraceSize(1);
   EXPECT_EQ(traceOf(engine),
             "SetSolverTol\n  error: Invalid solver tolerance specified.\n"
+            "  error: The tolerance must be above 1e-14 and below 1e-06, not 1.\n"
             "SetSolverIter\n  error: Invalid number of solver iterations specified..\n"
+            "  error: The iterations must be 51 to 9998, not 1.\n"
             "SetTraceLevel\n  error: Invalid reporting level.\n"
-            "SetMaxDiagSize\n  error: Illegal function trace list size.\n");
+            "  error: The level must be 0 (errors), 1 (also warnings) or 2 (also notes), not 3.\n"
+            "SetMaxDiagSize\n  error: Illegal function trace list size.\n"
+            "  error: The size must be 2 to 32767, not 1.\n");
 }
 
 TEST_F(Settings, AnySatPolishIsStored) {
