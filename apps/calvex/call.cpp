@@ -51,10 +51,8 @@ Value parseArgument(const Member& member, const Parameter& parameter, std::strin
                                    limitsText(*limits, parameter, units), inQuotes(word)));
     }
     if (member.isProperty) throw UsageError(fmt::format("{}: {}", member.name, error.what()));
-    const std::string_view reason = error.what();
-    const bool isLong = reason.find('\n') != std::string_view::npos;
-    throw UsageError(fmt::format("{} of {}: {}{}{} takes {}", parameter.name, member.name, reason,
-                                 isLong ? "\n" : "; ", member.name, describeInputs(member, units)));
+    throw UsageError(fmt::format("{} of {}: {}; {} takes {}", parameter.name, member.name,
+                                 error.what(), member.name, describeInputs(member, units)));
   }
 }
 

@@ -73,9 +73,14 @@ double valueWithUnit(std::string_view text, UnitGroup group, const UserUnits& un
     return parseNumber(text);
   }
   unitName.remove_prefix(std::min(unitName.size(), unitName.find_first_not_of(' ')));
-  const ZvUomLiteKeyword& unit = findUnit(group, unitName);
   const ZvUomLiteKeyword& model = findUnit(group, toUtf8(row(group).internalUnit));
-  return units.toUser(group, convert(unit, model, number));
+  try {
+    return units.toUser(group, convert(findUnit(group, unitName), model, number));
+  } catch (const UsageError& refusal) {
+    const std::string_view reason = refusal.what();  // and, on a second line, all units
+    throw UsageError(fmt::format("{} is not a number, and {}", inQuotes(text),
+                                 reason.substr(0, reason.find('\n'))));
+  }
 }
 
 }  // namespace calvex::cli

@@ -366,6 +366,8 @@ constexpr SpecialLimits specialLimitTable[] = {
     {"XLThermoCompressorC", "DSP", onLineP},
     {"XLThermoCompressorD", "DSP", onLineP},
     {"XLThermoCompressorE", "DSP", onLineP},
+    // Nothing is computed from it.
+    {"LetDownValve", "PIn", {0.0, constants::highestPressure}},
     // Temperatures of a gas, which is no steam.
     {"XLGasTurbineA", "AirTemp", none},
     {"XLGasTurbineA", "ExhaustTemp", none},

@@ -34,8 +34,8 @@ class Record {
   Extreme greatest_{NAN, 0.0};
 };
 
-// Walks from one end to the other by equal factors and looks closer around an extreme between them:
-// golden section, to 1e-3 of the way, which is 1e-6 of the value where it is flat.
+// Walks from one end to the other by equal factors and looks closer around the extremes met: golden
+// section, to a hundredth of a step, where a flat top is known to 1e-5.
 void walk(const auto& f, double from, double to, int steps, Record& record) {
   Record here;
   const double factor = std::pow(to / from, 1.0 / steps);
@@ -47,15 +47,15 @@ void walk(const auto& f, double from, double to, int steps, Record& record) {
   for (int n = 0; n <= steps; ++n) take(n == steps ? to : from * std::pow(factor, n));
   for (const double sign : {1.0, -1.0}) {
     const double best = (sign > 0.0 ? here.greatest() : here.least()).at;
-    if (!(best > from && best < to)) continue;
+    if (best == 0.0) continue;  // no value at all
     constexpr double golden = 0.381966011250105;
-    double a = best / factor;
-    double b = best * factor;
+    double a = std::max(from, best / factor);
+    double b = std::min(to, best * factor);
     double x = a + golden * (b - a);
     double y = b - golden * (b - a);
     double fx = sign * take(x);
     double fy = sign * take(y);
-    for (int n = 0; n < 12; ++n) {
+    for (int n = 0; n < 10; ++n) {
       if (fx > fy) {
         b = y, y = x, fy = fx;
         fx = sign * take(x = a + golden * (b - a));

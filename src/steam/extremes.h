@@ -21,7 +21,7 @@ struct Extremes {
   Extreme greatest;
 };
 
-/// Of enthalpy, entropy, internal energy or density at 0 < P <= 3000 MPa; to 1e-6 of the value.
+/// Of enthalpy, entropy, internal energy or density at 0 < P <= 3000 MPa; to 2e-5 of the value.
 [[nodiscard]] std::optional<Extremes> extremesAtPressure(double P, Property property);
 
 /// The same at T within 260 to 2500 K. The entropy of an ever thinner vapour has no end; it is

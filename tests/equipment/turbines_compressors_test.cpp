@@ -28,8 +28,8 @@ TEST(Turbine, ExpandsSteamToTheKnownOutlet) {
 
 // A worked Rankine cycle with printed steam tables: steam with 3474.1 kJ/kg and 7.6027 kJ/(kg.K) at
 // 1.4 MPa expanded to 0.01 MPa, saturated liquid (191.81 kJ/kg) pumped back
-// (worked answer at byjus.com, "In a steam power plant based on ideal Rankine cycle, superheated steam
-// enters ...").
+// (worked answer at byjus.com, "In a steam power plant based on ideal Rankine cycle, superheated
+// steam enters ...").
 TEST(Turbine, DrivesAWorkedRankineCycle) {
   Plant plant;
   double s = 0.0;
@@ -320,7 +320,8 @@ TEST(Turbine, TracesTheCallThatFailed) {
   EXPECT_TRUE(y.values.empty());
   EXPECT_EQ(plant.trace(),
             "call TurbineA\n  call SPH\n    call HSat_PH\n      call TSatP\n  call HPS\n    error "
-            "Entropy parameter out of range.\n");
+            "Entropy parameter out of range.\n    error Entropy -0.003666272711 kJ/(kg.K) is below "
+            "0 kJ/(kg.K), the least that is accepted.\n");
 }
 
 }  // namespace

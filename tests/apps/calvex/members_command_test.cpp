@@ -92,7 +92,7 @@ TEST(MembersCommand, ExplainsAMemberInTheCurrentUnits) {
       "needed (HPTQ, HSatPQ and their like) or another pair.\n"
       "\n"
       "inputs\n"
-      "  P  pressure     MPa  0 to 3000\n"
+      "  P  pressure     MPa  above 0 to 3000\n"
       "  T  temperature  C    -13.15 to 2226.85\n"
       "\n"
       "results\n"
@@ -144,7 +144,7 @@ TEST(MembersCommand, ExplainsTheStartOfASettingHereAndInTheServer) {
   EXPECT_TRUE(contains(calvex({"members", "TraceLevel"}).out,
                        "\n  0 to 2\n  1 at the start here, 0 in the automation server\n"));
   EXPECT_TRUE(contains(calvex({"members", "SolverTol"}).out,
-                       "\n  above 1e-14 to 1e-06\n  1e-09 at the start\n"));
+                       "\n  above 1e-14, below 1e-06\n  1e-09 at the start\n"));
 }
 
 // The example is what a user copies: it must run, and the help shows what it answers.

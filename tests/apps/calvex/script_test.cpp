@@ -93,7 +93,9 @@ TEST(RunCommand, OutputsThatWereNotWrittenAreAbsent) {
 
 TEST(RunCommand, LastErrorIsGivenWhenAStatusMemberRefuses) {
   EXPECT_EQ(jsonOf("TraceLevel 7"),
-            Lines{R"({"member":"TraceLevel","hresult":1,"lastError":"Invalid reporting level."})"});
+            Lines{R"({"member":"TraceLevel","hresult":1,"lastError":"Invalid reporting level.",)"
+                  R"("cause":"The level must be 0 (errors), 1 (also warnings) or 2 (also notes), )"
+                  R"(not 7."})"});
 }
 
 TEST(RunCommand, ACauseStandsBelowAReasonThatDoesNotSayIt) {
@@ -174,13 +176,14 @@ TEST(RunCommand, PrintsReadableTextAndReasonsWithLineNumbers) {
   EXPECT_EQ(answer.out,
             "HPT 10 773.15\n  H = 3373.998049 kJ/kg  enthalpy\nHPT 10 99999\n"
             "  HPT failed: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n"
-            "AppLevel 4\n  AppLevel failed and gave no reason\n  AppLevel takes 0 to 3\n"
+            "AppLevel 4\n  AppLevel failed: 4 is not 0 or 2 (units of the catalogue), 1 (a units "
+            "server) or 3 (units of one's own)\n"
             "trace\n  HPT\n"
             "    error: Temperature parameter out of range (Valid range 260.00 to 2500.00 K).\n");
   EXPECT_EQ(answer.err,
             "calvex: line 4: HPT failed: Temperature parameter out of range (Valid range 260.00 to "
-            "2500.00 K).\ncalvex: line 5: AppLevel failed and gave no reason\n"
-            "  AppLevel takes 0 to 3\n");
+            "2500.00 K).\ncalvex: line 5: AppLevel failed: 4 is not 0 or 2 (units of the "
+            "catalogue), 1 (a units server) or 3 (units of one's own)\n");
 }
 
 // Where the two streams go to one place, each reason is told once, in its place.
@@ -275,17 +278,19 @@ TEST(RunCommand, ASilentFailureDoesNotTakeTheReasonOfTheCallBefore) {
       "MaxTraceSize 2\nHPT 10 99999\nHPT 10 99999\n"
       "SetCustomUserUnitIndex 0 X 1 0\nAppLevel 4\n",
       {"run"});
-  EXPECT_TRUE(contains(answer.err, "SetCustomUserUnitIndex failed and gave no reason"))
-      << answer.err;
-  EXPECT_TRUE(contains(answer.err, "AppLevel failed and gave no reason")) << answer.err;
+  EXPECT_TRUE(contains(answer.err, "SetCustomUserUnitIndex failed: custom units")) << answer.err;
+  EXPECT_TRUE(contains(answer.err, "AppLevel failed: 4 is not")) << answer.err;
 }
 
 TEST(RunCommand, AWarningSaysWhichLine) {
   const Answer answer = calvexWithInput("HPT 1 1300\nHPT 1 1200\nHPT 1 1300\n", {"run"});
   EXPECT_EQ(answer.status, 0);
-  EXPECT_EQ(answer.err,
-            "calvex: warning: line 1: Temperature parameter out of strictly valid range.\n"
-            "calvex: warning: line 3: Temperature parameter out of strictly valid range.\n");
+  EXPECT_EQ(
+      answer.err,
+      "calvex: warning: line 1: Temperature parameter out of strictly valid range. Strictly valid: "
+      "273.15 K to 1273.15 K.\n"
+      "calvex: warning: line 3: Temperature parameter out of strictly valid range. Strictly valid: "
+      "273.15 K to 1273.15 K.\n");
 }
 
 TEST(RunCommand, ALineIsPrintedSoThatItCanBeRunAgain) {

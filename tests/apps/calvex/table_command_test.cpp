@@ -96,7 +96,7 @@ TEST(TableCommand, ALineThatFailsSaysWhy) {
   EXPECT_TRUE(contains(text.err, "at T = 200: ")) << text.err;
   const Answer csv =
       calvex({"table", "isobar", "10", "--from", "200", "--to", "300", "--step", "100", "--csv"});
-  EXPECT_TRUE(linesOf(csv.out).at(1).starts_with("200,,,,,,,,,VPT failed: ")) << csv.out;
+  EXPECT_TRUE(linesOf(csv.out).at(1).starts_with("200,,,,,,,,,")) << csv.out;
 }
 
 TEST(TableCommand, RefusesRangesThatLeadNowhere) {
@@ -109,7 +109,7 @@ TEST(TableCommand, RefusesRangesThatLeadNowhere) {
   EXPECT_TRUE(contains(table("300", "400", "1e-9").err, "more than a million lines"));
   EXPECT_TRUE(contains(table("-1e308", "1e308", "1e300").err, "more than a million lines"));
   EXPECT_TRUE(contains(table("300", "nan", "1").err, "not a finite number"));
-  EXPECT_TRUE(contains(calvex({"table", "isobar", "10"}).err, "--from is required"));
+  EXPECT_TRUE(contains(calvex({"table", "isobar", "10"}).err, "--from is missing"));
   EXPECT_EQ(calvex({"table", "--from", "1", "--to", "2", "--step", "1"}).status, 2);
   EXPECT_EQ(calvex({"table", "isobar", "--from", "1", "--to", "2", "--step", "1"}).status, 2);
   EXPECT_EQ(calvex({"table", "saturation", "--by", "H", "--from", "1", "--to", "2", "--step", "1"})
@@ -187,7 +187,7 @@ TEST(TableCommand, JsonIsOneDocument) {
             R"x({"table":"isobar","P":30,"units":{"T":"K","v":"m^3/kg","rho":"kg/m^3",)x"
             R"x("h":"kJ/kg","s":"kJ/(kg.K)","u":"kJ/kg","cp":"kJ/(kg.K)","w":"m/s","P":"MPa"},)x"
             R"x("rows":[)x");
-  EXPECT_TRUE(contains(lines[1], R"({"T":200,"failure":"VPT failed: Temperature)")) << lines[1];
+  EXPECT_TRUE(contains(lines[1], R"({"T":200,"failure":"Temperature)")) << lines[1];
   EXPECT_TRUE(lines[2].starts_with(R"({"T":800,"v":0.0)")) << lines[2];
   EXPECT_TRUE(lines[2].ends_with(R"("phase":"supercritical fluid"}]})")) << lines[2];
   EXPECT_NEAR(numberAt(lines[2], "h"), numberAt(calvex({"HPT", "30", "800", "--json"}).out, "pH"),
@@ -202,7 +202,9 @@ TEST(TableCommand, WarnsOnceOfWhatManyLinesShare) {
   const Answer answer =
       calvex({"table", "isobar", "1", "--from", "1300", "--to", "1500", "--step", "50"});
   EXPECT_EQ(answer.status, 0);
-  EXPECT_EQ(answer.err, "calvex: warning: Temperature parameter out of strictly valid range.\n");
+  EXPECT_EQ(answer.err,
+            "calvex: warning: Temperature parameter out of strictly valid range. Strictly valid: "
+            "273.15 K to 1273.15 K.\n");
 }
 
 TEST(Progress, ShowsNothingInTheFirstSecondAndWipesItsBar) {
