@@ -277,6 +277,11 @@ Call prepare(const Member& member, std::span<const std::string> words, const Use
   }
   call.choice = nameUnits(member, call.arguments);
   if (call.isPut) call.choice.warning = settingNotice(member, call.arguments.front());
+  for (std::size_t i = 0; i < ordered.size(); ++i) {
+    if (wanted[i]->type != ValueType::real || !wanted[i]->hasUnit()) continue;
+    const std::string warning = unitWarning(UnitGroup(wanted[i]->group), unitBehind(ordered[i]));
+    if (!warning.empty()) call.choice.warning = warning;
+  }
   return call;
 }
 

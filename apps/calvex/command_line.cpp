@@ -9,6 +9,8 @@
 #include "call.h"
 #include "diagnostics/formatting.h"
 #include "encoding.h"
+#include "quantities.h"
+#include "server/member_explanations.h"
 #include "suggestions.h"
 #include "terminal.h"
 
@@ -81,10 +83,13 @@ void requireMember(const std::string& name) {
   for (const Command& command : commands) names.emplace_back(command.name);
   for (const Member& member : memberTable()) names.emplace_back(member.name);
   const std::string suggestion = didYouMean(name, names);
-  throw UsageError(fmt::format(
-      "there is no member or command {}{}", inQuotes(name),
-      suggestion.empty() ? "\n'calvex members' lists the members, 'calvex --help' the commands"
-                         : suggestion));
+  std::string advice = "\n'calvex members' lists the members, 'calvex --help' the commands";
+  if (!suggestion.empty()) advice = suggestion;
+  if (const auto letter = findLetterNamed(name)) {
+    advice = fmt::format("; 'calvex members {}' lists those that answer it",
+                         letterExplanation(*letter).words);
+  }
+  throw UsageError(fmt::format("there is no member or command {}{}", inQuotes(name), advice));
 }
 
 ExitStatus helpCommand(const Words& words, Console& console) {
@@ -131,6 +136,10 @@ ExitStatus dispatch(Words words, Console& console) {
     };
     if (asks("-h") || asks("--help")) return helpCommand({}, console);
     if (asks("--version")) return versionCommand({}, console);
+    if (words.size() == 1) {
+      throw UsageError(fmt::format("there is no option {}\n'calvex --help' lists them",
+                                   inQuotes(words.front())));
+    }
     throw UsageError(
         "what is to be computed? For example: calvex HPT 10 773.15\n"
         "'calvex --help' explains members, commands and options");

@@ -40,9 +40,15 @@ std::string faultText(std::string_view word, NumberFault fault) {
 double parseNumber(std::string_view word) {
   const auto [value, fault] = readNumber(word);
   if (fault == NumberFault::none) return value;
-  const bool comma = fault == NumberFault::notANumber && word.find(',') != std::string_view::npos;
+  const auto has = [&](std::string_view sign) {
+    return fault == NumberFault::notANumber && word.find(sign) != std::string_view::npos;
+  };
+  // U+2212 and U+2013, the minus and the dash of typesetters.
+  const bool minus = has("\u2212") || has("\u2013");
   throw UsageError(faultText(word, fault) +
-                   (comma ? "; the decimal sign is a point, as in 1013.25" : ""));
+                   (has(",") ? "; the decimal sign is a point, as in 1013.25"
+                    : minus  ? "; a minus is the hyphen of the keyboard, as in -1"
+                             : ""));
 }
 
 int parseWholeNumber(std::string_view word, int smallest, int largest) {

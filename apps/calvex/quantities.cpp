@@ -63,16 +63,23 @@ char letterNamed(std::string_view name) {
       inQuotes(name), didYouMean(name, known)));
 }
 
-double valueWithUnit(std::string_view text, UnitGroup group, const UserUnits& units) {
+std::string_view unitBehind(std::string_view text) noexcept {
   double number = 0.0;
-  const std::string_view digits = text.substr(text.starts_with('+') ? 1 : 0);
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-  std::string_view unitName(end, static_cast<std::size_t>(digits.data() + digits.size() - end));
-  if (error != std::errc() || unitName.empty()) return parseNumber(text);
-  if (std::string_view("0123456789.,+-=").find(unitName.front()) != std::string_view::npos) {
-    return parseNumber(text);
-  }
-  unitName.remove_prefix(std::min(unitName.size(), unitName.find_first_not_of(' ')));
+  text.remove_prefix(text.starts_with('+') ? 1 : 0);
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc()) return {};
+  text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+  if (text.find_first_of("0123456789.,+-=") == 0) return {};
+  text.remove_prefix(std::min(text.size(), text.find_first_not_of(' ')));
+  return text;
+}
+
+double valueWithUnit(std::string_view text, UnitGroup group, const UserUnits& units) {
+  const std::string_view unitName = unitBehind(text);
+  if (unitName.empty()) return parseNumber(text);
+  std::string_view digits = text.substr(0, text.size() - unitName.size());
+  digits = digits.substr(0, digits.find_last_not_of(' ') + 1);
+  const double number = parseNumber(digits);
   const ZvUomLiteKeyword& model = findUnit(group, toUtf8(row(group).internalUnit));
   try {
     return units.toUser(group, convert(findUnit(group, unitName), model, number));

@@ -17,6 +17,8 @@ inline constexpr std::string_view stateLetters = "PTHSURVQ";
 /// The same; throws UsageError with the nearest words.
 [[nodiscard]] char letterNamed(std::string_view name);
 
+/// What stands behind the number; empty where nothing does, or what cannot be a unit.
+[[nodiscard]] std::string_view unitBehind(std::string_view text) noexcept;
 /// A number in the client's unit. A unit may stand behind it, as in 500C: then it is converted from
 /// that. Throws UsageError.
 [[nodiscard]] double valueWithUnit(std::string_view text, UnitGroup group, const UserUnits& units);

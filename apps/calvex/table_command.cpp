@@ -352,7 +352,7 @@ ExitStatus tableCommand(const Words& words, Console& console) {
   Table table{Table::Kind::saturation,
               by.front(),
               0.0,
-              {bound("--from", from), bound("--to", to), bound("--step", step)},
+              {},
               csv    ? Format::csv
               : json ? Format::json
                      : Format::text};
@@ -371,6 +371,7 @@ ExitStatus tableCommand(const Words& words, Console& console) {
     throw UsageError(
         fmt::format("saturation takes no {}; --by P runs over pressures", inQuotes(operands[1])));
   }
+  table.range = {bound("--from", from), bound("--to", to), bound("--step", step)};
   Client client;
   options.applyTo(client);
   if (table.ofStates()) {

@@ -201,6 +201,10 @@ TEST(PlainWords, AUnitMayStandBehindANumber) {
       contains(unknown.err, "'10foo' is not a number, and 'foo' is not a unit of Pressure;"))
       << unknown.err;
   EXPECT_TRUE(contains(calvex({"HPT", "10psix", "500"}).err, "did you mean psia or psig?"));
+  EXPECT_TRUE(
+      contains(calvex({"TPV", "1", "100ft^3/lb"}).err, "warning: ft^3/lb: not the physical unit"));
+  EXPECT_TRUE(contains(calvex({"HPT", "\u22121", "500"}).err,
+                       "a minus is the hyphen of the keyboard, as in -1"));
   for (const char* number : {"10-5", "1,5", "1.2.3", "", "10=", "C"}) {
     const Answer wrong = calvex({"HPT", number, "500"});
     EXPECT_EQ(wrong.status, 2) << number;
@@ -248,6 +252,7 @@ TEST(PlainWords, ATableThatIsNoneTellsThoseThatAre) {
   EXPECT_EQ(linesOf(wrong.err).front(),
             "calvex: table takes 'saturation', 'isobar PRESSURE' or 'isotherm TEMPERATURE', not "
             "'isobr'; did you mean isobar?");
+  EXPECT_TRUE(contains(calvex({"table", "isobar"}).err, "isobar takes one pressure, as in"));
   EXPECT_EQ(calvex({"table", "saturation", "--from", "300"}).err,
             "calvex: --to is missing: a table runs --from X --to X --step X\n");
 }
@@ -258,6 +263,18 @@ TEST(PlainWords, ANumberBehindAnOptionIsRefusedUnderTheOptionsName) {
   EXPECT_EQ(calvexWithInput("P\n1\n", {"batch", "-", "t=TSatP(P)", "--threads", "-1"}).err,
             "calvex: --threads: '-1' is not between 0 and 1024\n");
   EXPECT_EQ(calvexWithInput("P\n1\n", {"batch", "-", "t=TSatP(P)", "--threads", "0"}).status, 0);
+}
+
+TEST(PlainWords, AQuantityInPlaceOfAMemberIsToldItsMembers) {
+  for (const char* name : {"enthalpy", "H", "h"}) {
+    EXPECT_EQ(calvex({name, "10", "500"}).err,
+              std::string("calvex: there is no member or command '") + name +
+                  "'; 'calvex members enthalpy' lists those that answer it\n");
+  }
+}
+
+TEST(PlainWords, AnOptionAloneThatIsNoneIsRefused) {
+  EXPECT_TRUE(contains(calvex({"--foo"}).err, "there is no option '--foo'"));
 }
 
 TEST(PlainWords, HelpSuggestsCommandsToo) {
