@@ -171,10 +171,12 @@ TEST_F(ResultArrays, ShowAFailingCallAsATree) {
   errorOf(client_, sampleOf("XLTurbineA"), " ");
   EXPECT_EQ(trace(), "call TurbineA\n  error No return tokens specified!\n");
   errorOf(client_, "XLThermoCompB", {-1, 1, 2609, 0.02, 0.04, 0.7}, "H_Out");
-  EXPECT_EQ(trace(),
-            "call ThermoCompB\n"
-            "  call ThermoCompA\n"
-            "    error Motive Steam Enthalpy parameter out of range.\n");
+  EXPECT_EQ(
+      trace(),
+      "call ThermoCompB\n"
+      "  call ThermoCompA\n"
+      "    error Motive Steam Enthalpy parameter out of range.\n"
+      "    error Motive Steam Enthalpy -1 kJ/kg is below 0 kJ/kg, the least that is accepted.\n");
 }
 
 TEST_F(ResultArrays, RunTheModelAsThePlainCallDoes) {

@@ -186,6 +186,9 @@ TEST_F(TraceDialog, TheTreeShowsTheSelectedCallExpanded) {
         L"  0 SPH +\n"
         L"    1 Pressure parameter out of strictly valid range.\n"
         L"    0 Solution Error.\n"
+        L"    0 Enthalpy 34000 kJ/kg is above any that water has at 1500 MPa: the highest is "
+        L"8653.84 "
+        L"kJ/kg, at 2500 K.\n"
         L"  0 Inlet enthalpy 34000 kJ/kg is above 8653.84 kJ/kg, that of the hottest steam at the "
         L"inlet pressure: there is no such steam.\n");
     selectRow(dialog, 3);
