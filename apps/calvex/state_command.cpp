@@ -3,6 +3,7 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <cmath>
 #include <ostream>
 
 #include "call.h"
@@ -115,7 +116,13 @@ void addOnePhase(Water& water, StateReport& report, double P, double T, double d
     } else if (letter == 'P' || letter == 'T') {
       report.lines.push_back({letter, water.toUser(letter, letter == 'P' ? P : T), {}});
     } else {
-      report.lines.push_back({letter, water.property(letter, T, density), {}});
+      const double value = water.property(letter, T, density);
+      if (value <= 0.0 && has("CD", letter)) water.warnOf(unstableWater);
+      if (std::isfinite(value)) {
+        report.lines.push_back({letter, value, {}});
+      } else {
+        report.lines.push_back({letter, std::nullopt, std::string(unstableWater)});
+      }
     }
   }
 }

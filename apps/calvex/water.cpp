@@ -30,15 +30,17 @@ Answer Water::ask(std::string_view name, const std::vector<Given>& inputs) {
     call.arguments[i] = given->value;
   }
   const Outcome outcome = perform(client_, std::move(call));
-  for (const std::string& warning : outcome.warnings) {
-    if (std::ranges::find(warnings_, warning) == warnings_.end()) warnings_.push_back(warning);
-  }
+  for (const std::string& warning : outcome.warnings) warnOf(warning);
   if (!outcome.succeeded()) {
     if (!outcome.reasonRecorded) return {std::nullopt, failureText(outcome)};
     const std::string_view blank = outcome.cause.empty() ? "" : " ";
     return {std::nullopt, fmt::format("{}{}{}", outcome.lastError, blank, outcome.cause)};
   }
   return {std::get<double>(outcome.call.arguments.front()), {}};
+}
+
+void Water::warnOf(std::string_view text) {
+  if (std::ranges::find(warnings_, text) == warnings_.end()) warnings_.emplace_back(text);
 }
 
 double Water::property(char letter, double T, double density) const {

@@ -43,6 +43,7 @@ class Water {
   [[nodiscard]] std::string unit(char letter) const;
   [[nodiscard]] Client& client() noexcept { return client_; }
 
+  void warnOf(std::string_view text);
   /// What was warned of, each text once.
   [[nodiscard]] const std::vector<std::string>& warnings() const noexcept { return warnings_; }
 

@@ -99,11 +99,9 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
     // From 800 MPa on, where it freezes, water below 330 K has negative heat capacities by the
     // equation, and no speed of sound.
     if (value <= 0.0 && isHeatCapacity(member.result)) {
-      diagnostics_.postWarning(
-          "The heat capacity is not above zero: the equation has no stable water here.");
+      diagnostics_.postWarning(unstableWater);
     } else if (std::isnan(value) && member.result == Letter::W) {
-      return fail(Message::solutionError,
-                  "The heat capacity is not above zero: the equation has no stable water here.");
+      return fail(Message::solutionError, unstableWater);
     }
     return result.hasUnit ? give(out, result.group, value) : give(out, value);
   });

@@ -11,6 +11,10 @@
 
 namespace calvex {
 
+/// What is said where the equation's heat capacities are negative, and it has no speed of sound.
+inline constexpr std::string_view unstableWater =
+    "The heat capacity is not above zero: the equation has no stable water here.";
+
 // X(result, first input, second input, two phases); the member's name is the three letters
 // together.
 //

@@ -331,6 +331,11 @@ TEST(PlainWords, AHeatCapacityBelowZeroIsWarnedOf) {
     EXPECT_TRUE(contains(answer.err, warning)) << answer.err;
     EXPECT_FALSE(contains(calvex({member, "600", "295"}).err, warning));
   }
+  const Answer state = calvex({"state", "P=810", "T=280"});
+  EXPECT_TRUE(contains(state.err, warning)) << state.err;
+  EXPECT_TRUE(contains(state.out, "speed of sound: The heat capacity is not above zero"));
+  EXPECT_FALSE(contains(state.out, "nan")) << state.out;
+  EXPECT_FALSE(contains(calvex({"state", "P=810", "T=280", "--json"}).out, "nan"));
   EXPECT_TRUE(contains(calvex({"WPT", "810", "280"}).err,
                        "WPT failed: Solution Error.\nThe heat capacity is not above zero"));
 }
