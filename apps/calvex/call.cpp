@@ -186,8 +186,7 @@ std::string limitsText(const Limits& limits, const Parameter& parameter, const U
     return readableText(
         parameter.hasUnit() ? units.toUser(UnitGroup(parameter.group), value) : value, digits);
   };
-  const std::string low =
-      fmt::format("{} {}", limits.aboveLow ? "above" : "at least", shown(limits.low));
+  std::string low = fmt::format("{} {}", limits.aboveLow ? "above" : "at least", shown(limits.low));
   if (std::isinf(limits.high)) return low;
   if (limits.belowHigh) return fmt::format("{}, below {}", low, shown(limits.high));
   return fmt::format("{}{} to {}", limits.aboveLow ? "above " : "", shown(limits.low),
