@@ -185,5 +185,35 @@ TEST(RootSearch, FollowsTheLiquidBelowItsSaturationPressure) {
   EXPECT_FALSE(roots::superheatedLiquid(-500.0, 450.0, saturated));
 }
 
+// Beyond 1000 MPa the entropy of cold water falls with rising temperature before it rises.
+TEST(RootSearch, FindsTheWarmerOfTwoTemperaturesOfColdWaterUnderHighPressure) {
+  constexpr double P = 1500.0, coldest = 260.0;
+  const auto entropy = [&](double T) {
+    return evaluate(Property::entropy, T, roots::density(P, T, Side::liquid).value_or(NAN));
+  };
+  double turn = coldest;
+  for (double T = coldest; T < 400.0; T += 0.25) {
+    if (entropy(T) < entropy(turn)) turn = T;
+  }
+  ASSERT_GT(turn, coldest + 5.0);
+  const double value = 0.5 * (entropy(turn) + entropy(coldest));
+  const auto T = roots::temperature(P, Property::entropy, value, Side::liquid, coldest, 2500.0);
+  ASSERT_TRUE(T);
+  EXPECT_GT(*T, turn);
+  EXPECT_NEAR(entropy(*T), value, 1e-10);
+}
+
+// Next to the critical point a line that is a scaling law may lie a little beyond the liquid's end.
+TEST(RootSearch, FindsATemperatureWhereTheSideEndsJustBeforeItsUpperBound) {
+  constexpr double P = 22.0;
+  double end = 645.0;
+  while (roots::density(P, end, Side::liquid)) end += 1e-3;
+  const double T = end - 0.5;
+  const double h = evaluate(Property::enthalpy, T, *roots::density(P, T, Side::liquid));
+  const auto found = roots::temperature(P, Property::enthalpy, h, Side::liquid, 300.0, end + 0.02);
+  ASSERT_TRUE(found) << end;
+  EXPECT_NEAR(*found, T, 1e-9 * T);
+}
+
 }  // namespace
 }  // namespace calvex::test
