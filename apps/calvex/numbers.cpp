@@ -40,7 +40,7 @@ std::string faultText(std::string_view word, NumberFault fault) {
 double parseNumber(std::string_view word) {
   const auto [value, fault] = readNumber(word);
   if (fault == NumberFault::none) return value;
-  const auto has = [&](std::string_view sign) {
+  const auto has = [word, fault = fault](std::string_view sign) {
     return fault == NumberFault::notANumber && word.find(sign) != std::string_view::npos;
   };
   // U+2212 and U+2013, the minus and the dash of typesetters.
