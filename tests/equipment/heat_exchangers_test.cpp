@@ -140,5 +140,14 @@ TEST(HeatExchanger, KeepsTheEnthalpiesFoundAndTracesTheCallThatFailed) {
                                badPressure("Pressure") + "\n");
 }
 
+TEST(HeatExchanger, FailsWhereNoWaterTakesSoMuchHeat) {
+  Plant plant;
+  std::vector<double> x = water;
+  x[4] = 1e6;  // 100,000 kJ for each kg of the cold stream
+  const Answer y = plant("HeatExchangerB", x);
+  EXPECT_EQ(y.success, 0);
+  EXPECT_FALSE(y.wrote("pTCOut"));
+}
+
 }  // namespace
 }  // namespace calvex
