@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstdint>
 #include <type_traits>
+#include <utility>
 
 #include "direct/starting_tables.h"
 #include "steam/constants.h"

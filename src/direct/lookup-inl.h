@@ -1,16 +1,11 @@
 // Reading the starting tables, for a number type N of lanes-inl.h. Included inside a namespace.
 
-/// A place on a line table and the weights of cubic interpolation there.
+/// The weights of cubic interpolation between nodes at -1, 0, 1, 2.
 template <class N>
-struct LinePlace {
-  typename NumberOf<N>::Index index;
+struct CubicWeights {
   N w0, w1, w2, w3;
 
-  HWY_INLINE LinePlace(const LineTable& table, const N& coordinate) {
-    const N x = (coordinate - table.axis.low) * table.axis.perUnit();
-    N whole;
-    index = NumberOf<N>::nearest(min(max(x - 0.5, N(1.0)), N(LineTable::count - 3.0)), whole);
-    const N t = x - whole;  // the nodes are at -1, 0, 1, 2
+  HWY_INLINE CubicWeights(const N& t) {
     const N a = t + 1.0;
     const N b = t - 1.0;
     const N c = t - 2.0;
@@ -19,11 +14,40 @@ struct LinePlace {
     w2 = a * t * c * (-0.5);
     w3 = a * t * b * (1.0 / 6.0);
   }
-  HWY_INLINE N operator()(const LineTable::Column& column) const {
-    const double* at = column.data();
-    return w0 * NumberOf<N>::gather(at - 1, index) + w1 * NumberOf<N>::gather(at, index) +
-           w2 * NumberOf<N>::gather(at + 1, index) + w3 * NumberOf<N>::gather(at + 2, index);
+  /// Of four nodes that lie side by side in a table, the second one at the index.
+  HWY_INLINE N operator()(const double* table, const typename NumberOf<N>::Index& index) const {
+    using Number = NumberOf<N>;
+    return w0 * Number::gather(table - 1, index) + w1 * Number::gather(table, index) +
+           w2 * Number::gather(table + 1, index) + w3 * Number::gather(table + 2, index);
   }
+};
+
+/// The node before a place on an axis of equal steps that has another one before it and two behind.
+template <class N>
+HWY_INLINE N nodeBefore(const N& x, int count) {
+  N whole;
+  NumberOf<N>::nearest(min(max(x - 0.5, N(1.0)), N(count - 3.0)), whole);
+  return whole;
+}
+
+/// A place on a line table.
+template <class N>
+struct LinePlace {
+  N node;
+  typename NumberOf<N>::Index index;
+  CubicWeights<N> weights;
+
+  HWY_INLINE LinePlace(const LineTable& table, const N& coordinate)
+      : LinePlace((coordinate - table.axis.low) * table.axis.perUnit()) {}
+  HWY_INLINE N operator()(const LineTable::Column& column) const {
+    return weights(column.data(), index);
+  }
+
+ private:
+  HWY_INLINE LinePlace(const N& x)
+      : node(nodeBefore(x, LineTable::count)),
+        index(NumberOf<N>::nearest(node, node)),
+        weights(x - node) {}
 };
 
 template <class N>
@@ -40,6 +64,24 @@ template <class N>
 HWY_INLINE N focused(const Focus& focus, const N& x) {
   const N from = x - focus.centre;
   return from / (focus.width + abs(from));
+}
+
+/// The value of a density table at ln P and T; `layer` is 0.0 or 1.0.
+template <class N>
+HWY_INLINE N readDensity(const DensityTable& table, const N& logP, const N& T, const N& layer) {
+  constexpr int columns = DensityTable::columns;
+  const N x = (focused(table.firstFocus, logP) - table.first.low) * table.first.perUnit();
+  const N y = (focused(table.secondFocus, T) - table.second.low) * table.second.perUnit();
+  const N row = nodeBefore(x, DensityTable::rows);
+  const N column = nodeBefore(y, columns);
+  N node;
+  const auto index =
+      NumberOf<N>::nearest(layer * DensityTable::layer + row * columns + column, node);
+  const CubicWeights<N> of(y - column);
+  const CubicWeights<N> byP(x - row);
+  const double* const at = table.node.data();
+  return byP.w0 * of(at - columns, index) + byP.w1 * of(at, index) +
+         byP.w2 * of(at + columns, index) + byP.w3 * of(at + 2 * columns, index);
 }
 
 /// Both values of a state table, by quadratic interpolation around the nearest node; `layer` is 0.0

@@ -36,15 +36,9 @@ HWY_INLINE void startFromP(const StateTable& table, const N& P, const N& logP, c
   if constexpr (second == Letter::S) {
     shifted = x + constants::gasConstant * min(logP - low, N(0.0));
   }
-  N temperature;
   N stored;
-  readStates(table, max(logP, low), shifted, layer, temperature, stored);
+  readStates(table, max(logP, low), shifted, layer, T, stored);
   density = select(layer > N(0.5), stored * P, stored);
-  if constexpr (second == Letter::T) {
-    T = x;
-  } else {
-    T = temperature;
-  }
 }
 
 // The columns of a property on the line, and its value where both meet.
@@ -93,8 +87,10 @@ Decision<N> decidePT(const N& P, const N& T) {
   const N layer = select(P > boundary, N(0.0), N(1.0));
   Decision<N> d;
   const N safeP = select(sane, P, N(1.0));
-  startFromP<Letter::T>(statesFromPT(), safeP, log(safeP), select(sane, T, N(600.0)), layer, d.T,
-                        d.density);
+  const DensityTable& table = densityFromPT();
+  d.T = select(sane, T, N(600.0));
+  const N stored = readDensity(table, log(safeP), d.T, layer);
+  d.density = select(layer > N(0.5), stored * safeP, stored);
   d.vapour = N(0.0);
   d.way = select(sane && !near, N(onePhase), N(member));
   return d;

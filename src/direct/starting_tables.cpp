@@ -124,11 +124,10 @@ void putState(StateTable& table, int layer, int row, int column, double T, doubl
                                        static_cast<float>(layer == 0 ? density : density / P)};
 }
 
-constexpr Axis pressureAxis() {
-  constexpr double logLowest = -7.418580902748128;  // ln(6e-4)
-  constexpr double logHighest = 8.006367567650246;  // ln(3000)
-  return {logLowest, logHighest, StateTable::rows};
-}
+constexpr double logLowest = -7.418580902748128;  // ln(6e-4)
+constexpr double logHighest = 8.006367567650246;  // ln(3000)
+
+constexpr Axis pressureAxis() { return {logLowest, logHighest, StateTable::rows}; }
 
 constexpr double focusedAt(const Focus& focus, double x) {
   const double from = x - focus.centre;
@@ -148,45 +147,69 @@ double density(const TemperaturePart& part, double P, double start) {
   return 0.5 * (low + high);
 }
 
-std::unique_ptr<StateTable> buildStatesFromPT() {
-  auto table = std::make_unique<StateTable>();
-  table->first = pressureAxis();
-  table->focus = {650.0, 300.0};
-  table->second = {focusedAt(table->focus, 255.0), focusedAt(table->focus, 2540.0),
-                   StateTable::columns};
+std::unique_ptr<DensityTable> buildDensityFromPT() {
+  auto table = std::make_unique<DensityTable>();
+  constexpr int rows = DensityTable::rows;
+  // Finest around the critical point.
+  table->firstFocus = {2.9, 2.5};
+  table->first = {focusedAt(table->firstFocus, logLowest), focusedAt(table->firstFocus, logHighest),
+                  rows};
+  table->secondFocus = {650.0, 400.0};
+  table->second = {focusedAt(table->secondFocus, 255.0), focusedAt(table->secondFocus, 2540.0),
+                   DensityTable::columns};
   const LineTable& line = lineByTemperature();
-  for (int column = 0; column < StateTable::columns; ++column) {
-    const double T = unfocused(table->focus, table->second.at(column));
+  for (int column = 0; column < DensityTable::columns; ++column) {
+    const double T = unfocused(table->secondFocus, table->second.at(column));
     TemperaturePart part;
     part.prepare(T, TemperatureOrder::energy);
     const bool subcritical = T < criticalTemperature;
-    double Ps = 0.0, liquid = 0.0, vapour = 0.0, slopeL = 0.0, slopeV = 0.0;  // d ln rho / dP
+    std::array<double, rows> dense;
+    std::array<double, rows> gas;
+    int above = 0;  // the first row above the line
+    const auto pressure = [&](int row) {
+      return std::exp(unfocused(table->firstFocus, table->first.at(row)));
+    };
+    const auto at = [](int row) { return static_cast<std::size_t>(row); };
+    // Below the critical temperature both phases go on beyond the line, as far as they are stable,
+    // and from there on straight.
     if (subcritical) {
       const LinePlace<double> place = placeAtT(line, std::clamp(T, lineBottom, lineTop));
-      Ps = T < lineTop ? place(line.column[LineTable::P]) : saturation::pressure(T);
-      liquid = place(line.column[LineTable::liquid]);
-      vapour = place(line.column[LineTable::vapour]);
-      slopeL = 1000.0 / (liquid * HelmholtzPoint(part, liquid).pressureSlope());
-      slopeV = 1000.0 / (vapour * HelmholtzPoint(part, vapour).pressureSlope());
+      const double Ps = T < lineTop ? place(line.column[LineTable::P]) : saturation::pressure(T);
+      while (pressure(above) <= Ps) ++above;
+      const auto goOn = [&](LineTable::Name phase, int begin, int end, double lowest,
+                            double highest, std::array<double, rows>& densities) {
+        const double saturated = place(line.column[phase]);
+        const double slope = 1000.0 / (saturated * HelmholtzPoint(part, saturated).pressureSlope());
+        double last = saturated;
+        bool stable = true;
+        for (int row = begin; row != end; row += begin < end ? 1 : -1) {
+          const OnePhase<double> state = densityAt(part, pressure(row), last);
+          stable = stable && state.found && state.density > lowest && state.density < highest;
+          const double straight =
+              saturated * (1.0 + std::clamp((pressure(row) - Ps) * slope, -0.2, 0.5));
+          last = stable ? state.density : straight;
+          densities[at(row)] = last;
+        }
+      };
+      goOn(LineTable::liquid, above - 1, -1, 1.1 * constants::criticalDensity, 1100.0, dense);
+      goOn(LineTable::vapour, above, rows, 0.0, 0.9 * constants::criticalDensity, gas);
+      double last = place(line.column[LineTable::liquid]);
+      for (int row = above; row < rows; ++row) {
+        dense[at(row)] = last = density(part, pressure(row), last);
+      }
+    } else {
+      above = rows;
     }
-    double gas = 0.0;
-    double dense = liquid;
-    for (int row = 0; row < StateTable::rows; ++row) {
-      const double P = std::exp(table->first.at(row));
-      if (subcritical && P > Ps) {
-        gas = vapour * (1.0 + std::clamp((P - Ps) * slopeV, 0.0, 0.5));
-      } else {
-        gas = density(part, P, row == 0 ? 1000.0 * P / (gasConstant * T) : gas * 1.14);
-      }
-      if (!subcritical) {
-        dense = gas;
-      } else if (P < Ps) {
-        dense = liquid * (1.0 + std::clamp((P - Ps) * slopeL, -0.2, 0.0));
-      } else {
-        dense = density(part, P, dense);
-      }
-      putState(*table, 0, row, column, T, dense, P);
-      putState(*table, 1, row, column, T, gas, P);
+    for (int row = 0; row < above; ++row) {
+      const double P = pressure(row);
+      gas[at(row)] =
+          density(part, P, row == 0 ? 1000.0 * P / (gasConstant * T) : gas[at(row - 1)] * 1.14);
+    }
+    if (!subcritical) dense = gas;
+    for (int row = 0; row < rows; ++row) {
+      double* const node = table->node.data() + row * DensityTable::columns + column;
+      node[0] = dense[at(row)];
+      node[DensityTable::layer] = gas[at(row)] / pressure(row);
     }
   }
   return table;
@@ -373,8 +396,8 @@ const LineTable& lineByPressure() {
   static const std::unique_ptr<LineTable> table = buildLineByPressure();
   return *table;
 }
-const StateTable& statesFromPT() {
-  static const std::unique_ptr<StateTable> table = buildStatesFromPT();
+const DensityTable& densityFromPT() {
+  static const std::unique_ptr<DensityTable> table = buildDensityFromPT();
   return *table;
 }
 const StateTable& statesFromPH() {

@@ -56,6 +56,20 @@ struct StateTable {
   std::array<FloatPair, 2 * std::size_t{layer}> node;
 };
 
+/// The density over ln P and T, for cubic interpolation. Two layers: of liquid, and over pressure,
+/// kg/(m3.MPa), of all that is not.
+struct DensityTable {
+  static constexpr int rows = 128;
+  static constexpr int columns = 160;
+  static constexpr int layer = rows * columns;
+
+  Axis first;
+  Axis second;
+  Focus firstFocus;
+  Focus secondFocus;
+  std::array<double, 2 * std::size_t{layer}> node;
+};
+
 /// The line over sqrt(Tc - T), and over sqrt(ln(Pc/P)). It ends where the phases become too alike.
 inline constexpr double lineBottom = 259.0;       // K
 inline constexpr double lineTop = 646.5;          // K
@@ -67,9 +81,9 @@ inline constexpr double logCriticalPressure = 3.0935393335569032;  // ln(22.055)
 
 /// The lowest pressure of the tables; below it steam is an ideal gas.
 inline constexpr double lowestPressure = 6e-4;  // MPa
-/// Over ln P and T: density of liquid (first layer); density over pressure, kg/(m3.MPa), of gas.
-[[nodiscard]] const StateTable& statesFromPT();
-/// Over ln P and h, s or u: temperature and density as above.
+[[nodiscard]] const DensityTable& densityFromPT();
+/// Over ln P and h, s or u: temperature, and density of liquid (first layer) or density over
+/// pressure, kg/(m3.MPa), of all that is not.
 [[nodiscard]] const StateTable& statesFromPH();
 [[nodiscard]] const StateTable& statesFromPS();
 [[nodiscard]] const StateTable& statesFromPU();

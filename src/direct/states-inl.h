@@ -56,7 +56,8 @@ HWY_INLINE N held(const N& relativeStep) {
   return min(max(relativeStep, N(-0.4)), N(0.6));
 }
 
-/// The density at pressure P and the temperature of the part, from a density nearby.
+/// The density at pressure P and the temperature of the part, from a density nearby, by Halley's
+/// method: dr = n/(1 + n P_rr/(2 P_r)) with Newton's step n. What it leaves is of the third order.
 template <class N>
 OnePhase<N> densityAt(const TemperaturePartOf<N>& part, const N& P, const N& start) {
   using Mask = typename NumberOf<N>::Mask;
@@ -65,10 +66,14 @@ OnePhase<N> densityAt(const TemperaturePartOf<N>& part, const N& P, const N& sta
   Mask found = RT < N(0.0);  // none
   for (int step = 0; step < newtonSteps; ++step) {
     const HelmholtzPointOf<N> point(part, density);
-    const N Pr = point.pressureSlope();
-    const N delta = held((P - point.pressure()) / Pr * 1000.0 / density);
+    const auto [Pr, Prr] = point.pressureSlopes();
+    const N newton = (P - point.pressure()) / Pr;
+    const N bend = min(max(0.5 * newton * Prr / Pr, N(-0.5)), N(1.0));
+    const N delta = held(newton / (1.0 + bend) * 1000.0 / density);
     density = select(found, density, density + density * delta);
-    found = found || (Pr > N(0.0) && errorAfter(delta, Pr, RT) < N(acceptedError));
+    const N curvature = 2.0 + 4.0 * RT / Pr;
+    const N error = abs(delta) * delta * delta * curvature * curvature;
+    found = found || (Pr > N(0.0) && error < N(acceptedError));
     if (every(found)) break;
   }
   return {part.T(), density, found};

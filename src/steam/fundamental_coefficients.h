@@ -99,6 +99,34 @@ inline constexpr GaussianTerm gaussianTable[] = {
 };
 static_assert(std::size(gaussianTable) == gaussianTerms);
 
+/// Coefficients p_j of a polynomial in d that is multiplied by exp(-alpha d^k). The highest power
+/// is the third derivative's of term 40.
+using BellPolynomial = std::array<double, 10>;
+
+/// The highest power that it has.
+[[nodiscard]] constexpr std::size_t degree(const BellPolynomial& p) {
+  std::size_t highest = p.size() - 1;
+  while (highest > 0 && p[highest] == 0.0) --highest;
+  return highest;
+}
+
+/// The polynomial of the n-th derivative by d of the Gaussian term's d^l exp(-alpha d^k): the
+/// derivative of d^j exp(-alpha d^k) is (j d^(j-1) - alpha k d^(j+k-1)) exp(-alpha d^k).
+[[nodiscard]] constexpr BellPolynomial bellPolynomial(const GaussianTerm& term, int n) {
+  BellPolynomial p{};
+  p[static_cast<std::size_t>(term.l)] = 1.0;
+  for (; n > 0; --n) {
+    BellPolynomial next{};
+    for (std::size_t j = 0; j < p.size(); ++j) {
+      if (p[j] == 0.0) continue;
+      if (j > 0) next[j - 1] += static_cast<double>(j) * p[j];
+      next[j + static_cast<std::size_t>(term.k) - 1] -= term.alpha * term.k * p[j];
+    }
+    p = next;
+  }
+  return p;
+}
+
 // Ideal-gas function, H. W. Woolley (1980):
 // Phi(T) = 1 + (C1/tau + C2) ln tau + sum C_i tau^(i-6), i = 3..18, tau = T/100 K.
 inline constexpr double C1 = 19.730271018;

@@ -24,6 +24,8 @@ bool inSight(const N& exponent) {
   return anyBelow(exponent, gaussianHorizon<N>);
 }
 
+using EveryGaussian = std::make_index_sequence<coefficients::gaussianTerms>;
+
 /// The functions of temperature that the fundamental equation is made of.
 template <class N>
 struct TemperatureTermsOf {
@@ -64,10 +66,9 @@ class TemperaturePartOf {
   TemperatureTermsOf<N> slope;      ///< T df/dT
   TemperatureTermsOf<N> curvature;  ///< T^2 d2f/dT2
 
-  /// Gaussian terms that a N can still see at this temperature: their numbers, and the
-  /// exponents beta_i tau_i^2.
-  std::array<int, coefficients::gaussianTerms> activeGaussian;
-  int activeGaussians = 0;
+  /// Whether a N can still see a Gaussian term at this temperature, and its exponent
+  /// beta_i tau_i^2; only then is it known.
+  std::array<bool, coefficients::gaussianTerms> gaussianSeen;
   std::array<N, coefficients::gaussianTerms> gaussianExponent;
 
  private:
@@ -75,6 +76,12 @@ class TemperaturePartOf {
   void computeValues();
   void computeSlopes();
   void computeCurvatures();
+  template <std::size_t i>
+  void computeGaussian();
+  template <std::size_t... i>
+  void computeGaussians(std::index_sequence<i...> /*all*/) {
+    (computeGaussian<i>(), ...);
+  }
 
   N T_;
   Order known_ = Order::none;
@@ -101,6 +108,13 @@ class HelmholtzPointOf {
     return RT() + r_ * slopeBeyondIdealGas(densityCurvature());
   }
 
+  /// dP/dr and d2P/dr2 at constant T, kJ/kg and kJ.cm3/(kg.g).
+  struct PressureSlopes {
+    N Pr;
+    N Prr;
+  };
+  [[nodiscard]] PressureSlopes pressureSlopes() const;
+
   // Order::energy --------------------------------------------------------------------------------
   [[nodiscard]] N internalEnergy() const;  ///< kJ/kg
   [[nodiscard]] N enthalpy() const { return internalEnergy() + pressureOverDensity_; }
@@ -126,12 +140,33 @@ class HelmholtzPointOf {
   [[nodiscard]] Derivatives derivatives() const;
 
  private:
-  /// d^l exp(-alpha d^k) of a Gaussian term, d = r/r_i - 1, and its derivatives in r.
+  /// exp(-alpha d^k) of a Gaussian term, d = r/r_i - 1, where a N can see it.
   struct Gaussian {
-    int term;
-    N value;
-    N slope;
+    bool seen;
+    N d;
+    N bell;
   };
+
+  // A term's d^l exp(-alpha d^k), differentiated `order` times by r.
+  template <std::size_t i, int order>
+  [[nodiscard]] N gaussian() const;
+  // The sum of all terms, with what depends on the temperature.
+  template <int order>
+  [[nodiscard]] N sumOfGaussians(const TemperatureTermsOf<N>& terms, N sum) const {
+    return addGaussians<order>(terms, sum, EveryGaussian());
+  }
+  template <int order, std::size_t... i>
+  [[nodiscard]] N addGaussians(const TemperatureTermsOf<N>& terms, N sum,
+                               std::index_sequence<i...> /*all*/) const {
+    ((gaussians_[i].seen ? void(sum += terms.gaussian[i] * gaussian<i, order>()) : void()), ...);
+    return sum;
+  }
+  template <std::size_t i>
+  void lookAtGaussian();
+  template <std::size_t... i>
+  void lookAtGaussians(std::index_sequence<i...> /*all*/) {
+    (lookAtGaussian<i>(), ...);
+  }
 
   /// f''(y) of the base function; S = dA_residual/dr and dS/dr.
   struct DensityCurvature {
@@ -153,14 +188,32 @@ class HelmholtzPointOf {
   N baseSlope_;            // f'(y)
   N pressureOverDensity_;  // kJ/kg
   std::array<Gaussian, coefficients::gaussianTerms> gaussians_;
-  int gaussianCount_ = 0;
 };
 
-template <class N>
-N integerPower(const N& base, int exponent) {
-  N power = N(1.0);
-  for (; exponent > 0; --exponent) power = power * base;
-  return power;
+// sum_j p_j d^(j-power), j from `power` on, of the polynomial of a Gaussian term's derivative.
+template <std::size_t i, int order, std::size_t power, class N>
+N bellPolynomial(const N& d) {
+  using namespace coefficients;
+  constexpr BellPolynomial p = bellPolynomial(gaussianTable[i], order);
+  if constexpr (power == degree(p)) {
+    return N(p[power]);
+  } else if constexpr (p[power] == 0.0) {
+    return bellPolynomial<i, order, power + 1>(d) * d;
+  } else {
+    return bellPolynomial<i, order, power + 1>(d) * d + p[power];
+  }
+}
+
+template <int exponent, class N>
+constexpr N integerPower(const N& base) {
+  if constexpr (exponent == 0) {
+    return N(1.0);
+  } else if constexpr (exponent == 1) {
+    return base;
+  } else {
+    const N half = integerPower<exponent / 2>(base);
+    return exponent % 2 == 0 ? half * half : half * half * base;
+  }
 }
 
 // sum_k c_k q^(k-1) for k = 1..7 and 9
@@ -175,6 +228,13 @@ template <class N>
 N slopeOfSeriesInQ(const ByDensityExponent<N>& c, const N& q) {
   const N high = (8.0 * c[7] * q * q + 6.0 * c[6]) * q + 5.0 * c[5];
   return (((high * q + 4.0 * c[4]) * q + 3.0 * c[3]) * q + 2.0 * c[2]) * q + c[1];
+}
+
+// sum_k (k-1)(k-2) c_k q^(k-3)
+template <class N>
+N curvatureOfSeriesInQ(const ByDensityExponent<N>& c, const N& q) {
+  const N high = (56.0 * c[7] * q * q + 30.0 * c[6]) * q + 20.0 * c[5];
+  return ((high * q + 12.0 * c[4]) * q + 6.0 * c[3]) * q + 2.0 * c[2];
 }
 
 // sum_k c_k/k q^k
@@ -212,15 +272,17 @@ void TemperaturePartOf<N>::computeValues() {
     for (std::size_t k = 0; k < row.size(); ++k) value.G[k] += row[k] * factor;
   }
 
-  activeGaussians = 0;
-  for (std::size_t i = 0; i < gaussianTerms; ++i) {
-    const GaussianTerm& term = gaussianTable[i];
-    const N tau = T_ / term.T - 1.0;
-    gaussianExponent[i] = term.beta * tau * tau;
-    if (!inSight(gaussianExponent[i])) continue;
-    value.gaussian[i] = term.g * exp(-gaussianExponent[i]);
-    activeGaussian[static_cast<std::size_t>(activeGaussians++)] = static_cast<int>(i);
-  }
+  computeGaussians(EveryGaussian());
+}
+
+template <class N>
+template <std::size_t i>
+void TemperaturePartOf<N>::computeGaussian() {
+  constexpr coefficients::GaussianTerm term = coefficients::gaussianTable[i];
+  const N tau = T_ / term.T - 1.0;
+  gaussianExponent[i] = term.beta * tau * tau;
+  gaussianSeen[i] = inSight(gaussianExponent[i]);
+  if (gaussianSeen[i]) value.gaussian[i] = term.g * exp(-gaussianExponent[i]);
 }
 
 // T d/dT: x^n gives -n x^n, ln(T/T0) gives 1.
@@ -237,8 +299,8 @@ void TemperaturePartOf<N>::computeSlopes() {
     for (std::size_t k = 0; k < row.size(); ++k) slope.G[k] += row[k] * factor;
   }
 
-  for (int n = 0; n < activeGaussians; ++n) {
-    const auto i = static_cast<std::size_t>(activeGaussian[static_cast<std::size_t>(n)]);
+  for (std::size_t i = 0; i < gaussianTerms; ++i) {
+    if (!gaussianSeen[i]) continue;
     const GaussianTerm& term = gaussianTable[i];
     const N tau = T_ / term.T - 1.0;
     slope.gaussian[i] = value.gaussian[i] * (-2.0 * term.beta * tau * (T_ / term.T));
@@ -272,8 +334,8 @@ void TemperaturePartOf<N>::computeCurvatures() {
     for (std::size_t k = 0; k < row.size(); ++k) curvature.G[k] += row[k] * factor;
   }
 
-  for (int n = 0; n < activeGaussians; ++n) {
-    const auto i = static_cast<std::size_t>(activeGaussian[static_cast<std::size_t>(n)]);
+  for (std::size_t i = 0; i < gaussianTerms; ++i) {
+    if (!gaussianSeen[i]) continue;
     const GaussianTerm& term = gaussianTable[i];
     const N reduced = T_ / term.T;
     const N first = -2.0 * term.beta * (reduced - 1.0) * reduced;
@@ -305,24 +367,33 @@ HelmholtzPointOf<N>::HelmholtzPointOf(const TemperaturePartOf<N>& temperature, c
   baseSlope_ =
       (alpha + 3.0 + (beta - 3.0 + y_) * y_) * inverseZ_ * inverseZ_ * inverseZ_ - 4.0 * gamma;
   N S = decay_ * seriesInQ(temperature.value.G, q_);  // dA_residual/dr
-  for (int n = 0; n < temperature.activeGaussians; ++n) {
-    const int i = temperature.activeGaussian[static_cast<std::size_t>(n)];
-    const GaussianTerm& term = gaussianTable[static_cast<std::size_t>(i)];
-    const N d = r_ / term.r - 1.0;
-    const N exponent = term.alpha * integerPower(d, term.k);
-    if (!inSight(exponent + temperature.gaussianExponent[static_cast<std::size_t>(i)])) continue;
-    // d/dd of d^l exp(-alpha d^k) = (l d^(l-1) - alpha k d^(k+l-1)) exp(-alpha d^k)
-    const N bell = exp(-exponent);
-    const N lowered = term.l == 0 ? N(0.0) : term.l * integerPower(d, term.l - 1);
-    gaussians_[static_cast<std::size_t>(gaussianCount_++)] = {
-        i, integerPower(d, term.l) * bell,
-        (lowered - term.alpha * term.k * integerPower(d, term.k + term.l - 1)) * bell / term.r};
-    S += temperature.value.gaussian[static_cast<std::size_t>(i)] *
-         gaussians_[static_cast<std::size_t>(gaussianCount_ - 1)].slope;
-  }
+  lookAtGaussians(EveryGaussian());
+  S = sumOfGaussians<1>(temperature.value, S);
   // P/r = R T (1 + y f' + r B) + r S
   pressureOverDensity_ =
       R * temperature.T() * (1.0 + y_ * baseSlope_ + r_ * temperature.value.B) + r_ * S;
+}
+
+template <class N>
+template <std::size_t i>
+void HelmholtzPointOf<N>::lookAtGaussian() {
+  constexpr coefficients::GaussianTerm term = coefficients::gaussianTable[i];
+  gaussians_[i].seen = t_->gaussianSeen[i];
+  if (!gaussians_[i].seen) return;
+  const N d = r_ / term.r - 1.0;
+  const N exponent = term.alpha * integerPower<term.k>(d);
+  gaussians_[i].seen = inSight(exponent + t_->gaussianExponent[i]);
+  if (!gaussians_[i].seen) return;
+  gaussians_[i].d = d;
+  gaussians_[i].bell = exp(-exponent);
+}
+
+template <class N>
+template <std::size_t i, int order>
+N HelmholtzPointOf<N>::gaussian() const {
+  constexpr double perR = 1.0 / coefficients::gaussianTable[i].r;
+  constexpr double factor = integerPower<order>(perR);
+  return bellPolynomial<i, order, 0>(gaussians_[i].d) * gaussians_[i].bell * factor;
 }
 
 // u = A - T A_T; in the base function R T F(y, r B, ln r T) this is -R T (T F_T).
@@ -335,11 +406,7 @@ N HelmholtzPointOf<N>::internalEnergy() const {
   ByDensityExponent<N> energy;
   for (std::size_t k = 0; k < energy.size(); ++k) energy[k] = f.G[k] - f1.G[k];
   u += integralOfSeriesInQ(energy, q_);
-  for (int n = 0; n < gaussianCount_; ++n) {
-    const Gaussian& bell = gaussians_[static_cast<std::size_t>(n)];
-    const auto i = static_cast<std::size_t>(bell.term);
-    u += (f.gaussian[i] - f1.gaussian[i]) * bell.value;
-  }
+  u += sumOfGaussians<0>(f, N(0.0)) - sumOfGaussians<0>(f1, N(0.0));
   return u + constants::referenceEnergy;
 }
 
@@ -353,11 +420,7 @@ N HelmholtzPointOf<N>::helmholtzOfDensity() const {
   N a = RT * (logarithm + (0.5 * (alpha + beta + 1.0) * inverseZ_ - (beta - 1.0)) * inverseZ_ -
               4.0 * gamma * y_ - 0.5 * (alpha - beta + 3.0) + r_ * t_->value.B);
   a += integralOfSeriesInQ(t_->value.G, q_);
-  for (int n = 0; n < gaussianCount_; ++n) {
-    const Gaussian& bell = gaussians_[static_cast<std::size_t>(n)];
-    a += t_->value.gaussian[static_cast<std::size_t>(bell.term)] * bell.value;
-  }
-  return a;
+  return sumOfGaussians<0>(t_->value, a);
 }
 
 template <class N>
@@ -382,21 +445,8 @@ typename HelmholtzPointOf<N>::DensityCurvature HelmholtzPointOf<N>::densityCurva
            3.0 * (baseSlope_ + 4.0 * gamma) * inverseZ_;
   c.S = decay_ * seriesInQ(f.G, q_);
   c.Sr = decay_ * decay_ * slopeOfSeriesInQ(f.G, q_) - c.S;
-  for (int n = 0; n < gaussianCount_; ++n) {
-    const Gaussian& bell = gaussians_[static_cast<std::size_t>(n)];
-    const auto i = static_cast<std::size_t>(bell.term);
-    const GaussianTerm& term = gaussianTable[i];
-    // second derivative of d^l exp(-alpha d^k)
-    const N d = r_ / term.r - 1.0;
-    const double ak = term.alpha * term.k;
-    const N lowered = term.l < 2 ? N(0.0) : term.l * (term.l - 1) * integerPower(d, term.l - 2);
-    const N second =
-        (lowered - ak * (term.k + 2 * term.l - 1) * integerPower(d, term.k + term.l - 2) +
-         ak * ak * integerPower(d, 2 * term.k + term.l - 2)) *
-        exp(-term.alpha * integerPower(d, term.k)) / (term.r * term.r);
-    c.S += f.gaussian[i] * bell.slope;
-    c.Sr += f.gaussian[i] * second;
-  }
+  c.S = sumOfGaussians<1>(f, c.S);
+  c.Sr = sumOfGaussians<2>(f, c.Sr);
   return c;
 }
 
@@ -405,6 +455,27 @@ template <class N>
 N HelmholtzPointOf<N>::slopeBeyondIdealGas(const DensityCurvature& c) const {
   const TemperatureTermsOf<N>& f = t_->value;
   return RT() * (0.25 * f.b * (2.0 * baseSlope_ + y_ * c.base) + 2.0 * f.B) + 2.0 * c.S + r_ * c.Sr;
+}
+
+// P_rr = R T (b/4 (2 f' + 4 y f'' + y^2 f''') + 2 B) + 2 S + 4 r S_r + r^2 S_rr
+template <class N>
+typename HelmholtzPointOf<N>::PressureSlopes HelmholtzPointOf<N>::pressureSlopes() const {
+  using namespace coefficients;
+  const TemperatureTermsOf<N>& f = t_->value;
+  const DensityCurvature c = densityCurvature();
+  const N perZ3 = inverseZ_ * inverseZ_ * inverseZ_;
+  const N base =  // f'''(y)
+      (2.0 + 6.0 * (beta - 3.0 + 2.0 * y_) * inverseZ_) * perZ3 +
+      12.0 * (baseSlope_ + 4.0 * gamma) * inverseZ_ * inverseZ_;
+  // The same without the Gaussian terms: S_r + S = e^(-2r) Q'(q), S_rr = e^(-3r) Q'' - 2 e^(-2r) Q'
+  // - S_r.
+  const N fromQ = decay_ * decay_ * slopeOfSeriesInQ(f.G, q_);
+  N Srr = decay_ * decay_ * decay_ * curvatureOfSeriesInQ(f.G, q_) - 3.0 * fromQ +
+          decay_ * seriesInQ(f.G, q_);
+  Srr = sumOfGaussians<3>(f, Srr);
+  return {RT() + r_ * slopeBeyondIdealGas(c),
+          RT() * (0.25 * f.b * (2.0 * baseSlope_ + y_ * (4.0 * c.base + y_ * base)) + 2.0 * f.B) +
+              2.0 * c.S + r_ * (4.0 * c.Sr + r_ * Srr)};
 }
 
 template <class N>
@@ -419,12 +490,8 @@ typename HelmholtzPointOf<N>::Derivatives HelmholtzPointOf<N>::derivatives() con
   // T dS/dT and T^2 A_TT of the residual function
   N ST = decay_ * seriesInQ(f1.G, q_);
   N ATT = integralOfSeriesInQ(f2.G, q_);
-  for (int n = 0; n < gaussianCount_; ++n) {
-    const Gaussian& bell = gaussians_[static_cast<std::size_t>(n)];
-    const auto i = static_cast<std::size_t>(bell.term);
-    ST += f1.gaussian[i] * bell.slope;
-    ATT += f2.gaussian[i] * bell.value;
-  }
+  ST = sumOfGaussians<1>(f1, ST);
+  ATT = sumOfGaussians<0>(f2, ATT);
 
   Derivatives d;
   d.X = slopeBeyondIdealGas(c);

@@ -18,6 +18,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "steam/fundamental_coefficients.h"
 
