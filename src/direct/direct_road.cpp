@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include "direct/kernels.h"
@@ -26,6 +27,13 @@ struct Order {
 };
 
 using Places = std::array<short, blockSize>;
+
+// Each in its own place.
+constexpr Places inOrder = [] {
+  Places places{};
+  for (std::size_t i = 0; i < places.size(); ++i) places[i] = static_cast<short>(i);
+  return places;
+}();
 
 // The states of a block that go one way, with the place of each in the block.
 struct Group {
@@ -63,13 +71,34 @@ MemberRoad& memberRoad() {
   return road;
 }
 
+// Whether all states go one way. The loops over blocks are written for the compiler's lanes.
+bool allGo(Way way, const States& states, int count) {
+  std::uint64_t others = 0;
+  for (std::size_t i = 0; i < static_cast<std::size_t>(count); ++i) {
+    others |= states.way[i] == static_cast<double>(way) ? 0U : 1U;
+  }
+  return others == 0;
+}
+
+bool allFinite(const Block& values, std::size_t count) {
+  constexpr double greatest = std::numeric_limits<double>::max();
+  std::uint64_t others = 0;
+  for (std::size_t i = 0; i < count; ++i) others |= std::fabs(values[i]) <= greatest ? 0U : 1U;
+  return others == 0;
+}
+
 // Parts the decided states by the way that they go; `left` are the members'.
 int part(int count, Answers& answers, Places& left) {
   Group& one = answers.one;
   Group& two = answers.two;
   States& states = one.states;
-  one.count = 0;
   two.count = 0;
+  if (allGo(Way::onePhase, states, count)) {
+    one.count = count;
+    one.origin = inOrder;
+    return 0;
+  }
+  one.count = 0;
   int leftCount = 0;
   for (int i = 0; i < count; ++i) {
     const auto at = static_cast<std::size_t>(i);
@@ -178,9 +207,15 @@ void work(const Order& order, int count, Answers& answers) {
     kernels.solveTwoPhases(order.pair, order.wanted, two.count, two.states, two.values);
   }
   const int decided = leftCount;
+  answers.plain = one.count == count && allGo(Way::onePhase, one.states, count);
+  if (answers.plain) {
+    answers.status.fill(0);
+    answers.isTwo.fill(false);
+    answers.place = inOrder;
+    return;
+  }
   leftCount = settle(one, false, answers, left, leftCount);
   leftCount = settle(two, true, answers, left, leftCount);
-  answers.plain = one.count == count && leftCount == decided;
   if (leftCount > 0) solveAsMember(order, left, leftCount, decided, answers);
 }
 
@@ -246,6 +281,7 @@ int statusOf(const Point& point, Letter letter, double P) {
   return checkTransport(letter, P, point.T());
 }
 
+bool isModelUnit(const Unit& unit) { return unit.factor == 1.0 && unit.offset == 0.0; }
 double toModel(const Unit& unit, double x) { return (x + unit.offset) * unit.factor; }
 double toClient(const Unit& unit, double x) { return x / unit.factor - unit.offset; }
 
@@ -305,9 +341,10 @@ Phase phaseOf(const Answers& answers, std::size_t i, Pair pair) {
                  firstOf(pair) == Letter::P ? answers.first[i] : point.value(Letter::P));
 }
 
-// A letter's values of a whole block, in its places, model units; NaN where a state failed.
-void collect(const Request& request, const Answers& answers, Letter letter, int count,
-             Block& values) {
+// A letter's values of a whole block, in its places, model units; NaN where a state failed. They
+// are put into `values` unless they stand somewhere already.
+const Block& collect(const Request& request, const Answers& answers, Letter letter, int count,
+                     Block& values) {
   const Pair pair = ofDensity(request.pair);
   const auto n = static_cast<std::size_t>(count);
   // What was given is answered as it was given.
@@ -326,24 +363,34 @@ void collect(const Request& request, const Answers& answers, Letter letter, int 
       const Point point(answers, i, pair);
       values[i] = compressibilityFactor(answers.first[i], point.T(), point.density());
     }
-    return;
+    return values;
   }
   if (answers.plain && (given != nullptr || letter != Letter::Q)) {
-    const Block& source = given != nullptr ? *given : answers.one.values.value[letterAt];
-    std::copy_n(source.begin(), n, values.begin());
-  } else {
-    for (std::size_t i = 0; i < n; ++i) {
-      if (answers.status[i] != 0) {
-        values[i] = nothing;
-      } else if (given != nullptr) {
-        values[i] = (*given)[i];
-      } else if (letter == Letter::Q && !answers.isTwo[i]) {
-        values[i] = qualityOfOnePhase(request.pair, answers.second[i], phaseOf(answers, i, pair));
-      } else {
-        values[i] = Point(answers, i, pair).value(letter);
-      }
+    return given != nullptr ? *given : answers.one.values.value[letterAt];
+  }
+  for (std::size_t i = 0; i < n; ++i) {
+    if (answers.status[i] != 0) {
+      values[i] = nothing;
+    } else if (given != nullptr) {
+      values[i] = (*given)[i];
+    } else if (letter == Letter::Q && !answers.isTwo[i]) {
+      values[i] = qualityOfOnePhase(request.pair, answers.second[i], phaseOf(answers, i, pair));
+    } else {
+      values[i] = Point(answers, i, pair).value(letter);
     }
   }
+  return values;
+}
+
+void readColumn(const Column& column, const Unit& unit, std::size_t begin, int count, double* to) {
+  const double* from = column.data + static_cast<std::ptrdiff_t>(begin) * column.stride;
+  if (column.stride == 1) {
+    std::copy_n(from, count, to);
+  } else {
+    for (int i = 0; i < count; ++i) to[i] = from[i * column.stride];
+  }
+  if (isModelUnit(unit)) return;
+  for (int i = 0; i < count; ++i) to[i] = toModel(unit, to[i]);
 }
 
 template <class T>
@@ -365,11 +412,10 @@ void evaluateBlock(const Request& request, const Order& order, std::size_t begin
   const Unit& unitB = units[static_cast<std::size_t>(b)];
   const auto n = static_cast<std::size_t>(count);
   Answers answers;
-  for (std::size_t i = 0; i < n; ++i) {
-    const auto at = static_cast<std::ptrdiff_t>(begin + i);
-    answers.first[i] = toModel(unitA, request.first.data[at * request.first.stride]);
-    answers.second[i] = toModel(unitB, request.second.data[at * request.second.stride]);
-    if (b == Letter::V) answers.second[i] = volumeToDensity(answers.second[i]);
+  readColumn(request.first, unitA, begin, count, answers.first.data());
+  readColumn(request.second, unitB, begin, count, answers.second.data());
+  if (b == Letter::V) {
+    for (std::size_t i = 0; i < n; ++i) answers.second[i] = volumeToDensity(answers.second[i]);
   }
   work(order, count, answers);
 
@@ -377,8 +423,8 @@ void evaluateBlock(const Request& request, const Order& order, std::size_t begin
   if (allGood) {
     for (const Result& result : request.results) {
       if (result.letter == Letter::Q) continue;
-      const Block& values = answers.one.values.value[static_cast<std::size_t>(result.letter)];
-      for (std::size_t i = 0; i < n; ++i) allGood &= std::isfinite(values[i]);
+      allGood = allGood &&
+                allFinite(answers.one.values.value[static_cast<std::size_t>(result.letter)], n);
     }
   }
   if (!allGood) {
@@ -392,11 +438,13 @@ void evaluateBlock(const Request& request, const Order& order, std::size_t begin
   Block column;
   for (const Result& result : request.results) {
     const Unit& unit = units[static_cast<std::size_t>(result.letter)];
-    collect(request, answers, result.letter, count, column);
-    if (unit.factor != 1.0 || unit.offset != 0.0) {
-      for (std::size_t i = 0; i < n; ++i) column[i] = toClient(unit, column[i]);
+    const Block& values = collect(request, answers, result.letter, count, column);
+    if (isModelUnit(unit)) {
+      writeColumn(result.value, begin, count, values.data());
+    } else {
+      for (std::size_t i = 0; i < n; ++i) column[i] = toClient(unit, values[i]);
+      writeColumn(result.value, begin, count, column.data());
     }
-    writeColumn(result.value, begin, count, column.data());
     if (result.byFirst.data == nullptr && result.bySecond.data == nullptr) continue;
     Block byFirst;
     Block bySecond;
@@ -487,8 +535,8 @@ int evaluate(Pair pair, double first, double second, std::span<const Letter> let
   answers.status[0] = static_cast<short>(statusOf(request, answers, 0, order.pair));
   Block value;
   for (std::size_t i = 0; i < letters.size(); ++i) {
-    collect(request, answers, letters[i], 1, value);
-    values[i] = answers.status[0] == 0 ? value[0] : nothing;
+    const double found = collect(request, answers, letters[i], 1, value)[0];
+    values[i] = answers.status[0] == 0 ? found : nothing;
   }
   return answers.status[0];
 }

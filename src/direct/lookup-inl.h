@@ -66,23 +66,44 @@ HWY_INLINE N focused(const Focus& focus, const N& x) {
   return from / (focus.width + abs(from));
 }
 
-/// The value of a density table at ln P and T; `layer` is 0.0 or 1.0.
+/// A place on the density table.
 template <class N>
-HWY_INLINE N readDensity(const DensityTable& table, const N& logP, const N& T, const N& layer) {
-  constexpr int columns = DensityTable::columns;
-  const N x = (focused(table.firstFocus, logP) - table.first.low) * table.first.perUnit();
-  const N y = (focused(table.secondFocus, T) - table.second.low) * table.second.perUnit();
-  const N row = nodeBefore(x, DensityTable::rows);
-  const N column = nodeBefore(y, columns);
-  N node;
-  const auto index =
-      NumberOf<N>::nearest(layer * DensityTable::layer + row * columns + column, node);
-  const CubicWeights<N> of(y - column);
-  const CubicWeights<N> byP(x - row);
-  const double* const at = table.node.data();
-  return byP.w0 * of(at - columns, index) + byP.w1 * of(at, index) +
-         byP.w2 * of(at + columns, index) + byP.w3 * of(at + 2 * columns, index);
-}
+struct DensityPlace {
+  const DensityTable& table;
+  N row;
+  N column;
+  CubicWeights<N> byP;
+  CubicWeights<N> byT;
+
+  HWY_INLINE DensityPlace(const DensityTable& t, const N& logP, const N& T)
+      : DensityPlace(t, (focused(t.firstFocus, logP) - t.first.low) * t.first.perUnit(),
+                     (focused(t.secondFocus, T) - t.second.low) * t.second.perUnit(), onAxes()) {}
+
+  /// ln P of the border between the layers.
+  [[nodiscard]] HWY_INLINE N border() const {
+    N node;
+    return byT(table.border.data(), NumberOf<N>::nearest(column, node));
+  }
+  /// The value of a layer, 0.0 or 1.0.
+  [[nodiscard]] HWY_INLINE N operator()(const N& layer) const {
+    constexpr int columns = DensityTable::columns;
+    N node;
+    const auto index =
+        NumberOf<N>::nearest(layer * DensityTable::layer + row * columns + column, node);
+    const double* const at = table.node.data();
+    return byP.w0 * byT(at - columns, index) + byP.w1 * byT(at, index) +
+           byP.w2 * byT(at + columns, index) + byP.w3 * byT(at + 2 * columns, index);
+  }
+
+ private:
+  struct onAxes {};
+  HWY_INLINE DensityPlace(const DensityTable& t, const N& x, const N& y, onAxes /*tag*/)
+      : table(t),
+        row(nodeBefore(x, DensityTable::rows)),
+        column(nodeBefore(y, DensityTable::columns)),
+        byP(x - row),
+        byT(y - column) {}
+};
 
 /// Both values of a state table, by quadratic interpolation around the nearest node; `layer` is 0.0
 /// or 1.0.

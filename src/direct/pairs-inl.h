@@ -10,8 +10,10 @@ constexpr double member = static_cast<double>(Way::member);
 constexpr double nearLine = 2e-6;
 // A mixture this close to one of its phases.
 constexpr double nearQuality = 1e-9;
-// Of the saturation pressure: where (P, T) asks for the exact line, and more.
-constexpr double nearPressure = 0.0055;
+// Of the saturation pressure: where the members answer two phases to (P, T), and more; and what the
+// border of the density table may be wrong by, and more.
+constexpr double onLine = 1.001e-4;
+constexpr double nearBorder = 1e-3;
 // Below the triple point the members have rules of their own.
 constexpr double lowestTemperature = constants::triplePointTemperature + 0.01;
 constexpr double highestTemperature = 2500.0 - 1e-3;
@@ -72,27 +74,32 @@ struct Decision {
   N vapour;
 };
 
-// (P, T): the correlation decides away from the line, as the members do.
+// (P, T): the border of the table decides, next to it the exact line as far as the tables know it.
 template <class N>
 Decision<N> decidePT(const N& P, const N& T) {
   const MaskOf<N> sane =
       within(P, 1e-12, highestPressure) && within(T, 260.0 - 1e-9, highestTemperature + 1e-3);
-  const N cold = min(max(T, N(200.0)), N(constants::criticalTemperature));
-  const N Ps = saturation::pressure(cold);
-  const MaskOf<N> subcritical = T < N(constants::criticalTemperature);
-  const MaskOf<N> near = subcritical && (abs(P - Ps) < nearPressure * Ps ||
-                                         (T < N(lowestTemperature) && P < N(lowestOfLine)));
-  // Beyond the critical point the isochore of its density goes on from the line.
-  const N boundary = select(subcritical, Ps, constants::criticalPressure + 0.27 * (T - cold));
-  const N layer = select(P > boundary, N(0.0), N(1.0));
-  Decision<N> d;
   const N safeP = select(sane, P, N(1.0));
-  const DensityTable& table = densityFromPT();
+  const N logP = log(safeP);
+  Decision<N> d;
   d.T = select(sane, T, N(600.0));
-  const N stored = readDensity(table, log(safeP), d.T, layer);
-  d.density = select(layer > N(0.5), stored * safeP, stored);
   d.vapour = N(0.0);
-  d.way = select(sane && !near, N(onePhase), N(member));
+  const DensityPlace<N> place(densityFromPT(), logP, d.T);
+  const N border = place.border();
+  MaskOf<N> isDense = logP > border;
+  MaskOf<N> undecided = d.T < N(constants::criticalTemperature) &&
+                        (abs(logP - border) < N(nearBorder) ||
+                         (d.T < N(lowestTemperature) && safeP < N(lowestOfLine)));
+  if (any(undecided)) {
+    const LineTable& line = lineByTemperature();
+    const N Ps = placeAtT(line, min(d.T, N(lineTop)))(line.column[LineTable::P]);
+    const MaskOf<N> known = undecided && within(d.T, lowestTemperature, lineTop);
+    isDense = (isDense && !known) || (safeP > Ps && known);
+    undecided = undecided && !(known && abs(safeP - Ps) > onLine * Ps);
+  }
+  const N stored = place(select(isDense, N(0.0), N(1.0)));
+  d.density = select(isDense, stored, stored * safeP);
+  d.way = select(sane && !undecided, N(onePhase), N(member));
   return d;
 }
 

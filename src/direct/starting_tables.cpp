@@ -163,18 +163,19 @@ std::unique_ptr<DensityTable> buildDensityFromPT() {
     TemperaturePart part;
     part.prepare(T, TemperatureOrder::energy);
     const bool subcritical = T < criticalTemperature;
+    const auto at = [](int i) { return static_cast<std::size_t>(i); };
     std::array<double, rows> dense;
     std::array<double, rows> gas;
     int above = 0;  // the first row above the line
     const auto pressure = [&](int row) {
       return std::exp(unfocused(table->firstFocus, table->first.at(row)));
     };
-    const auto at = [](int row) { return static_cast<std::size_t>(row); };
     // Below the critical temperature both phases go on beyond the line, as far as they are stable,
     // and from there on straight.
     if (subcritical) {
       const LinePlace<double> place = placeAtT(line, std::clamp(T, lineBottom, lineTop));
       const double Ps = T < lineTop ? place(line.column[LineTable::P]) : saturation::pressure(T);
+      table->border[at(column)] = std::log(Ps);
       while (pressure(above) <= Ps) ++above;
       const auto goOn = [&](LineTable::Name phase, int begin, int end, double lowest,
                             double highest, std::array<double, rows>& densities) {
@@ -198,6 +199,9 @@ std::unique_ptr<DensityTable> buildDensityFromPT() {
         dense[at(row)] = last = density(part, pressure(row), last);
       }
     } else {
+      constexpr double slope = 0.27;  // MPa/K
+      table->border[at(column)] =
+          std::log(constants::criticalPressure + slope * (T - criticalTemperature));
       above = rows;
     }
     for (int row = 0; row < above; ++row) {

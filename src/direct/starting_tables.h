@@ -57,7 +57,8 @@ struct StateTable {
 };
 
 /// The density over ln P and T, for cubic interpolation. Two layers: of liquid, and over pressure,
-/// kg/(m3.MPa), of all that is not.
+/// kg/(m3.MPa), of all that is not. What parts them is the saturation line and beyond the critical
+/// point the isochore of its density.
 struct DensityTable {
   static constexpr int rows = 128;
   static constexpr int columns = 160;
@@ -67,6 +68,7 @@ struct DensityTable {
   Axis second;
   Focus firstFocus;
   Focus secondFocus;
+  std::array<double, columns> border;  // ln P over T
   std::array<double, 2 * std::size_t{layer}> node;
 };
 

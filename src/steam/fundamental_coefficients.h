@@ -167,7 +167,5 @@ inline constexpr std::array<ResidualRow, highestTemperatureExponent + 1> residua
       }
       return rows;
     }();
-// The exponents l that occur.
-inline constexpr std::array<int, 6> temperatureExponents{0, 1, 2, 3, 4, 6};
 
 }  // namespace calvex::coefficients

@@ -25,6 +25,9 @@ bool inSight(const N& exponent) {
 }
 
 using EveryGaussian = std::make_index_sequence<coefficients::gaussianTerms>;
+using EveryDensityExponent = std::make_index_sequence<coefficients::densityExponents.size()>;
+using EveryTemperatureExponent =
+    std::make_index_sequence<coefficients::highestTemperatureExponent + 1>;
 
 /// The functions of temperature that the fundamental equation is made of.
 template <class N>
@@ -76,6 +79,26 @@ class TemperaturePartOf {
   void computeValues();
   void computeSlopes();
   void computeCurvatures();
+  // G_k = sum_l g_kl x^l, or T^n d^n/dT^n of it, without the terms that are 0.
+  template <int n, std::size_t... l>
+  void sumResidual(ByDensityExponent<N>& G, std::index_sequence<l...> /*all*/) {
+    G.fill(N(0.0));
+    (addResidual<n, l>(G, EveryDensityExponent()), ...);
+  }
+  template <int n, std::size_t l, std::size_t... k>
+  void addResidual(ByDensityExponent<N>& G, std::index_sequence<k...> /*all*/) {
+    constexpr int exponent = static_cast<int>(l);
+    constexpr double differentiated = n == 0 ? 1.0 : n == 1 ? -exponent : exponent * (exponent + 1);
+    if constexpr (differentiated != 0.0) {
+      const N factor = differentiated * power_[l];
+      (addTerm<l, k>(G[k], factor), ...);
+    }
+  }
+  template <std::size_t l, std::size_t k>
+  void addTerm(N& sum, const N& factor) {
+    constexpr double g = coefficients::residualByTemperature[l][k];
+    if constexpr (g != 0.0) sum += g * factor;
+  }
   template <std::size_t i>
   void computeGaussian();
   template <std::size_t... i>
@@ -265,12 +288,7 @@ void TemperaturePartOf<N>::computeValues() {
   value.b = b1 + b2 * logReduced_ + b4 * power_[3] + b6 * power_[5];
   value.B = B1 + B3 * x + B4 * power_[2] + B6 * power_[4];
 
-  value.G.fill(N(0.0));
-  for (const int l : temperatureExponents) {
-    const ResidualRow& row = residualByTemperature[static_cast<std::size_t>(l)];
-    const N& factor = power_[static_cast<std::size_t>(l)];
-    for (std::size_t k = 0; k < row.size(); ++k) value.G[k] += row[k] * factor;
-  }
+  sumResidual<0>(value.G, EveryTemperatureExponent());
 
   computeGaussians(EveryGaussian());
 }
@@ -292,12 +310,7 @@ void TemperaturePartOf<N>::computeSlopes() {
   slope.b = b2 - 3.0 * b4 * power_[3] - 5.0 * b6 * power_[5];
   slope.B = -(B3 * power_[1] + 2.0 * B4 * power_[2] + 4.0 * B6 * power_[4]);
 
-  slope.G.fill(N(0.0));
-  for (const int l : temperatureExponents) {
-    const ResidualRow& row = residualByTemperature[static_cast<std::size_t>(l)];
-    const N factor = -l * power_[static_cast<std::size_t>(l)];
-    for (std::size_t k = 0; k < row.size(); ++k) slope.G[k] += row[k] * factor;
-  }
+  sumResidual<1>(slope.G, EveryTemperatureExponent());
 
   for (std::size_t i = 0; i < gaussianTerms; ++i) {
     if (!gaussianSeen[i]) continue;
@@ -327,12 +340,7 @@ void TemperaturePartOf<N>::computeCurvatures() {
   curvature.b = -b2 + 12.0 * b4 * power_[3] + 30.0 * b6 * power_[5];
   curvature.B = 2.0 * B3 * power_[1] + 6.0 * B4 * power_[2] + 20.0 * B6 * power_[4];
 
-  curvature.G.fill(N(0.0));
-  for (const int l : temperatureExponents) {
-    const ResidualRow& row = residualByTemperature[static_cast<std::size_t>(l)];
-    const N factor = l * (l + 1) * power_[static_cast<std::size_t>(l)];
-    for (std::size_t k = 0; k < row.size(); ++k) curvature.G[k] += row[k] * factor;
-  }
+  sumResidual<2>(curvature.G, EveryTemperatureExponent());
 
   for (std::size_t i = 0; i < gaussianTerms; ++i) {
     if (!gaussianSeen[i]) continue;
