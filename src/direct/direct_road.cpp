@@ -240,10 +240,15 @@ Phase phaseOf(double T, double density, double P) {
   return density > constants::criticalDensity ? Phase::liquid : Phase::vapour;
 }
 
-// The vapour fraction that the members give a state of one phase.
-double qualityOfOnePhase(Pair pair, double second, Phase phase) {
-  if (phase == Phase::liquid) return 0.0;
-  return phase == Phase::supercritical && liquidLike(secondOf(pair), second) ? 0.0 : 1.0;
+// The vapour fraction that the members give a state of one phase: by the side of the saturation
+// line that they start from, which ends at the critical value of the pressure or temperature given.
+double qualityOfOnePhase(Pair pair, double first, double second, double density) {
+  const bool beyond = firstOf(pair) == Letter::P   ? first >= constants::criticalPressure
+                      : firstOf(pair) == Letter::T ? first >= constants::criticalTemperature
+                                                   : false;
+  const bool isLiquid =
+      beyond ? liquidLike(secondOf(pair), second) : density > constants::criticalDensity;
+  return isLiquid ? 0.0 : 1.0;
 }
 
 constexpr Letters transportRanges =
@@ -285,8 +290,8 @@ bool isModelUnit(const Unit& unit) { return unit.factor == 1.0 && unit.offset ==
 double toModel(const Unit& unit, double x) { return (x + unit.offset) * unit.factor; }
 double toClient(const Unit& unit, double x) { return x / unit.factor - unit.offset; }
 
-// A volume of 0 has no density, and a negative one fails as it is.
-double volumeToDensity(double volume) { return volume >= 0.0 ? 1.0 / volume : volume; }
+// A volume of 0 has no density, whatever its sign, and a negative one fails as it is.
+double volumeToDensity(double volume) { return volume >= 0.0 ? 1.0 / std::fabs(volume) : volume; }
 
 Pair ofDensity(Pair pair) {
   return pair == Pair::PV ? Pair::PR : pair == Pair::TV ? Pair::TR : pair;
@@ -374,7 +379,8 @@ const Block& collect(const Request& request, const Answers& answers, Letter lett
     } else if (given != nullptr) {
       values[i] = (*given)[i];
     } else if (letter == Letter::Q && !answers.isTwo[i]) {
-      values[i] = qualityOfOnePhase(request.pair, answers.second[i], phaseOf(answers, i, pair));
+      values[i] = qualityOfOnePhase(pair, answers.first[i], answers.second[i],
+                                    Point(answers, i, pair).density());
     } else {
       values[i] = Point(answers, i, pair).value(letter);
     }

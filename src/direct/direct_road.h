@@ -128,8 +128,8 @@ struct Request {
 void evaluate(const Request& request, std::size_t begin, std::size_t end) noexcept;
 
 /// One state through the same code with one lane: `values[i]` receives `letters[i]`. Answers the
-/// status; on failure the values are NaN. Model units. Allocates nothing once the thread has made
-/// its first call.
+/// status; on failure the values are NaN. Model units. Allocates nothing for a state that it
+/// answers, once the thread has made its first call from that pair.
 int evaluate(Pair pair, double first, double second, std::span<const Letter> letters,
              double* values) noexcept;
 

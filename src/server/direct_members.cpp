@@ -24,9 +24,6 @@ std::optional<DirectMember> directMember(const Member& member) {
   for (int i = 0; i < PropertyMember::count; ++i) {
     const PropertyMember& row = propertyMember(static_cast<PropertyMember::Index>(i));
     if (row.name != member.name) continue;
-    // The direct road answers 1 for a liquid above the critical pressure, the members from a
-    // temperature 0 (QTV at 293.15 K and 0.0009 m3/kg).
-    if (row.result == Quantity::Letter::Q && row.first == Quantity::Letter::T) return std::nullopt;
     const auto pair = pairOf(letterOf(row.first), letterOf(row.second));
     if (!pair) return std::nullopt;
     return DirectMember{*pair, letterOf(row.result)};

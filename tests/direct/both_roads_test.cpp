@@ -1,4 +1,5 @@
-// Two roads, one truth: what the members answer and refuse, the direct road answers and refuses.
+// Two roads, one truth: what the members answer and refuse, the direct road answers and refuses,
+// with every instruction set of the machine.
 //
 //   CALVEX_DIRECT_STATES=10000000 calvex_test_direct --gtest_filter='*BothRoads*'
 //
@@ -70,42 +71,77 @@ class BothRoads : public testing::TestWithParam<PairMembers> {};
 
 TEST_P(BothRoads, AgreeOnRandomStatesAndNonsense) {
   const PairMembers& row = GetParam();
-  const std::size_t all = stateCount(4000);
+  const std::size_t all = stateCount("CALVEX_DIRECT_STATES", 4000);
   constexpr std::size_t portion = 1000;
   ZvThermoInt engine;
   prepare(engine);
   RandomInputs inputs(row.pair, 11);
   Grid grid(row.name);
   std::size_t succeeded = 0;
+  const auto sets = direct::instructionSets();
   for (std::size_t done = 0; done < all; done += portion) {
-    std::array<double, portion> first, second, a, b;
-    std::array<short, portion> status;
+    std::array<double, portion> first, second;
     for (std::size_t i = 0; i < portion; ++i) inputs.next(first[i], second[i]);
-    const direct::Result results[] = {{row.letters[0], {a.data()}}, {row.letters[1], {b.data()}}};
-    direct::Request request{row.pair, {first.data()}, {second.data()}, results};
-    request.status = {status.data()};
-    direct::evaluate(request, 0, portion);
+    struct Expected {
+      int number;
+      double values[2];
+      double quality;
+    };
+    std::array<Expected, portion> members;
     for (std::size_t i = 0; i < portion; ++i) {
-      const std::string at = fmt::format("{:.17g}, {:.17g}", first[i], second[i]);
-      const double values[] = {a[i], b[i]};
       for (int k = 0; k < 2; ++k) {
-        double expected = 0.0;
         engine.ClearTraceInfo();
-        const bool success = (engine.*row.members[k])(&expected, first[i], second[i]) != 0;
+        const bool success =
+            (engine.*row.members[k])(&members[i].values[k], first[i], second[i]) != 0;
         const int number = success ? 0 : numberOf(engine.LastError());
-        grid.holds(number == status[i],
-                   fmt::format("{}: message {}, the member's is {}", at, status[i], number));
-        if (!success || status[i] != 0) {
-          grid.holds(success || std::isnan(values[k]), at + ": a number of a failed state");
-          continue;
+        grid.holds(k == 0 || number == members[i].number,
+                   fmt::format("{:.17g}, {:.17g}: the members differ", first[i], second[i]));
+        members[i].number = number;
+      }
+      if (row.quality == nullptr || members[i].number != 0) continue;
+      grid.holds((engine.*row.quality)(&members[i].quality, first[i], second[i]) != 0,
+                 fmt::format("{:.17g}, {:.17g}: no quality", first[i], second[i]));
+    }
+    for (const std::string_view set : sets) {
+      // All of a long run by the best one, and a hundredth of it by each of the others.
+      if (set != sets.front() && done % (100 * portion) >= 4 * portion) continue;
+      ASSERT_TRUE(direct::useInstructionSet(set));
+      std::array<double, portion> a, b, quality;
+      std::array<short, portion> status;
+      const direct::Result results[] = {{row.letters[0], {a.data()}},
+                                        {row.letters[1], {b.data()}},
+                                        {Letter::Q, {quality.data()}}};
+      direct::Request request{row.pair, {first.data()}, {second.data()}, results};
+      request.status = {status.data()};
+      direct::evaluate(request, 0, portion);
+      for (std::size_t i = 0; i < portion; ++i) {
+        const Expected& member = members[i];
+        const std::string at = fmt::format("{}: {:.17g}, {:.17g}", set, first[i], second[i]);
+        grid.holds(member.number == status[i],
+                   fmt::format("{}: message {}, the member's is {}", at, status[i], member.number));
+        const double values[] = {a[i], b[i]};
+        for (int k = 0; k < 2; ++k) {
+          if (member.number != 0 || status[i] != 0) {
+            grid.holds(status[i] == 0 || std::isnan(values[k]),
+                       at + ": a number of a failed state");
+            continue;
+          }
+          if (set == sets.front()) ++succeeded;
+          const double expected = member.values[k];
+          if (std::abs(values[k] - expected) <= agreement * std::abs(expected)) continue;
+          grid.holds(meetsItsInputs(row, first[i], second[i], row.letters[k], values[k]),
+                     fmt::format("{}: {:.17g}, the member's is {:.17g}", at, values[k], expected));
         }
-        ++succeeded;
-        if (std::abs(values[k] - expected) <= agreement * std::abs(expected)) continue;
-        grid.holds(meetsItsInputs(row, first[i], second[i], row.letters[k], values[k]),
-                   fmt::format("{}: {:.17g}, the member's is {:.17g}", at, values[k], expected));
+        if (row.quality == nullptr || member.number != 0 || status[i] != 0) continue;
+        if (std::abs(quality[i] - member.quality) <= agreement) continue;
+        grid.holds(meetsItsInputs(row, first[i], second[i], row.letters[1], values[1]) &&
+                       std::abs(quality[i] - member.quality) < 1e-6,
+                   fmt::format("{}: quality {:.17g}, the member's is {:.17g}", at, quality[i],
+                               member.quality));
       }
     }
   }
+  EXPECT_TRUE(direct::useInstructionSet({}));
   EXPECT_GT(succeeded, all);  // two results a state
 }
 

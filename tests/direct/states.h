@@ -18,13 +18,15 @@
 
 namespace calvex::test {
 
-/// The two results of a pair by which the roads are compared, by the members.
+/// The results of a pair by which the roads are compared, by the members: two properties, and the
+/// quality where it is not given and a member answers it.
 struct PairMembers {
   direct::Pair pair;
   const char* name;
   using Member = int (ZvThermoInt::*)(double*, double, double);
   direct::Letter letters[2];
   Member members[2];
+  Member quality = nullptr;
 };
 
 inline void PrintTo(const PairMembers& row, std::ostream* out) { *out << row.name; }
@@ -37,43 +39,53 @@ inline const PairMembers pairMembers[] = {
     {direct::Pair::PH,
      "PH",
      {direct::Letter::T, direct::Letter::R},
-     {&ZvThermoInt::TPH, &ZvThermoInt::RPH}},
+     {&ZvThermoInt::TPH, &ZvThermoInt::RPH},
+     &ZvThermoInt::QPH},
     {direct::Pair::PS,
      "PS",
      {direct::Letter::T, direct::Letter::R},
-     {&ZvThermoInt::TPS, &ZvThermoInt::RPS}},
+     {&ZvThermoInt::TPS, &ZvThermoInt::RPS},
+     &ZvThermoInt::QPS},
     {direct::Pair::PU,
      "PU",
      {direct::Letter::T, direct::Letter::R},
-     {&ZvThermoInt::TPU, &ZvThermoInt::RPU}},
+     {&ZvThermoInt::TPU, &ZvThermoInt::RPU},
+     &ZvThermoInt::QPU},
     {direct::Pair::PR,
      "PR",
      {direct::Letter::T, direct::Letter::H},
-     {&ZvThermoInt::TPR, &ZvThermoInt::HPR}},
+     {&ZvThermoInt::TPR, &ZvThermoInt::HPR},
+     &ZvThermoInt::QPR},
     {direct::Pair::PV,
      "PV",
      {direct::Letter::T, direct::Letter::H},
-     {&ZvThermoInt::TPV, &ZvThermoInt::HPV}},
+     {&ZvThermoInt::TPV, &ZvThermoInt::HPV},
+     &ZvThermoInt::QPV},
     {direct::Pair::TH,
      "TH",
      {direct::Letter::P, direct::Letter::R},
-     {&ZvThermoInt::PTH, &ZvThermoInt::RTH}},
+     {&ZvThermoInt::PTH, &ZvThermoInt::RTH},
+     &ZvThermoInt::QTH},
     {direct::Pair::TS,
      "TS",
      {direct::Letter::P, direct::Letter::R},
-     {&ZvThermoInt::PTS, &ZvThermoInt::RTS}},
+     {&ZvThermoInt::PTS, &ZvThermoInt::RTS},
+     &ZvThermoInt::QTS},
     {direct::Pair::TU,
      "TU",
      {direct::Letter::P, direct::Letter::R},
-     {&ZvThermoInt::PTU, &ZvThermoInt::RTU}},
+     {&ZvThermoInt::PTU, &ZvThermoInt::RTU},
+     &ZvThermoInt::QTU},
     {direct::Pair::TR,
      "TR",
      {direct::Letter::P, direct::Letter::H},
-     {&ZvThermoInt::PTR, &ZvThermoInt::HTR}},
+     {&ZvThermoInt::PTR, &ZvThermoInt::HTR},
+     &ZvThermoInt::QTR},
     {direct::Pair::TV,
      "TV",
      {direct::Letter::P, direct::Letter::H},
-     {&ZvThermoInt::PTV, &ZvThermoInt::HTV}},
+     {&ZvThermoInt::PTV, &ZvThermoInt::HTV},
+     &ZvThermoInt::QTV},
     {direct::Pair::PQ,
      "PQ",
      {direct::Letter::H, direct::Letter::R},
@@ -97,10 +109,10 @@ inline int numberOf(std::string_view text) {
 /// An engine that answers as the direct road does: the exact line decides.
 inline void prepare(ZvThermoInt& engine) { engine.SetSatPolish(2); }
 
-/// The states of a run: as many as CALVEX_DIRECT_STATES says, else `usual`; fewer under sanitizers,
-/// which make each twenty times as dear.
-inline std::size_t stateCount(std::size_t usual) {
-  const char* wanted = std::getenv("CALVEX_DIRECT_STATES");
+/// The states of a run: as many as that variable of the environment says, else `usual`; fewer under
+/// sanitizers, which make each twenty times as dear.
+inline std::size_t stateCount(const char* variable, std::size_t usual) {
+  const char* wanted = std::getenv(variable);
   if (wanted != nullptr) return std::strtoull(wanted, nullptr, 10);
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
   return usual / 20 + 10;

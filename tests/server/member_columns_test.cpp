@@ -299,7 +299,7 @@ TEST(MemberColumns, TheDirectRoadAnswersAsTheMembersDo) {
       grid.near(direct.outputs[0][row], single.outputs[0][row], 1e-8, scale, where);
     }
   }
-  EXPECT_EQ(members, 90 + 10 + 2);  // all but QTx
+  EXPECT_EQ(members, 95 + 10 + 2);  // all
 }
 
 TEST(MemberColumns, TheDirectRoadIsLeftWhereTheSettingsAreOthers) {
