@@ -40,7 +40,13 @@ BlockAnswer BlockWorker::work(const CsvBlocks::Block& block) {
   const auto begin = Clock::now();
   read(block);
   const auto called = Clock::now();
-  for (const BatchPlan::Call& call : plan_.calls) compute(call);
+  for (auto call = plan_.calls.begin(); call != plan_.calls.end();) {
+    const auto next = std::find_if(call, plan_.calls.end(), [&](const BatchPlan::Call& other) {
+      return other.operands != call->operands;
+    });
+    compute({call, next});
+    call = next;
+  }
   answer.calling = Clock::now() - called;
   answer.text.reserve(2 * block.text.size());
   write(answer);
@@ -121,36 +127,45 @@ double BlockWorker::number(const CsvRecord& record, std::size_t column) {
   return reject(std::move(reason));
 }
 
-void BlockWorker::compute(const BatchPlan::Call& call) {
+void BlockWorker::compute(std::span<const BatchPlan::Call> calls) {
+  const std::vector<BatchPlan::Operand>& operands = calls.front().operands;
   std::vector<direct::Column> inputs;
-  for (const BatchPlan::Operand& operand : call.operands) {
+  for (const BatchPlan::Operand& operand : operands) {
     inputs.push_back(operand.place ? direct::Column{numbers_[*operand.place].data(), 1}
                                    : direct::Column{&operand.constant, 0});
   }
-  std::vector<MemberRequest::Output> outputs;
-  for (const BatchPlan::Result& result : call.results) {
-    outputs.push_back({result.output, {numbers_[result.place].data()}});
+  std::vector<std::vector<MemberRequest::Output>> outputs(calls.size());
+  std::vector<MemberRequest> requests;
+  for (std::size_t i = 0; i < calls.size(); ++i) {
+    const BatchPlan::Call& call = calls[i];
+    for (const BatchPlan::Result& result : call.results) {
+      outputs[i].push_back({result.output, {numbers_[result.place].data()}});
+    }
+    requests.push_back(
+        {call.member,
+         inputs,
+         outputs[i],
+         {},
+         [this, &call](std::size_t row, std::string_view reason) {
+           const std::string cause = toUtf8(client_.engine().diagnostics().cause());
+           notes_.push_back(
+               {row, call.columns,
+                reason.empty()
+                    ? fmt::format("{} gave no reason", call.member.member().name)
+                    : fmt::format("{}{}{}", toUtf8(reason), cause.empty() ? "" : " ", cause)});
+         }});
   }
-  const MemberRequest request{
-      call.member, inputs, outputs, {}, [&](std::size_t row, std::string_view reason) {
-        const std::string cause = toUtf8(client_.engine().diagnostics().cause());
-        notes_.push_back(
-            {row, call.columns,
-             reason.empty()
-                 ? fmt::format("{} gave no reason", call.member.member().name)
-                 : fmt::format("{}{}{}", toUtf8(reason), cause.empty() ? "" : " ", cause)});
-      }};
   // Rows that lack an input have their reason already.
   const auto ready = [&](std::size_t row) {
     return !rows_[row].isBlank &&
-           std::ranges::none_of(call.operands, [&](const BatchPlan::Operand& operand) {
+           std::ranges::none_of(operands, [&](const BatchPlan::Operand& operand) {
              return operand.place && std::isnan(numbers_[*operand.place][row]);
            });
   };
   for (std::size_t begin = 0; begin < rows_.size();) {
     std::size_t end = begin;
     while (end < rows_.size() && ready(end)) ++end;
-    if (end > begin) evaluate(request, client_.engine(), begin, end);
+    if (end > begin) evaluate(requests, client_.engine(), begin, end);
     begin = end + 1;
   }
 }

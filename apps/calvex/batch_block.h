@@ -3,6 +3,7 @@
 #pragma once
 
 #include <chrono>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -60,7 +61,8 @@ class BlockWorker {
   void read(const CsvBlocks::Block& block);
   void keep(const CsvRecord& record, std::size_t line);
   [[nodiscard]] double number(const CsvRecord& record, std::size_t column);
-  void compute(const BatchPlan::Call& call);
+  /// Calls with the same inputs.
+  void compute(std::span<const BatchPlan::Call> calls);
   void write(BlockAnswer& answer);
   void appendNumber(std::string& text, double value) const;
 

@@ -133,8 +133,11 @@ class Planner {
       return &known.member.member() == &member.member() && known.operands == operands;
     });
     if (call == plan_.calls.end()) {
-      plan_.calls.push_back({std::move(member), std::move(operands), {}, {}});
-      call = plan_.calls.end() - 1;
+      // Behind the last one with the same inputs.
+      const auto last = std::ranges::find(plan_.calls.rbegin(), plan_.calls.rend(), operands,
+                                          &BatchPlan::Call::operands);
+      const auto place = last == plan_.calls.rend() ? plan_.calls.end() : last.base();
+      call = plan_.calls.insert(place, {std::move(member), std::move(operands), {}, {}});
     }
     call->columns += (call->columns.empty() ? "" : ", ") + column;
     for (const BatchPlan::Result& result : call->results) {

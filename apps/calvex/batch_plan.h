@@ -37,8 +37,9 @@ struct BatchPlan {
   };
 
   std::vector<std::size_t> read;  ///< columns of the table; the numbers of the first places
-  std::vector<Call> calls;        ///< in an order in which each has its inputs
-  std::vector<Added> added;       ///< in the order in which they were asked for
+  /// In an order in which each has its inputs; those with the same ones stand side by side.
+  std::vector<Call> calls;
+  std::vector<Added> added;  ///< in the order in which they were asked for
   std::size_t places = 0;
 };
 

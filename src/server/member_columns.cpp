@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <deque>
 #include <limits>
 #include <memory>
 
@@ -167,83 +168,146 @@ class RowCall {
   std::array<int, spreadsheet::maxFlags> flags_{};
 };
 
-/// Rows through the direct road, in blocks; those that it refuses are the member's to decide.
-class DirectRows {
+namespace {
+
+// Asks the member for one row at a time and notes why it fails.
+class MemberRows {
  public:
-  static std::optional<DirectRows> of(const MemberRequest& request, const ZvThermoInt& engine) {
-    const std::optional<DirectMember> member = directMember(request.member.member());
-    if (!member || !hasDirectSettings(engine)) return std::nullopt;
-    const std::optional<direct::Units> units = directUnits(engine.units());
-    if (!units) return std::nullopt;
-    return DirectRows(request, *member, *units);
+  MemberRows(const MemberRequest& request, ZvThermoInt& engine)
+      : request_(request), engine_(engine), call_(request) {}
+
+  void ask(std::size_t row) {
+    if (call_(engine_, row)) {
+      put(request_.status, row, short{0});
+      return;
+    }
+    for (const MemberRequest::Output& output : request_.outputs) put(output.value, row, none);
+    if (!wantsReasons(request_)) return;
+    put(request_.status, row, messageNumber(engine_.LastError()));
+    if (request_.reason) request_.reason(row, engine_.LastError());
+    engine_.ClearTraceInfo();
   }
 
-  template <class Refused>
-  void evaluate(std::size_t begin, std::size_t end, Refused&& refused) {
-    static constexpr double liquid = 0.0;
+  static bool wantsReasons(const MemberRequest& request) {
+    return request.status.data != nullptr || request.reason;
+  }
+
+ private:
+  const MemberRequest& request_;
+  ZvThermoInt& engine_;
+  RowCall call_;
+};
+
+// The column from that row on.
+template <class Column>
+Column from(const Column& column, std::size_t row) {
+  if (column.data == nullptr) return column;
+  return {column.data + static_cast<std::ptrdiff_t>(row) * column.stride, column.stride};
+}
+
+// Rows through the direct road, in blocks: properties of one pair and the same inputs. What is
+// refused of several is asked for one by one, and of one is the member's to decide.
+class DirectRows {
+ public:
+  DirectRows(const DirectMember& pair, const direct::Units& units) : pair_(pair), units_(units) {}
+
+  [[nodiscard]] bool takes(const DirectMember& member) const {
+    return member.pair == pair_.pair && member.ofLiquid == pair_.ofLiquid;
+  }
+  void add(const MemberRequest& request, direct::Letter letter, MemberRows& rows) {
+    for (const MemberRequest::Output& output : request.outputs) {
+      targets_.push_back(output.value);
+      results_.push_back({letter, {}});
+    }
+    members_.push_back({&request, letter, &rows});
+  }
+
+  void evaluate(std::size_t begin, std::size_t end) {
     std::array<short, 1024> status;
-    for (std::size_t at = begin; at < end;) {
+    for (std::size_t at = begin; at < end; at += status.size()) {
       const std::size_t count = std::min(end - at, status.size());
-      for (std::size_t i = 0; i < results_.size(); ++i) {
-        results_[i].value = from(request_.outputs[i].value, at);
-      }
-      direct::Request request{
-          member_.pair, from(request_.inputs[0], at),
-          member_.ofLiquid ? direct::Column{&liquid, 0} : from(request_.inputs[1], at), results_};
-      request.status = {status.data()};
-      request.units = &units_;
-      direct::evaluate(request, 0, count);
-      for (std::size_t i = 0; i < count; ++i) {
-        if (status.at(i) != 0) {
-          refused(at + i);
-        } else {
-          put(request_.status, at + i, short{0});
-        }
-      }
-      at += count;
+      for (std::size_t i = 0; i < results_.size(); ++i) results_[i].value = from(targets_[i], at);
+      evaluate(results_, at, count, status.data());
+      for (std::size_t i = 0; i < count; ++i) settle(at + i, status.at(i));
     }
   }
 
  private:
-  DirectRows(const MemberRequest& request, const DirectMember& member, const direct::Units& units)
-      : request_(request), member_(member), units_(units), results_(request.outputs.size()) {
-    for (direct::Result& result : results_) result.letter = member.result;
+  struct OneMember {
+    const MemberRequest* request;
+    direct::Letter letter;
+    MemberRows* rows;
+  };
+
+  void evaluate(std::span<const direct::Result> results, std::size_t at, std::size_t count,
+                short* status) const {
+    static constexpr double liquid = 0.0;
+    const std::span<const direct::Column> inputs = members_.front().request->inputs;
+    direct::Request request{pair_.pair, from(inputs[0], at),
+                            pair_.ofLiquid ? direct::Column{&liquid, 0} : from(inputs[1], at),
+                            results};
+    request.status = {status};
+    request.units = &units_;
+    direct::evaluate(request, 0, count);
   }
 
-  // The column from that row on.
-  template <class Column>
-  static Column from(const Column& column, std::size_t row) {
-    if (column.data == nullptr) return column;
-    return {column.data + static_cast<std::ptrdiff_t>(row) * column.stride, column.stride};
+  void settle(std::size_t row, short together) const {
+    for (const OneMember& member : members_) {
+      short status = together;
+      if (status != 0 && members_.size() > 1) {
+        double value = none;
+        const direct::Result alone[] = {{member.letter, {&value}}};
+        evaluate(alone, row, 1, &status);
+        for (const MemberRequest::Output& output : member.request->outputs) {
+          put(output.value, row, value);
+        }
+      }
+      if (status == 0) {
+        put(member.request->status, row, short{0});
+      } else {
+        member.rows->ask(row);
+      }
+    }
   }
 
-  const MemberRequest& request_;
-  DirectMember member_;
-  direct::Units units_;
+  DirectMember pair_;
+  const direct::Units& units_;
+  std::vector<direct::Target<double>> targets_;
   std::vector<direct::Result> results_;
+  std::vector<OneMember> members_;
 };
+
+}  // namespace
 
 void evaluate(const MemberRequest& request, ZvThermoInt& engine, std::size_t begin,
               std::size_t end) {
-  const bool reasons = request.status.data != nullptr || request.reason;
-  const QuietEngine quiet(engine, reasons);
-  RowCall call(request);
-  const auto ask = [&](std::size_t row) {
-    if (call(engine, row)) {
-      put(request.status, row, short{0});
-      return;
+  evaluate({&request, 1}, engine, begin, end);
+}
+
+void evaluate(std::span<const MemberRequest> requests, ZvThermoInt& engine, std::size_t begin,
+              std::size_t end) {
+  const QuietEngine quiet(engine, std::ranges::any_of(requests, MemberRows::wantsReasons));
+  const std::optional<direct::Units> units =
+      hasDirectSettings(engine) ? directUnits(engine.units()) : std::nullopt;
+  std::deque<MemberRows> members;  // they stay where they are
+  std::vector<DirectRows> pairs;
+  for (const MemberRequest& request : requests) {
+    MemberRows& rows = members.emplace_back(request, engine);
+    const std::optional<DirectMember> member =
+        units ? directMember(request.member.member()) : std::nullopt;
+    if (!member) {
+      for (std::size_t row = begin; row < end; ++row) rows.ask(row);
+      continue;
     }
-    for (const MemberRequest::Output& output : request.outputs) put(output.value, row, none);
-    if (!reasons) return;
-    put(request.status, row, messageNumber(engine.LastError()));
-    if (request.reason) request.reason(row, engine.LastError());
-    engine.ClearTraceInfo();
-  };
-  if (std::optional<DirectRows> rows = DirectRows::of(request, engine)) {
-    rows->evaluate(begin, end, ask);
-  } else {
-    for (std::size_t row = begin; row < end; ++row) ask(row);
+    auto pair =
+        std::ranges::find_if(pairs, [&](const DirectRows& known) { return known.takes(*member); });
+    if (pair == pairs.end()) {
+      pairs.emplace_back(*member, *units);
+      pair = pairs.end() - 1;
+    }
+    pair->add(request, member->result, rows);
   }
+  for (DirectRows& pair : pairs) pair.evaluate(begin, end);
 }
 
 bool evaluate(const MemberRequest& request, const ZvThermoInt& like, std::size_t n,

@@ -78,6 +78,11 @@ struct MemberRequest {
 void evaluate(const MemberRequest& request, ZvThermoInt& engine, std::size_t begin,
               std::size_t end);
 
+/// The same for several members that have the same inputs: those that the direct road answers from
+/// one pair of properties cost one solve a row.
+void evaluate(std::span<const MemberRequest> requests, ZvThermoInt& engine, std::size_t begin,
+              std::size_t end);
+
 /// Computes the rows [0, n) on all cores, each thread with an engine that has the units and the
 /// solver's settings of `like`. Answers false when it was stopped. The units server (AppLevel 1)
 /// has one client: with it there is one thread.

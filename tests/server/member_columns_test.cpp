@@ -264,6 +264,31 @@ TEST(MemberColumns, AreTheSameOnAnyNumberOfThreads) {
   }
 }
 
+TEST(MemberColumns, SeveralOfOnePairAreAsEachAlone) {
+  ZvThermoInt engine;
+  engine.SetSatPolish(2);
+  // Of a mixture of liquid and vapour G has no value and the others have; PT is another pair.
+  const char* const names[] = {"TPH", "GPH", "SPH", "HPT", "QPH"};
+  std::vector<Sheet> alone, together;
+  for (const char* name : names) {
+    alone.push_back(statesOf(name));
+    evaluate(alone.back().request(), engine, 0, alone.back().rows);
+    together.push_back(statesOf(name));
+  }
+  std::vector<MemberRequest> requests;
+  for (Sheet& sheet : together) requests.push_back(sheet.request());
+  evaluate(requests, engine, 0, together.front().rows);
+  EXPECT_GT(std::ranges::count(alone[1].status, 106), 10);
+  EXPECT_GT(std::ranges::count(alone[0].status, 0), 50);
+  for (std::size_t i = 0; i < alone.size(); ++i) {
+    EXPECT_EQ(together[i].status, alone[i].status) << names[i];
+    EXPECT_EQ(together[i].reasons, alone[i].reasons) << names[i];
+    for (std::size_t row = 0; row < alone[i].rows; ++row) {
+      EXPECT_TRUE(sameBits(together[i].outputs[0][row], alone[i].outputs[0][row])) << names[i];
+    }
+  }
+}
+
 TEST(MemberColumns, TheDirectRoadAnswersAsTheMembersDo) {
   ZvThermoInt exact;
   useCelsiusAndPsig(exact);
