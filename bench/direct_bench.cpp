@@ -8,9 +8,9 @@
 #include <cmath>
 #include <random>
 #include <string>
-#include <thread>
 #include <vector>
 
+#include "direct/chunks.h"
 #include "direct/direct_road.h"
 #include "empty_solve.h"
 #include "median_table.h"
@@ -129,9 +129,19 @@ const SingleCase singles[] = {
     {"single PH: T", Pair::PH, {Letter::T}, 0.8},
 };
 
+// The benchmark's states over and over, as many as asked for.
+Inputs repeated(const Inputs& inputs, std::size_t count) {
+  Inputs all;
+  for (std::size_t i = 0; i < count; ++i) {
+    all.first.push_back(inputs.first[i % pointCount]);
+    all.second.push_back(inputs.second[i % pointCount]);
+  }
+  return all;
+}
+
 // The cost a point as the number of points grows.
 void grows(benchmark::State& state, std::size_t count) {
-  const Inputs inputs = inputsOf(Pair::PT, States::onePhase, count);
+  const Inputs inputs = repeated(inputsOf(Pair::PT, States::onePhase), count);
   std::vector<double> h(count);
   const Result results[] = {{Letter::H, {h.data()}}};
   const Request request{Pair::PT, {inputs.first.data()}, {inputs.second.data()}, results};
@@ -140,12 +150,35 @@ void grows(benchmark::State& state, std::size_t count) {
     benchmark::ClobberMemory();
   }
 }
-constexpr std::size_t counts[] = {1, 10, 100, 1000, 10000, 100000, 1000000};
+constexpr std::size_t counts[] = {1, 10, 100, 1000, 10000, 100000, 1000000, 10000000};
+
+// A million points on several threads.
+constexpr std::size_t manyPoints = 1000000;
+constexpr unsigned threadCounts[] = {1, 2};
+void onThreads(benchmark::State& state, const Case& row, unsigned threads) {
+  const Inputs inputs = repeated(inputsOf(row.pair, row.states), manyPoints);
+  std::vector<std::vector<double>> outputs;
+  std::vector<Result> results;
+  for (const Letter letter : row.results) {
+    outputs.emplace_back(manyPoints);
+    results.push_back({letter, {outputs.back().data()}});
+  }
+  const Request request{row.pair, {inputs.first.data()}, {inputs.second.data()}, results};
+  for (auto _ : state) {
+    calvex::forEachChunk(
+        manyPoints, {.threads = threads, .chunk = 8192},
+        [&](const calvex::Chunk& chunk) { evaluate(request, chunk.begin, chunk.end); });
+    benchmark::ClobberMemory();
+  }
+}
 
 std::string nameOf(const char* name, std::string_view set) {
   return fmt::format("{}, {}", name, set);
 }
 std::string nameOf(std::size_t count) { return fmt::format("points {}", count); }
+std::string nameOf(const char* name, unsigned threads) {
+  return fmt::format("{}, threads {}", name, threads);
+}
 
 class Table final : public calvex::bench::MedianTable {
  public:
@@ -173,6 +206,16 @@ class Table final : public calvex::bench::MedianTable {
       print(nameOf(count), count, *empty);
       fmt::print("\n");
     }
+    fmt::print("\n{:<24}", "million points a second");
+    for (const unsigned threads : threadCounts) fmt::print("{:>4} threads", threads);
+    for (const Case& row : cases) {
+      fmt::print("\n{:<24}", row.name);
+      for (const unsigned threads : threadCounts) {
+        const auto time = medianElapsed(nameOf(row.name, threads));
+        fmt::print("{:>12}", time ? fmt::format("{:.1f}", 1e3 * manyPoints / *time) : "");
+      }
+    }
+    fmt::print("\n");
   }
 
  private:
@@ -200,6 +243,13 @@ int main(int argc, char** argv) {
   for (const std::size_t count : counts) {
     benchmark::RegisterBenchmark(nameOf(count).c_str(),
                                  [count](benchmark::State& s) { grows(s, count); });
+  }
+  for (const Case& row : cases) {
+    for (const unsigned threads : threadCounts) {
+      benchmark::RegisterBenchmark(
+          nameOf(row.name, threads).c_str(),
+          [&row, threads](benchmark::State& s) { onThreads(s, row, threads); });
+    }
   }
   Table table;
   return calvex::bench::runInterleaved(argc, argv, table);

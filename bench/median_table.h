@@ -25,6 +25,8 @@ class MedianTable : public benchmark::BenchmarkReporter {
                  (run.run_type == Run::RT_Iteration && run.repetitions == 1)) {
         // Processor time, which the machine's other work disturbs least.
         medians_.emplace(run.run_name.function_name, run.GetAdjustedCPUTime());
+        // Of several threads by the clock.
+        elapsed_.emplace(run.run_name.function_name, run.GetAdjustedRealTime());
       }
     }
   }
@@ -32,12 +34,22 @@ class MedianTable : public benchmark::BenchmarkReporter {
  protected:
   /// Of that benchmark in ns; nothing if it did not run or failed.
   [[nodiscard]] std::optional<double> median(const std::string& name) const {
-    const auto found = medians_.find(name);
-    return found == medians_.end() ? std::nullopt : std::optional(found->second);
+    return in(medians_, name);
+  }
+  /// The same by the clock.
+  [[nodiscard]] std::optional<double> medianElapsed(const std::string& name) const {
+    return in(elapsed_, name);
   }
 
  private:
-  std::map<std::string, double> medians_;
+  using Times = std::map<std::string, double>;
+  static std::optional<double> in(const Times& times, const std::string& name) {
+    const auto found = times.find(name);
+    return found == times.end() ? std::nullopt : std::optional(found->second);
+  }
+
+  Times medians_;
+  Times elapsed_;
 };
 
 /// Runs the registered benchmarks with the options of the command line, by default with interleaved
