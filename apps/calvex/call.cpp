@@ -103,21 +103,6 @@ std::string unitAdvice(const std::vector<const Parameter*>& wanted,
   return {};
 }
 
-const ZvFunctionCall* newestEntry(const Diagnostics& diagnostics) {
-  const ZvFunctionCall* newest = diagnostics.root().firstChild();
-  while (newest != nullptr && newest->nextSibling() != nullptr) newest = newest->nextSibling();
-  return newest;
-}
-
-// The entry that a call left, or null: a call can end without a word. The newest entry before is
-// still there then, so that the new one is not in its place: a full trace keeps two or more and
-// drops the oldest.
-const ZvFunctionCall* entryLeft(const Diagnostics& diagnostics,
-                                const ZvFunctionCall* newestBefore) {
-  const ZvFunctionCall* newest = newestEntry(diagnostics);
-  return newest == newestBefore ? nullptr : newest;
-}
-
 // The range that a warning of the strictly valid one leaves unsaid; `node` is the call warned of.
 std::string strictRange(const ZvFunctionCall& node, std::string_view warning,
                         const UserUnits& units) {
@@ -171,6 +156,22 @@ std::string settingNotice(const Member& member, const Value& value) {
   if (polish >= 0 && polish <= 2) return {};
   return fmt::format("SatPolish {} does what 1 does; 0, 1 and 2 are the values that differ",
                      polish);
+}
+
+// For a call that names a unit group and units of it: what is wrong with the names, with the
+// nearest ones; empty when nothing is.
+std::string unitHint(const Call& call) {
+  std::vector<Value> arguments = call.arguments;
+  try {
+    forEachUnitName(
+        *call.member, arguments, [](const std::string& text) { return findGroup(toUtf8(text)); },
+        [](UnitGroup group, const std::string& text) {
+          static_cast<void>(findUnit(group, toUtf8(text)));
+        });
+  } catch (const UsageError& error) {
+    return error.what();
+  }
+  return {};
 }
 
 // The messages of the spreadsheet members' tokens.
@@ -286,19 +287,19 @@ Call prepare(const Member& member, std::span<const std::string> words, const Use
 
 Outcome perform(Client& client, Call call) {
   const Diagnostics& diagnostics = client.engine().diagnostics();
-  const ZvFunctionCall* newestBefore = newestEntry(diagnostics);
-  const ZvCalvex::Result result =
-      call.isPut ? client.object().put(*call.member, call.arguments) : invoke(client, call);
+  const EntryOfCall left(diagnostics);
+  const ZvCalvex::Result result = call.isPut
+                                      ? client.object().put(*call.member, call.arguments)
+                                      : client.invoke(*call.member, call.arguments, call.choice);
   Outcome outcome{std::move(call), result, {}, false, diagnostics.tracing(), {}};
-  const ZvFunctionCall* entry = entryLeft(diagnostics, newestBefore);
   if (!outcome.succeeded()) {
     outcome.lastError = toUtf8(client.engine().LastError());
-    // The last error is this call's when the call left an entry with an error.
-    outcome.reasonRecorded =
-        outcome.tracing && entry != nullptr && entry->contains(ZvFunctionCall::Kind::error);
+    outcome.reasonRecorded = left.hasReason();
     if (outcome.reasonRecorded) outcome.cause = toUtf8(diagnostics.cause());
   }
-  if (entry != nullptr) collectWarnings(*entry, client.units(), outcome.warnings);
+  if (const ZvFunctionCall* entry = left.entry()) {
+    collectWarnings(*entry, client.units(), outcome.warnings);
+  }
   return outcome;
 }
 

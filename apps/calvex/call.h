@@ -9,7 +9,6 @@
 
 #include "client.h"
 #include "server/member_explanations.h"
-#include "unit_calls.h"
 
 namespace calvex::cli {
 

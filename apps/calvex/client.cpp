@@ -45,38 +45,6 @@ void runOrFail(Client& client, Call call) {
 
 }  // namespace
 
-void Client::reset() {
-  besideCatalogue_ = besideCatalogue_ && units().mode() == UnitsMode::custom;
-  object_.reset();
-  object_ = std::make_unique<ZvCalvex>(module_);
-  for (const StartingSetting& setting : startingSettings) {
-    Value value = setting.value;
-    object_->put(*findMember(setting.member), {&value, 1});
-  }
-  if (besideCatalogue_) engine().SetAppLevel(static_cast<short>(UnitsMode::custom));
-}
-
-void Client::setCustomUnit(UnitGroup group, const ZvUomLiteKeyword& unit) {
-  engine().SetCustomUserUnitIndex(static_cast<short>(group), unit.name, unit.factor, unit.offset);
-}
-
-void Client::chooseUnit(UnitGroup group, const ZvUomLiteKeyword& unit) {
-  if (units().mode() != UnitsMode::custom) {
-    engine().SetAppLevel(static_cast<short>(UnitsMode::custom));
-    besideCatalogue_ = true;
-    for (int other = 0; other < unitGroupCount; ++other) {
-      setCustomUnit(UnitGroup(other), units().catalogue()[UnitGroup(other)].currentUnit());
-    }
-  }
-  setCustomUnit(group, unit);
-}
-
-void Client::followUnit(UnitGroup group) {
-  if (besideCatalogue_ && units().mode() == UnitsMode::custom) {
-    setCustomUnit(group, units().catalogue()[group].currentUnit());
-  }
-}
-
 void ClientOptions::addUnitsTo(CommandOptions& app) {
   addRepeatable(app, "-u,--unit", units, "GROUP=UNIT",
                 "Unit for a quantity, such as T=C or Pressure=bara; may be repeated");
@@ -149,11 +117,6 @@ const ZvUomLiteKeyword& findUnit(UnitGroup group, std::string_view unit) {
   }
   throw UsageError(fmt::format("{} is not a unit of {}{}\nUnits: {}", inQuotes(unit),
                                row(group).displayName, help, fmt::join(names, ", ")));
-}
-
-std::string unitWarning(UnitGroup group, std::string_view unit) {
-  const std::string_view notice = findUnitWord(group, unit).notice;
-  return notice.empty() ? std::string() : fmt::format("{}: {}", unit, notice);
 }
 
 std::string settingWarning(const std::string& choice) {

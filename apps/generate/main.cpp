@@ -12,8 +12,10 @@ int main(int count, char** arguments) {
     std::cout << calvex::stringResources();
   } else if (what == "worksheet") {
     std::cout << calvex::worksheetFunctions();
+  } else if (what == "wrapper") {
+    std::cout << calvex::wrapperMembers();
   } else {
-    std::cerr << "usage: generate interface|strings|worksheet\n";
+    std::cerr << "usage: generate interface|strings|worksheet|wrapper\n";
     return 2;
   }
 }

@@ -29,6 +29,7 @@ class ZvFunctionCall {
   }
   [[nodiscard]] const ZvFunctionCall* parent() const noexcept { return parent_; }
   [[nodiscard]] const ZvFunctionCall* firstChild() const noexcept { return firstChild_; }
+  [[nodiscard]] const ZvFunctionCall* lastChild() const noexcept { return lastChild_; }
   [[nodiscard]] const ZvFunctionCall* nextSibling() const noexcept { return next_; }
   [[nodiscard]] int childCount() const noexcept { return childCount_; }
   /// How many children are kept; -1: no limit.

@@ -10,6 +10,7 @@
 #include "direct/kernels.h"
 #include "direct/member_road.h"
 #include "direct/reasons.h"
+#include "direct/starting_tables.h"
 #include "steam/constants.h"
 
 namespace calvex::direct {
@@ -66,9 +67,13 @@ struct Answers {
   bool plain = false;  // all are of one phase, each in its own place
 };
 
-MemberRoad& memberRoad() {
-  thread_local MemberRoad road;
-  return road;
+int findByMember(Pair pair, double first, double second, FoundState& state) noexcept {
+  try {
+    thread_local MemberRoad road;
+    return road.find(pair, first, second, state);
+  } catch (...) {  // a thread's first state of these, and no memory for its road
+    return static_cast<int>(Message::solutionError);
+  }
 }
 
 // Whether all states go one way. The loops over blocks are written for the compiler's lanes.
@@ -162,7 +167,7 @@ void solveAsMember(const Order& order, const Places& left, int leftCount, int fi
   for (int k = 0; k < leftCount; ++k) {
     const auto i = static_cast<std::size_t>(left[static_cast<std::size_t>(k)]);
     FoundState found;
-    const int status = memberRoad().find(order.pair, answers.first[i], answers.second[i], found);
+    const int status = findByMember(order.pair, answers.first[i], answers.second[i], found);
     answers.status[i] = static_cast<short>(status);
     if (status != 0) continue;
     Group& group = found.twoPhases ? answers.two : answers.one;
@@ -518,7 +523,30 @@ Wanted wantedBy(const Request& request) {
   return wanted;
 }
 
+const StateTable* startsOf(Pair pair) {
+  switch (pair) {
+    case Pair::PT:
+      return &statesFromPT();
+    case Pair::PH:
+      return &statesFromPH();
+    case Pair::PS:
+      return &statesFromPS();
+    case Pair::PU:
+      return &statesFromPU();
+    case Pair::HS:
+      return &statesFromHS();
+    default:
+      return nullptr;
+  }
+}
+
 }  // namespace
+
+void prepare(Pair pair) {
+  static_cast<void>(lineByTemperature());
+  static_cast<void>(lineByPressure());
+  static_cast<void>(startsOf(pair));
+}
 
 void evaluate(const Request& request, std::size_t begin, std::size_t end) noexcept {
   const Order order{kernels(), ofDensity(request.pair), wantedBy(request)};

@@ -121,6 +121,11 @@ struct Request {
   const Units* units = nullptr;  ///< null: the engine's own
 };
 
+/// Makes the tables that states of the pair start from, which the first evaluation would make: for
+/// callers that can take care of an exception, as evaluation cannot.
+/// \throws std::bad_alloc
+void prepare(Pair pair);
+
 /// Computes the points [begin, end) of the request on the calling thread. A failed point's results
 /// are NaN, its phase is `none` and its status tells why; its neighbours are not touched by it. A
 /// point fails when a member would fail: also when any one of the results asked for is not defined

@@ -1,5 +1,7 @@
 #include "server/direct_members.h"
 
+#include <cmath>
+
 namespace calvex {
 
 namespace {
@@ -39,18 +41,19 @@ std::optional<DirectMember> directMember(const Member& member) {
 }
 
 std::optional<direct::Units> directUnits(const UserUnits& units) {
-  if (units.mode() != UnitsMode::builtIn && units.mode() != UnitsMode::catalogue) {
-    return std::nullopt;
-  }
+  if (units.mode() == UnitsMode::server) return std::nullopt;
   direct::Units all = direct::modelUnits();
   for (int i = 0; i < direct::letterCount; ++i) {
     const Quantity& row = quantity(static_cast<Quantity::Letter>(i));
     if (!row.hasUnit) continue;
-    const ZvUomLiteGroup& group = units.catalogue()[row.group];
-    const ZvUomLiteKeyword& from = group.currentUnit();
-    const ZvUomLiteKeyword& to = group.internalUnit();
-    if (&from == &to) continue;
+    if (units.isInternal(row.group)) continue;
+    const ZvUomLiteKeyword from = units.currentUnit(row.group);
+    const ZvUomLiteKeyword& to = units.catalogue()[row.group].internalUnit();
     const double factor = from.factor / to.factor;
+    // A custom unit may be of any numbers; these are none that values can be told in.
+    if (!(std::fabs(factor) > 1e-100 && std::fabs(factor) < 1e100 && std::isfinite(from.offset))) {
+      return std::nullopt;
+    }
     all.at(static_cast<std::size_t>(i)) = {factor, from.offset - to.offset / factor, from.name};
   }
   return all;

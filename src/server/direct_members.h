@@ -20,7 +20,8 @@ struct DirectMember {
 /// The members from two properties and those of the saturation line; nothing for the others.
 [[nodiscard]] std::optional<DirectMember> directMember(const Member& member);
 
-/// The engine's units; nothing while they are those of a units server.
+/// The engine's units, whose names live as long as it keeps them; nothing while they are those of a
+/// units server, or none that values can be told in.
 [[nodiscard]] std::optional<direct::Units> directUnits(const UserUnits& units);
 
 /// Whether the direct road has the engine's settings: the exact saturation line, and the solver's

@@ -13,7 +13,7 @@ namespace calvex {
 
 namespace {
 
-constexpr std::string_view notice = "Made by scripts/update-generated from the product's tables.";
+constexpr std::string_view notice = generatedNotice;
 
 std::string_view automationType(ValueType type) {
   switch (type) {

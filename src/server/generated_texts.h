@@ -1,12 +1,18 @@
 /// \file
 /// Texts for other compilers, made from the tables: the interface definition and the string
-/// resources of the Windows module, kept in server/windows, and the worksheet functions, kept in
-/// packaging/windows. scripts/update-generated makes them anew.
+/// resources of the Windows module, kept in server/windows, the worksheet functions, kept in
+/// packaging/windows, and the members of the C++ wrapper, kept in include/calvex.
+/// scripts/update-generated makes them anew.
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace calvex {
+
+/// What the generated texts begin with.
+inline constexpr std::string_view generatedNotice =
+    "Made by scripts/update-generated from the product's tables.";
 
 /// The interface `IZvCalvex`, its class and type library, in the interface definition language:
 /// every member by dispatch id, of a setting the get before the put.
@@ -19,5 +25,8 @@ namespace calvex {
 /// A worksheet function for every member that answers numbers, and one that finds them by name, in
 /// Visual Basic: the end of the macro module, whose beginning is written by hand.
 [[nodiscard]] std::string worksheetFunctions();
+
+/// The members of the C++ wrapper over the C interface, with their real signatures.
+[[nodiscard]] std::string wrapperMembers();
 
 }  // namespace calvex

@@ -27,6 +27,7 @@ class Module {
   Module& operator=(const Module&) = delete;
 
   [[nodiscard]] ZvThermoInt& engine() noexcept { return engine_; }
+  [[nodiscard]] const ZvThermoInt& engine() const noexcept { return engine_; }
 
  private:
   ZvThermoInt engine_;

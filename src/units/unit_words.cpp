@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "units/encoding.h"
+
 namespace calvex {
 
 namespace {
@@ -140,17 +142,6 @@ std::string lowerCase(std::string_view text) {
   return lower;
 }
 
-// The catalogue's names have no characters but those of Latin-1.
-std::string utf8(std::string_view name) {
-  std::string text;
-  for (const char c : name) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte >= 0x80) text += static_cast<char>(byte < 0xC0 ? 0xC2 : 0xC3);
-    text += static_cast<char>(byte < 0xC0 ? byte : byte - 0x40);
-  }
-  return text;
-}
-
 std::string withPlainSigns(std::string_view utf8Text) {
   constexpr std::pair<std::string_view, std::string_view> signs[] = {
       {"\u00B2", "2"},                                   // superscripts
@@ -235,7 +226,7 @@ UnitWord findUnitWord(UnitGroup group, std::string_view word) {
   constexpr std::size_t longest = 64;  // no unit is as long
   if (word.empty() || word.size() > longest) return {};
   for (const ZvUomLiteKeyword& unit : row(group).units) {
-    if (utf8(unit.name) == word) return {&unit, {}, unitNotice(group, unit.name)};
+    if (toUtf8(unit.name) == word) return {&unit, {}, unitNotice(group, unit.name)};
   }
   const std::string folded = fold(word);
   if (folded.empty()) return {};
@@ -245,7 +236,7 @@ UnitWord findUnitWord(UnitGroup group, std::string_view word) {
   const Meaning meaning = meaningOf(word);
   UnitWord found;
   for (const ZvUomLiteKeyword& unit : row(group).units) {
-    if (meaningOf(utf8(unit.name)).folded != meaning.folded) continue;
+    if (meaningOf(toUtf8(unit.name)).folded != meaning.folded) continue;
     const auto same = [&](const ZvUomLiteKeyword* other) {
       return other->factor == unit.factor && other->offset == unit.offset;
     };
@@ -340,7 +331,7 @@ std::vector<std::pair<std::string_view, const ZvUomLiteKeyword*>> otherWords(Uni
   std::vector<std::pair<std::string_view, const ZvUomLiteKeyword*>> words;
   for (const Synonym& synonym : synonyms) {
     const ZvUomLiteKeyword* unit = findUnitWord(group, synonym.word).unit;
-    if (unit != nullptr && fold(utf8(unit->name)) != synonym.word) {
+    if (unit != nullptr && fold(toUtf8(unit->name)) != synonym.word) {
       words.emplace_back(synonym.written.empty() ? synonym.word : synonym.written, unit);
     }
   }

@@ -63,6 +63,13 @@ class UserUnits {
            &units.currentUnit() == &units.internalUnit();
   }
 
+  /// The unit of a group's values, of the catalogue or custom; of a server's nothing is known here.
+  [[nodiscard]] ZvUomLiteKeyword currentUnit(UnitGroup group) const noexcept {
+    if (mode_ != UnitsMode::custom) return catalogue_[group].currentUnit();
+    const CustomUnit& unit = custom(group);
+    return {unit.name, unit.factor, unit.offset};
+  }
+
   [[nodiscard]] const ZvUomLite& catalogue() const noexcept { return catalogue_; }
   /// The server while the mode is 1, else nullptr.
   [[nodiscard]] UnitsServer* server() const noexcept { return server_.get(); }

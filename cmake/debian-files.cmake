@@ -1,0 +1,20 @@
+# Runs before the packages are made: puts the documents of each in the form that Debian wants.
+file(GLOB folders LIST_DIRECTORIES TRUE ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/doc/*)
+foreach(folder IN LISTS folders)
+  file(READ ${folder}/LICENSE licence)
+  file(READ ${folder}/THIRD-PARTY-NOTICES.md notices)
+  file(WRITE ${folder}/copyright "${licence}\n${notices}")
+  file(REMOVE ${folder}/LICENSE ${folder}/THIRD-PARTY-NOTICES.md)
+  file(RENAME ${folder}/CHANGELOG.md ${folder}/changelog)
+endforeach()
+file(GLOB texts ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/doc/*/changelog
+  ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/man/man1/*.1)
+foreach(text IN LISTS texts)
+  execute_process(COMMAND gzip -9n ${text} COMMAND_ERROR_IS_FATAL ANY)
+endforeach()
+# Debian's own place for what its packages bring.
+file(GLOB functions ${CPACK_TEMPORARY_DIRECTORY}/*/usr/share/zsh/site-functions)
+foreach(folder IN LISTS functions)
+  cmake_path(GET folder PARENT_PATH zsh)
+  file(RENAME ${folder} ${zsh}/vendor-completions)
+endforeach()

@@ -1,0 +1,102 @@
+#include "server/client.h"
+
+#include <algorithm>
+
+#include "units/encoding.h"
+#include "units/unit_words.h"
+
+namespace calvex {
+
+std::string unitWarning(UnitGroup group, std::string_view unit) {
+  const std::string_view notice = findUnitWord(group, unit).notice;
+  return notice.empty() ? std::string() : std::string(unit).append(": ").append(notice);
+}
+
+UnitChoice nameUnits(const Member& member, std::span<Value> arguments) {
+  UnitChoice choice;
+  const auto atGroup = [&](std::string& text) {
+    choice.group = findGroupWord(toUtf8(text));
+    if (choice.group) {
+      const auto keywords = unitGroupTable()[static_cast<std::size_t>(*choice.group)].keywords;
+      if (std::ranges::count(keywords, text) == 0) text = keywords.front();
+    }
+    return choice.group;
+  };
+  forEachUnitName(member, arguments, atGroup, [&](UnitGroup group, std::string& text) {
+    choice.group = group;
+    const std::string word = toUtf8(text);
+    const ZvUomLiteKeyword* unit = findUnitWord(group, word).unit;
+    choice.units.push_back(unit);
+    if (unit == nullptr) return;
+    text = unit->name;
+    if (const std::string warning = unitWarning(group, word); !warning.empty()) {
+      choice.warning += (choice.warning.empty() ? "" : "\n") + warning;
+    }
+  });
+  return choice;
+}
+
+void Client::reset() {
+  besideCatalogue_ = besideCatalogue_ && units().mode() == UnitsMode::custom;
+  object_.reset();
+  object_ = std::make_unique<ZvCalvex>(module_);
+  for (const StartingSetting& setting : startingSettings) {
+    Value value = setting.value;
+    object_->put(*findMember(setting.member), {&value, 1});
+  }
+  if (besideCatalogue_) engine().SetAppLevel(static_cast<short>(UnitsMode::custom));
+}
+
+void Client::takeSettings(const Client& other) {
+  engine().TakeSettings(other.engine());
+  besideCatalogue_ = other.besideCatalogue_;
+}
+
+void Client::setCustomUnit(UnitGroup group, const ZvUomLiteKeyword& unit) {
+  engine().SetCustomUserUnitIndex(static_cast<short>(group), unit.name, unit.factor, unit.offset);
+}
+
+void Client::chooseUnit(UnitGroup group, const ZvUomLiteKeyword& unit) {
+  if (units().mode() != UnitsMode::custom) {
+    engine().SetAppLevel(static_cast<short>(UnitsMode::custom));
+    besideCatalogue_ = true;
+    for (int other = 0; other < unitGroupCount; ++other) {
+      setCustomUnit(UnitGroup(other), units().catalogue()[UnitGroup(other)].currentUnit());
+    }
+  }
+  setCustomUnit(group, unit);
+}
+
+// For a unit that the engine has just taken from its catalogue.
+void Client::followUnit(UnitGroup group) {
+  if (besideCatalogue_ && units().mode() == UnitsMode::custom) {
+    setCustomUnit(group, units().catalogue()[group].currentUnit());
+  }
+}
+
+ZvCalvex::Result Client::invoke(const Member& member, std::span<Value> arguments,
+                                const UnitChoice& choice) {
+  const auto known = [](const ZvUomLiteKeyword* unit) { return unit != nullptr; };
+  const bool beside = !choice.units.empty() && std::ranges::all_of(choice.units, known) &&
+                      std::ranges::any_of(choice.units, [&](const ZvUomLiteKeyword* unit) {
+                        return !isInCatalogue(*choice.group, *unit);
+                      });
+  if (beside && choice.units.size() == 1) {
+    chooseUnit(*choice.group, *choice.units[0]);
+    return {};
+  }
+  if (beside) {  // Convert: value and result come last
+    const double value = std::get<double>(*(arguments.end() - 2));
+    double result = 0.0;
+    const int success = engine().call(member.name, [&] {
+      return engine().give(&result, convert(*choice.units[0], *choice.units[1], value));
+    });
+    if (success != 0) arguments.back() = result;
+    return {HResult::ok, success};
+  }
+  const ZvCalvex::Result result = object_->invoke(member, arguments);
+  if (result.success != 0 && choice.units.size() == 1) followUnit(*choice.group);
+  return result;
+}
+
+}  // namespace calvex
