@@ -81,6 +81,8 @@ set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/cmake/debian-files.cmake)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_LIBRARY_PACKAGE_SECTION libs)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
@@ -104,10 +106,4 @@ This package has the command line.")
 set(CPACK_DEBIAN_PYTHON_DESCRIPTION "${about}
 .
 This package has the module for Python 3.")
-# Programs that are linked find the package; the loader learns of the library without a script.
-set(control ${CMAKE_CURRENT_BINARY_DIR}/debian-control)
-file(WRITE ${control}/shlibs "libcalvex ${PROJECT_VERSION_MAJOR} \
-libcalvex${PROJECT_VERSION_MAJOR} (>= ${PROJECT_VERSION})\n")
-file(WRITE ${control}/triggers "activate-noawait ldconfig\n")
-set(CPACK_DEBIAN_LIBRARY_PACKAGE_CONTROL_EXTRA "${control}/shlibs;${control}/triggers")
 include(CPack)

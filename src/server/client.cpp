@@ -1,6 +1,7 @@
 #include "server/client.h"
 
 #include <algorithm>
+#include <new>
 
 #include "units/encoding.h"
 #include "units/unit_words.h"
@@ -39,7 +40,7 @@ UnitChoice nameUnits(const Member& member, std::span<Value> arguments) {
 void Client::reset() {
   besideCatalogue_ = besideCatalogue_ && units().mode() == UnitsMode::custom;
   object_.reset();
-  object_ = std::make_unique<ZvCalvex>(module_);
+  object_.emplace(module_);
   for (const StartingSetting& setting : startingSettings) {
     Value value = setting.value;
     object_->put(*findMember(setting.member), {&value, 1});
@@ -52,18 +53,30 @@ void Client::takeSettings(const Client& other) {
   besideCatalogue_ = other.besideCatalogue_;
 }
 
+// The engine refuses none of these units; it can only be out of memory.
 void Client::setCustomUnit(UnitGroup group, const ZvUomLiteKeyword& unit) {
-  engine().SetCustomUserUnitIndex(static_cast<short>(group), unit.name, unit.factor, unit.offset);
+  if (engine().SetCustomUserUnitIndex(static_cast<short>(group), unit.name, unit.factor,
+                                      unit.offset) == 0) {
+    throw std::bad_alloc();
+  }
+}
+
+void Client::leaveCatalogue() {
+  const UnitsMode before = units().mode();
+  engine().SetAppLevel(static_cast<short>(UnitsMode::custom));
+  try {
+    for (int group = 0; group < unitGroupCount; ++group) {
+      setCustomUnit(UnitGroup(group), units().catalogue()[UnitGroup(group)].currentUnit());
+    }
+  } catch (...) {
+    engine().SetAppLevel(static_cast<short>(before));
+    throw;
+  }
+  besideCatalogue_ = true;
 }
 
 void Client::chooseUnit(UnitGroup group, const ZvUomLiteKeyword& unit) {
-  if (units().mode() != UnitsMode::custom) {
-    engine().SetAppLevel(static_cast<short>(UnitsMode::custom));
-    besideCatalogue_ = true;
-    for (int other = 0; other < unitGroupCount; ++other) {
-      setCustomUnit(UnitGroup(other), units().catalogue()[UnitGroup(other)].currentUnit());
-    }
-  }
+  if (units().mode() != UnitsMode::custom) leaveCatalogue();
   setCustomUnit(group, unit);
 }
 

@@ -3,7 +3,6 @@
 /// its own, with the settings of today and with units in plain words.
 #pragma once
 
-#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -87,9 +86,10 @@ class Client {
 
  private:
   Module module_;
-  std::unique_ptr<ZvCalvex> object_;
+  std::optional<ZvCalvex> object_;
   bool besideCatalogue_ = false;  ///< custom units are in use for `chooseUnit`
 
+  void leaveCatalogue();
   void setCustomUnit(UnitGroup group, const ZvUomLiteKeyword& unit);
   void followUnit(UnitGroup group);
 };

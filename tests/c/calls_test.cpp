@@ -1,0 +1,318 @@
+// Calls through the C interface, and what misuse of it answers.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "calvex/calvex.h"
+#include "support/checkout.h"
+
+namespace {
+
+struct Destroy {
+  void operator()(calvex_engine* engine) const { calvex_destroy(engine); }
+};
+using Engine = std::unique_ptr<calvex_engine, Destroy>;
+
+Engine makeEngine() {
+  calvex_engine* engine = nullptr;
+  EXPECT_EQ(calvex_create(&engine), CALVEX_OK);
+  return Engine(engine);
+}
+
+template <class Get>
+std::string text(Get get) {
+  char buffer[2000];
+  EXPECT_EQ(get(buffer, sizeof buffer, nullptr), CALVEX_OK);
+  return buffer;
+}
+std::string lastError(const Engine& engine) {
+  return text([&](char* to, std::size_t size, std::size_t* needed) {
+    return calvex_last_error(engine.get(), to, size, needed);
+  });
+}
+
+int numberOf(const char* name) {
+  int member = -1;
+  EXPECT_EQ(calvex_find_member(name, CALVEX_TERMINATED, &member), CALVEX_OK) << name;
+  return member;
+}
+
+int HPT(const Engine& engine, double P, double T, double* h) {
+  const double given[] = {P, T};
+  return calvex_call_named(engine.get(), "HPT", CALVEX_TERMINATED, given, 2, h, 1);
+}
+
+constexpr double untouched = -12345.0;
+const double inf = std::numeric_limits<double>::infinity();
+const double nan = std::numeric_limits<double>::quiet_NaN();
+
+// 3374 kJ/kg: Haar, Gallagher, Kell, NBS/NRC Steam Tables (1984), 10 MPa and 500 °C.
+constexpr double tabulated = 3374.0;
+
+TEST(C, CallsAMemberByNameAndByNumber) {
+  const Engine engine = makeEngine();
+  double byName = 0.0, byNumber = 0.0;
+  ASSERT_EQ(HPT(engine, 10.0, 773.15, &byName), CALVEX_OK);
+  EXPECT_NEAR(byName, tabulated, 0.5);
+  const double given[] = {10.0, 773.15};
+  ASSERT_EQ(calvex_call(engine.get(), numberOf("hpt"), given, 2, &byNumber, 1), CALVEX_OK);
+  EXPECT_EQ(byNumber, byName);
+}
+
+TEST(C, TellsItsVersion) { EXPECT_EQ(text(calvex_version), calvex::test::projectVersion()); }
+
+TEST(C, AFailureHasTheNumberAndTheTextOfTheMessageAndWritesNothing) {
+  const Engine engine = makeEngine();
+  double h = untouched;
+  EXPECT_EQ(HPT(engine, 10.0, 3000.0, &h), 108);
+  EXPECT_EQ(lastError(engine),
+            "Temperature parameter out of range (Valid range 260.00 to 2500.00 K).");
+  EXPECT_EQ(h, untouched);
+  EXPECT_EQ(calvex_put(engine.get(), numberOf("SolverTol"), -1.0), 8);
+  EXPECT_EQ(lastError(engine), "Invalid solver tolerance specified.");
+}
+
+TEST(C, NumbersThatAreNoneFailAndWriteNothing) {
+  const Engine engine = makeEngine();
+  for (const double bad : {nan, inf, -inf, 1e308, -1e308, 5e-324}) {
+    double h = untouched;
+    EXPECT_GT(HPT(engine, 10.0, bad, &h), 0) << bad;
+    EXPECT_GT(HPT(engine, bad > 1.0 ? -bad : bad, bad, &h), 0) << bad;
+    EXPECT_EQ(h, untouched);
+  }
+}
+
+TEST(C, TheLastFailureBelongsToTheEngine) {
+  const Engine one = makeEngine(), other = makeEngine();
+  double h = 0.0;
+  EXPECT_EQ(HPT(one, 10.0, 3000.0, &h), 108);
+  EXPECT_EQ(lastError(other), "");
+  EXPECT_EQ(HPT(one, 10.0, 700.0, &h), CALVEX_OK);
+  EXPECT_NE(lastError(one), "");
+}
+
+TEST(C, UnitsAreTheEnginesOwnAndPlainWords) {
+  const Engine celsius = makeEngine(), kelvin = makeEngine();
+  const auto choose = [](const Engine& engine, const char* group, const char* unit) {
+    return calvex_set_unit(engine.get(), group, CALVEX_TERMINATED, unit, CALVEX_TERMINATED);
+  };
+  ASSERT_EQ(choose(celsius, "temperature", "°C"), CALVEX_OK);
+  ASSERT_EQ(choose(celsius, "pressure", "bar"), CALVEX_OK);
+  double there = 0.0, here = 0.0;
+  ASSERT_EQ(HPT(celsius, 100.0, 500.0, &there), CALVEX_OK);
+  ASSERT_EQ(HPT(kelvin, 10.0, 773.15, &here), CALVEX_OK);
+  EXPECT_NEAR(there, here, 1e-9);
+  EXPECT_EQ(text([&](char* to, std::size_t size, std::size_t* needed) {
+              return calvex_unit(celsius.get(), 0, to, size, needed);
+            }),
+            "C");
+  EXPECT_GT(choose(celsius, "temperature", "furlong"), 0);
+  EXPECT_NE(lastError(celsius).find("furlong"), std::string::npos) << lastError(celsius);
+  // Not in the catalogue: the engine takes it as a custom unit.
+  ASSERT_EQ(choose(celsius, "P", "mbar"), CALVEX_OK) << lastError(celsius);
+  EXPECT_EQ(calvex_take_settings(kelvin.get(), celsius.get()), CALVEX_OK);
+  ASSERT_EQ(HPT(kelvin, 100000.0, 500.0, &there), CALVEX_OK);
+  EXPECT_NEAR(there, here, 1e-9);
+}
+
+TEST(C, SettingsAreReadAndPut) {
+  const Engine engine = makeEngine();
+  double value = 0.0;
+  ASSERT_EQ(calvex_call(engine.get(), numberOf("SatPolish"), nullptr, 0, &value, 1), CALVEX_OK);
+  EXPECT_EQ(value, 2.0);
+  ASSERT_EQ(calvex_put(engine.get(), numberOf("SatPolish"), 0.0), CALVEX_OK);
+  ASSERT_EQ(calvex_call(engine.get(), numberOf("SatPolish"), nullptr, 0, &value, 1), CALVEX_OK);
+  EXPECT_EQ(value, 0.0);
+  ASSERT_EQ(calvex_reset(engine.get()), CALVEX_OK);
+  ASSERT_EQ(calvex_call(engine.get(), numberOf("SatPolish"), nullptr, 0, &value, 1), CALVEX_OK);
+  EXPECT_EQ(value, 2.0);
+  EXPECT_EQ(calvex_put(engine.get(), numberOf("LastError"), 0.0), CALVEX_VALUE);
+  EXPECT_EQ(calvex_put(engine.get(), numberOf("HPT"), 0.0), CALVEX_VALUE);
+  EXPECT_EQ(calvex_put(engine.get(), numberOf("AppName"), 0.0), CALVEX_VALUE);
+  EXPECT_EQ(calvex_put_text(engine.get(), numberOf("SatPolish"), "2", 1), CALVEX_VALUE);
+  for (const double bad : {0.5, nan, inf, 3e9, -3e9}) {
+    EXPECT_EQ(calvex_put(engine.get(), numberOf("SatPolish"), bad), CALVEX_VALUE) << bad;
+  }
+}
+
+TEST(C, TextsComeBackUnharmed) {
+  const Engine engine = makeEngine();
+  const std::string name = "Kesselhaus Köln – 5 €";
+  const auto get = [&](char* to, std::size_t size, std::size_t* needed) {
+    EXPECT_EQ(calvex_call(engine.get(), numberOf("AppName"), nullptr, 0, nullptr, 0), CALVEX_OK);
+    return calvex_answer_text(engine.get(), 0, 0, to, size, needed);
+  };
+  ASSERT_EQ(calvex_put_text(engine.get(), numberOf("AppName"), name.data(), name.size()),
+            CALVEX_OK);
+  EXPECT_EQ(text(get), name);
+  for (const std::string bad : {"\xC3", "\xFF\xFE", "\xC0\x80", "\xED\xA0\x80", "雪"}) {
+    EXPECT_EQ(calvex_put_text(engine.get(), numberOf("AppName"), bad.data(), bad.size()),
+              CALVEX_ENCODING);
+  }
+  EXPECT_EQ(text(get), name);
+}
+
+TEST(C, ATextThatDoesNotFitIsCutBetweenTwoCharacters) {
+  const Engine engine = makeEngine();
+  ASSERT_EQ(calvex_put_text(engine.get(), numberOf("AppName"), "aé€", CALVEX_TERMINATED),
+            CALVEX_OK);
+  ASSERT_EQ(calvex_call(engine.get(), numberOf("AppName"), nullptr, 0, nullptr, 0), CALVEX_OK);
+  const char* const cut[] = {"", "", "a", "a", "aé", "aé", "aé"};
+  for (std::size_t size = 1; size <= 7; ++size) {
+    char buffer[8] = "???????";
+    std::size_t needed = 0;
+    const int code = calvex_answer_text(engine.get(), 0, 0, buffer, size, &needed);
+    EXPECT_EQ(needed, 7U);
+    EXPECT_EQ(code, size < 7 ? CALVEX_TOO_SMALL : CALVEX_OK) << size;
+    EXPECT_STREQ(buffer, size < 7 ? cut[size] : "aé€") << size;
+    EXPECT_EQ(std::string(buffer + size), std::string("???????").substr(size)) << size;
+  }
+  EXPECT_EQ(calvex_answer_text(engine.get(), 0, 0, nullptr, 1, nullptr), CALVEX_NULL);
+  EXPECT_EQ(calvex_answer_text(engine.get(), 0, 0, nullptr, 0, nullptr), CALVEX_OK);
+}
+
+TEST(C, AnswersATableOfTextsAndNumbers) {
+  const Engine engine = makeEngine();
+  const double given[] = {3214.0, 4.0, 0.01, 0.8, 10.0};
+  const char* const tokens[] = {"Pow, T_Out"};
+  ASSERT_EQ(calvex_call_texts(engine.get(), numberOf("XLTurbineA"), given, 5, tokens, nullptr, 1,
+                              nullptr, 0),
+            CALVEX_OK);
+  std::size_t rows = 0, columns = 0;
+  ASSERT_EQ(calvex_answer_size(engine.get(), &rows, &columns), CALVEX_OK);
+  ASSERT_EQ(rows, 2U);
+  ASSERT_EQ(columns, 3U);  // label, value, unit
+  double direct[4], power = 0.0;
+  ASSERT_EQ(calvex_call(engine.get(), numberOf("TurbineA"), given, 5, direct, 4), CALVEX_OK);
+  // The table is gone with the next call.
+  EXPECT_EQ(calvex_answer_number(engine.get(), 0, 1, &power), CALVEX_UNKNOWN);
+  ASSERT_EQ(calvex_call_texts(engine.get(), numberOf("XLTurbineA"), given, 5, tokens, nullptr, 1,
+                              nullptr, 0),
+            CALVEX_OK);
+  ASSERT_EQ(calvex_answer_number(engine.get(), 0, 1, &power), CALVEX_OK);
+  EXPECT_EQ(power, direct[0]);
+  int kind = -1;
+  EXPECT_EQ(calvex_answer_kind(engine.get(), 0, 0, &kind), CALVEX_OK);
+  EXPECT_EQ(kind, CALVEX_CELL_TEXT);
+  EXPECT_EQ(calvex_answer_number(engine.get(), 0, 0, &power), CALVEX_VALUE);
+  EXPECT_EQ(calvex_answer_text(engine.get(), 0, 1, nullptr, 0, nullptr), CALVEX_VALUE);
+  EXPECT_EQ(calvex_answer_number(engine.get(), 2, 0, &power), CALVEX_UNKNOWN);
+  EXPECT_EQ(calvex_answer_number(engine.get(), 0, 3, &power), CALVEX_UNKNOWN);
+  EXPECT_EQ(calvex_answer_number(engine.get(), SIZE_MAX, SIZE_MAX, &power), CALVEX_UNKNOWN);
+}
+
+TEST(C, TheTraceIsATree) {
+  const Engine engine = makeEngine();
+  double h = 0.0;
+  EXPECT_EQ(HPT(engine, 10.0, 3000.0, &h), 108);
+  EXPECT_EQ(HPT(engine, 10.0, 1500.0, &h), CALVEX_OK);  // above the strictly valid range
+  std::size_t count = 0;
+  ASSERT_EQ(calvex_trace_take(engine.get(), &count), CALVEX_OK);
+  ASSERT_EQ(count, 5U);
+  const auto node = [&](std::size_t at) {
+    calvex_node facts{};
+    EXPECT_EQ(calvex_trace_node(engine.get(), at, &facts, sizeof facts), CALVEX_OK);
+    return facts;
+  };
+  const auto textOf = [&](std::size_t at) {
+    return text([&](char* to, std::size_t size, std::size_t* needed) {
+      return calvex_trace_text(engine.get(), at, to, size, needed);
+    });
+  };
+  const calvex_node root = node(0);
+  EXPECT_EQ(root.kind, CALVEX_NODE_ROOT);
+  EXPECT_EQ(root.parent, CALVEX_NONE);
+  const calvex_node failed = node(root.first_child);
+  EXPECT_EQ(textOf(root.first_child), "HPT");
+  EXPECT_EQ(failed.kind, CALVEX_NODE_CALL);
+  EXPECT_EQ(failed.gravest, CALVEX_NODE_ERROR);
+  const calvex_node error = node(failed.first_child);
+  EXPECT_EQ(error.kind, CALVEX_NODE_ERROR);
+  EXPECT_EQ(error.code, 108);
+  EXPECT_EQ(error.parent, root.first_child);
+  EXPECT_EQ(error.next_sibling, CALVEX_NONE);
+  const calvex_node warned = node(failed.next_sibling);
+  EXPECT_EQ(warned.gravest, CALVEX_NODE_WARNING);
+  EXPECT_EQ(node(warned.first_child).code, 201);
+  EXPECT_EQ(textOf(warned.first_child), "Temperature parameter out of strictly valid range.");
+  calvex_node unused{};
+  EXPECT_EQ(calvex_trace_node(engine.get(), 5, &unused, sizeof unused), CALVEX_UNKNOWN);
+  EXPECT_EQ(calvex_trace_node(engine.get(), CALVEX_NONE, &unused, sizeof unused), CALVEX_UNKNOWN);
+}
+
+TEST(C, MisuseAnswersACodeAndATextAndWritesNothing) {
+  const Engine engine = makeEngine();
+  calvex_engine* const e = engine.get();
+  double h = untouched;
+  const double given[] = {10.0, 700.0};
+  const int member = numberOf("HPT");
+  EXPECT_EQ(calvex_create(nullptr), CALVEX_NULL);
+  EXPECT_EQ(calvex_destroy(nullptr), CALVEX_OK);
+  EXPECT_EQ(calvex_call(nullptr, member, given, 2, &h, 1), CALVEX_NULL);
+  EXPECT_EQ(calvex_call(e, member, nullptr, 2, &h, 1), CALVEX_NULL);
+  EXPECT_EQ(calvex_call(e, member, given, 2, nullptr, 1), CALVEX_NULL);
+  EXPECT_EQ(calvex_call(e, member, given, 1, &h, 1), CALVEX_COUNT);
+  EXPECT_EQ(lastError(engine), "HPT has 2 numbers that go in, but 1 was given");
+  EXPECT_EQ(calvex_call(e, member, given, SIZE_MAX, &h, 1), CALVEX_COUNT);
+  EXPECT_EQ(calvex_call(e, member, given, 2, &h, SIZE_MAX), CALVEX_COUNT);
+  EXPECT_EQ(calvex_call(e, member, given, 2, &h, 0), CALVEX_COUNT);
+  for (const int unknown : {0, -1, 0x14, 0xba, 70000, std::numeric_limits<int>::max(),
+                            std::numeric_limits<int>::min()}) {
+    EXPECT_EQ(calvex_call(e, unknown, given, 2, &h, 1), CALVEX_UNKNOWN) << unknown;
+  }
+  EXPECT_EQ(calvex_call_named(e, "HTP", 3, given, 2, &h, 1), CALVEX_UNKNOWN);
+  EXPECT_EQ(lastError(engine), "there is no member HTP");
+  EXPECT_EQ(calvex_call_named(e, nullptr, 3, given, 2, &h, 1), CALVEX_NULL);
+  EXPECT_EQ(calvex_call_named(e, nullptr, 0, given, 2, &h, 1), CALVEX_UNKNOWN);
+  EXPECT_EQ(calvex_call_named(e, "HPT", SIZE_MAX - 1, given, 2, &h, 1), CALVEX_COUNT);
+  const char* const texts[] = {nullptr, nullptr};
+  EXPECT_EQ(
+      calvex_call_texts(e, numberOf("SetUserUnit"), nullptr, 0, texts, nullptr, 2, nullptr, 0),
+      CALVEX_NULL);
+  EXPECT_EQ(
+      calvex_call_texts(e, numberOf("SetUserUnit"), nullptr, 0, nullptr, nullptr, 2, nullptr, 0),
+      CALVEX_NULL);
+  EXPECT_EQ(calvex_take_settings(e, nullptr), CALVEX_NULL);
+  EXPECT_EQ(calvex_take_settings(e, e), CALVEX_OK);
+  EXPECT_EQ(calvex_answer_size(e, nullptr, nullptr), CALVEX_NULL);
+  EXPECT_EQ(calvex_trace_take(e, nullptr), CALVEX_NULL);
+  EXPECT_EQ(calvex_trace_text(e, 0, nullptr, 0, nullptr), CALVEX_UNKNOWN);  // no picture yet
+  EXPECT_EQ(h, untouched);
+}
+
+TEST(C, EveryFunctionWithAnEngineKnowsNone) {
+  double number = 0.0;
+  std::size_t size = 0;
+  int whole = 0;
+  calvex_node node{};
+  calvex_request request{};
+  calvex_rows rows{};
+  EXPECT_EQ(calvex_reset(nullptr), CALVEX_NULL);
+  EXPECT_EQ(calvex_take_settings(nullptr, nullptr), CALVEX_NULL);
+  EXPECT_EQ(calvex_last_error(nullptr, nullptr, 0, &size), CALVEX_NULL);
+  EXPECT_EQ(calvex_last_cause(nullptr, nullptr, 0, &size), CALVEX_NULL);
+  EXPECT_EQ(calvex_call_named(nullptr, "HPT", 3, &number, 2, &number, 1), CALVEX_NULL);
+  EXPECT_EQ(calvex_call_texts(nullptr, 1, nullptr, 0, nullptr, nullptr, 0, nullptr, 0),
+            CALVEX_NULL);
+  EXPECT_EQ(calvex_put(nullptr, 1, 0.0), CALVEX_NULL);
+  EXPECT_EQ(calvex_put_text(nullptr, 1, "", 0), CALVEX_NULL);
+  EXPECT_EQ(calvex_answer_size(nullptr, &size, &size), CALVEX_NULL);
+  EXPECT_EQ(calvex_answer_kind(nullptr, 0, 0, &whole), CALVEX_NULL);
+  EXPECT_EQ(calvex_answer_number(nullptr, 0, 0, &number), CALVEX_NULL);
+  EXPECT_EQ(calvex_answer_text(nullptr, 0, 0, nullptr, 0, &size), CALVEX_NULL);
+  EXPECT_EQ(calvex_set_unit(nullptr, "T", 1, "C", 1), CALVEX_NULL);
+  EXPECT_EQ(calvex_unit(nullptr, 0, nullptr, 0, &size), CALVEX_NULL);
+  EXPECT_EQ(calvex_trace_take(nullptr, &size), CALVEX_NULL);
+  EXPECT_EQ(calvex_trace_node(nullptr, 0, &node, sizeof node), CALVEX_NULL);
+  EXPECT_EQ(calvex_trace_text(nullptr, 0, nullptr, 0, &size), CALVEX_NULL);
+  EXPECT_EQ(calvex_trace_column(nullptr, 0, 0, nullptr, 0, &size), CALVEX_NULL);
+  EXPECT_EQ(calvex_direct(nullptr, &request, sizeof request), CALVEX_NULL);
+  EXPECT_EQ(calvex_direct_reason(nullptr, 'P', 'T', 1, 1, "H", 1, nullptr, 0, &size), CALVEX_NULL);
+  EXPECT_EQ(calvex_columns(nullptr, &rows, sizeof rows), CALVEX_NULL);
+}
+
+}  // namespace
