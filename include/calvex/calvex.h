@@ -98,7 +98,7 @@ CALVEX_API int calvex_version(char* text, size_t size, size_t* needed);
 /** Calls a member: its numbers in, in the order of its parameters, and its numbers out. Of a
  * setting the one number is its value; `calvex_put` changes it. A whole number must be one.
  *
- * A result that the member has not determined in this call (equipment leaves some) is NaN. */
+ * A result that the member leaves out is NaN, of whole numbers 0 (hWnd). */
 CALVEX_API int calvex_call(calvex_engine* engine, int member, const double* inputs,
                            size_t input_count, double* outputs, size_t output_count);
 

@@ -69,11 +69,12 @@ void require(const Member& member, const char* what, std::size_t expected, std::
   if (expected != 0) c::require(values, what);
 }
 
-double toDouble(const Value& value) {
+// A result that the member left out is no number; of whole numbers there is none, so it is 0.
+double toDouble(const Value& value, ValueType type) {
   if (const auto* real = std::get_if<double>(&value)) return *real;
   if (const auto* small = std::get_if<short>(&value)) return *small;
   if (const auto* large = std::get_if<int>(&value)) return *large;
-  return std::numeric_limits<double>::quiet_NaN();
+  return type == ValueType::real ? std::numeric_limits<double>::quiet_NaN() : 0.0;
 }
 
 // The failure of a call that the engine refused.
@@ -126,7 +127,7 @@ int call(calvex_engine& engine, const Member& member, Inputs inputs, double* out
   for (std::size_t i = 0; i < parameters.size(); ++i) {
     if (!parameters[i].isOutput()) continue;
     if (isNumber(parameters[i])) {
-      *outputs++ = toDouble(arguments[i]);
+      *outputs++ = toDouble(arguments[i], parameters[i].type);
     } else if (auto* table = std::get_if<ResultArray>(&arguments[i])) {
       engine.answer = std::move(*table);
     } else if (auto* text = std::get_if<std::string>(&arguments[i])) {

@@ -247,8 +247,12 @@ TEST(Faces, CAndCppAnswerTheEnginesBits) {
     const Answered c = ofC(fromC.handle(), asked);
     EXPECT_EQ(c.failed, engine.failed) << asked.member->name;
     if (engine.failed && asked.member->name == "SetCustomUserUnitIndex")
-      continue;  // without a word
-    EXPECT_EQ(c.text(), engine.text()) << asked.member->name;
+      continue;                          // without a word
+    if (asked.member->name == "hWnd") {  // has no value for the engine
+      EXPECT_EQ(c.numbers, std::vector<double>{0.0});
+    } else {
+      EXPECT_EQ(c.text(), engine.text()) << asked.member->name;
+    }
     EXPECT_EQ(wrapped.members.at(std::string(asked.member->name))(fromCpp, asked).text(), c.text())
         << asked.member->name;
     answers += engine.failed ? 0 : 1;
