@@ -43,7 +43,9 @@ void Client::reset() {
   object_.emplace(module_);
   for (const StartingSetting& setting : startingSettings) {
     Value value = setting.value;
-    object_->put(*findMember(setting.member), {&value, 1});
+    const Member& member = *findMember(setting.member);
+    // Neither is refused but for memory.
+    if (object_->put(member, {&value, 1}).success == 0) throw std::bad_alloc();
   }
   if (besideCatalogue_) engine().SetAppLevel(static_cast<short>(UnitsMode::custom));
 }
