@@ -30,6 +30,10 @@ TEST(GeneratedTexts, TheKeptStringTableIsCurrent) {
       << "run scripts/update-generated";
 }
 
+TEST(GeneratedTexts, TheKeptMembersOfTheWrapperAreCurrent) {
+  EXPECT_EQ(kept("include/calvex/members.hpp"), wrapperMembers()) << "run scripts/update-generated";
+}
+
 // The part of the macro module above the generated one is written by hand.
 TEST(GeneratedTexts, TheKeptWorksheetFunctionsAreCurrent) {
   const std::string text = kept("packaging/windows/calvex.bas");

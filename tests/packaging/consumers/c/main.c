@@ -1,4 +1,5 @@
-/* A program in C99: prints the enthalpy of steam at 10 MPa and 773.15 K, and why 3000 K has none. */
+/* A program in C99: prints the enthalpy of steam at 10 MPa and 773.15 K, and why 3000 K has none.
+ */
 #include <calvex/calvex.h>
 #include <stdio.h>
 
