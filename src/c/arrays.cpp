@@ -92,7 +92,9 @@ Column from(Column column, std::size_t row) {
 constexpr std::size_t chunkSize = 1024;
 
 int evaluate(calvex_engine& engine, const calvex_request& asked) {
-  const auto [pair, swapped] = pairOf(asked.first_letter, asked.second_letter);
+  const GivenPair given = pairOf(asked.first_letter, asked.second_letter);
+  const direct::Pair pair = given.pair;
+  const bool swapped = given.swapped;
   const std::size_t n = asked.count;
   if (asked.result_count != 0) c::require(asked.results, "the list of results");
   if (asked.result_count > direct::letterCount * 4) {
