@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <bit>
+#include <cmath>
 #include <cstdint>
 #include <set>
 #include <stdexcept>
@@ -335,8 +336,22 @@ TEST(MemberColumns, TheDirectRoadIsLeftWhereTheSettingsAreOthers) {
   engine.SetSolverTol(1e-8);
   EXPECT_FALSE(hasDirectSettings(engine));
   EXPECT_TRUE(directUnits(engine.units()));
+}
+
+// 1 ksi is 6894757.293168361 Pa, the reference for pressures in the catalogue.
+TEST(MemberColumns, TheDirectRoadKnowsCustomUnitsThatValuesCanBeToldIn) {
+  ZvThermoInt engine;
   engine.SetAppLevel(3);
-  EXPECT_FALSE(directUnits(engine.units()));
+  ASSERT_EQ(engine.SetCustomUserUnitIndex(1, "ksi", 6894757.293168361, 0.0), 1);
+  const auto units = directUnits(engine.units());
+  ASSERT_TRUE(units);
+  const direct::Unit& pressure = (*units)[static_cast<std::size_t>(direct::Letter::P)];
+  EXPECT_NEAR((1.0 + pressure.offset) * pressure.factor, 6.894757293168361, 1e-14);  // MPa
+  EXPECT_EQ(pressure.name, "ksi");
+  for (const double factor : {0.0, 1e-200, 1e300, std::nan("")}) {
+    engine.SetCustomUserUnitIndex(1, "none", factor, 0.0);
+    EXPECT_FALSE(directUnits(engine.units())) << factor;
+  }
 }
 
 TEST(MemberColumns, AStopEndsThemEarly) {
