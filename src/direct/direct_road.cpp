@@ -523,10 +523,10 @@ Wanted wantedBy(const Request& request) {
   return wanted;
 }
 
-const StateTable* startsOf(Pair pair) {
+const void* startsOf(Pair pair) {
   switch (pair) {
     case Pair::PT:
-      return &statesFromPT();
+      return &densityFromPT();
     case Pair::PH:
       return &statesFromPH();
     case Pair::PS:
