@@ -11,47 +11,48 @@ lists them, `help(calvex.Engine)` tells about engines, `calvex.plot` draws.
 """
 import importlib
 
-from ._calvex import CalvexError, CalvexWarning, version as __version__
-from ._engine import Engine, members
-from .units import Value, convert
+# Where each name is. Nothing is imported, and NumPy not before it is needed, until a name is asked
+# for.
+_PLACES = {
+    "CalvexError": "._calvex", "CalvexWarning": "._calvex",
+    "Engine": "._engine", "default": "._engine",
+    "members": "._members",
+    "State": "._state",
+    "Value": ".units", "convert": ".units",
+    "plot": ".plot", "units": ".units",
+}
+# What the engine of the module's own functions answers, besides its members.
+_OF_DEFAULT = ("reasons", "state", "trace", "unit")
 
-__all__ = ["CalvexError", "CalvexWarning", "Engine", "Value", "convert", "default", "members",
-           "plot", "reasons", "state", "trace", "units", "__version__"]
-
-#: The engine of the module's own functions: model units.
-default = Engine()
-
-
-def state(*, errors=None, **pair):
-    """A state from any pair of properties in model units; see Engine.state."""
-    return default.state(errors=errors, **pair)
-
-
-def trace():
-    """The trace of the module's own functions; see Engine.trace."""
-    return default.trace()
-
-
-def reasons():
-    """Why elements of the last array failed; see Engine.reasons."""
-    return default.reasons()
+__all__ = ["__version__", *_PLACES, *_OF_DEFAULT]
 
 
 def __getattr__(name):
-    # Members are made when they are first asked for, and only once.
-    if name == "plot":
-        return importlib.import_module(".plot", __name__)
-    if not name.startswith("_"):
+    if name in ("plot", "units"):
+        return importlib.import_module("." + name, __name__)
+    if name in _PLACES:
+        value = getattr(importlib.import_module(_PLACES[name], __name__), name)
+    elif name == "__version__":
+        from ._calvex import version as value
+    elif name in _OF_DEFAULT:
+        from ._engine import default
+        value = getattr(default, name)
+    elif name.startswith("_"):
+        raise AttributeError(f"module 'calvex' has no attribute {name!r}")
+    else:
+        from ._engine import default
+        from ._members import members
         kind = members.kinds.get(name)
-        if kind in ("ufunc", "method"):
-            value = getattr(default, name)
-            globals()[name] = value
-            return value
-        if kind is not None:
+        if kind in ("setting", "reading"):
             raise AttributeError(f"{name} is a setting of an engine: calvex.default.{name}")
-    raise AttributeError(f"module 'calvex' has no attribute {name!r}{members.near(name)}")
+        if kind is None:
+            raise AttributeError(f"module 'calvex' has no attribute {name!r}{members.near(name)}")
+        value = getattr(default, name)
+    globals()[name] = value
+    return value
 
 
 def __dir__():
-    return sorted({*globals(), *__all__, *(n for n, k in members.kinds.items()
-                                           if k in ("ufunc", "method"))})
+    from ._members import members
+    return sorted({*globals(), *__all__,
+                   *(name for name, kind in members.kinds.items() if kind in ("ufunc", "method"))})

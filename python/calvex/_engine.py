@@ -230,3 +230,6 @@ def _others(binding, ufunc, arguments, words):
 _calvex.set_hooks(_others, _result_type)
 os.register_at_fork(before=_calvex.before_fork, after_in_parent=_calvex.after_fork,
                     after_in_child=_calvex.after_fork)
+
+#: The engine of the module's own functions: model units.
+default = Engine()

@@ -101,11 +101,14 @@ struct UfuncBody {
     }
     const MemberRequest request{
         binding.member_, {from.data(), inputs}, {to.data(), outputs}, {}, fail};
-    Core::Loan loan(binding.core());
+    const auto compute = [&](const Chunk& chunk) {
+      Core::Loan loan(binding.core());
+      evaluate(request, loan.engine(), chunk.begin, chunk.end);
+    };
     if (n > manyElements) {
-      evaluate(request, loan.engine(), static_cast<std::size_t>(n), ChunkedLoop{});
+      forEachChunk(static_cast<std::size_t>(n), {}, compute);
     } else {
-      evaluate(request, loan.engine(), 0, static_cast<std::size_t>(n));
+      compute({0, static_cast<std::size_t>(n), 0});
     }
     if (!apart) return;
     for (std::size_t o = 0; o < outputs; ++o) {
