@@ -26,6 +26,13 @@ def call(binding, ufunc, arguments, words):
         results = dask.apply_gufunc(ufunc, signature, *arguments, output_dtypes=[float] * ufunc.nout,
                                     **words)
         return tuple.__new__(binding.result_type, results)
+    pandas = sys.modules.get("pandas")
+    if pandas is not None and len({type(argument) for argument in arguments}) > 1:
+        series = [a for a in arguments if isinstance(a, pandas.Series)]
+        if len(series) > 1:
+            # pandas aligns several series, but not while there is anything else among them.
+            return ufunc(*(a if isinstance(a, pandas.Series) else pandas.Series(a, series[0].index)
+                           for a in arguments), **words)
     if "out" in words:
         return _into(ufunc, arguments, words)
     return NotImplemented

@@ -247,7 +247,7 @@ PyObject* callScalar(Binding& binding, Errors errors, const double* inputs) {
 // What becomes an array of doubles here, so that the loop sees whole columns and not the blocks in
 // which NumPy casts.
 bool isPlain(PyObject* object) {
-  return PyArray_CheckExact(object) || PyList_Check(object) || PyTuple_Check(object);
+  return PyArray_CheckExact(object) || PyList_CheckExact(object) || PyTuple_CheckExact(object);
 }
 
 // The array of a plain argument; numbers as doubles, anything else as it is, for NumPy to refuse.
