@@ -1,5 +1,9 @@
 """Builds the wheel of the Python package, for pip: python/CMakeLists.txt installed into a folder,
-zipped. Needs no package but what the project is built with."""
+zipped. Needs no package but what the project is built with.
+
+    pip install .
+    pip install . --config-settings build-dir=build/release    # a build that is there already
+"""
 import base64
 import hashlib
 import os
@@ -53,7 +57,9 @@ def _write_info(folder):
 
 
 def _run(*command):
-    subprocess.run([str(word) for word in command], check=True, stdout=sys.stderr)
+    # pip hides all packages from a build by PYTHONPATH; NumPy's headers are wanted all the same.
+    environment = {name: value for name, value in os.environ.items() if name != "PYTHONPATH"}
+    subprocess.run([str(word) for word in command], check=True, stdout=sys.stderr, env=environment)
 
 
 def _build(build, stage):
@@ -61,14 +67,14 @@ def _build(build, stage):
     if cmake is None:
         raise SystemExit("calvex is built with cmake, ninja and a C++20 compiler: as root, "
                          "scripts/install-packages run")
-    generator = ["-G", "Ninja"] if shutil.which("ninja") else []
-    launcher = [f"-DCMAKE_CXX_COMPILER_LAUNCHER={os.environ['CMAKE_CXX_COMPILER_LAUNCHER']}"] \
-        if "CMAKE_CXX_COMPILER_LAUNCHER" in os.environ else []
-    _run(cmake, *generator, *launcher, "-S", ROOT, "-B", build, "-DCMAKE_BUILD_TYPE=Release",
-         "-DCALVEX_PYTHON=ON", "-DCALVEX_TESTS=OFF", "-DCALVEX_BENCHMARKS=OFF",
-         f"-DPython3_EXECUTABLE={sys.executable}", "-DCALVEX_PYTHON_DIR=.")
+    if not (build / "CMakeCache.txt").exists():
+        generator = ["-G", "Ninja"] if shutil.which("ninja") else []
+        _run(cmake, *generator, "-S", ROOT, "-B", build, "-DCMAKE_BUILD_TYPE=Release",
+             "-DCALVEX_PYTHON=ON", "-DCALVEX_TESTS=OFF", "-DCALVEX_BENCHMARKS=OFF",
+             f"-DPython3_EXECUTABLE={sys.executable}")
     _run(cmake, "--build", build, "--target", "calvex_python", "-j", os.cpu_count() or 2)
     _run(cmake, "--install", build, "--prefix", stage, "--component", "python", "--strip")
+    return next(stage.rglob("calvex/__init__.py")).parent.parent
 
 
 def _zip(stage, wheel):
@@ -97,8 +103,9 @@ def prepare_metadata_for_build_wheel(metadata_directory, config_settings=None):
 def build_wheel(wheel_directory, config_settings=None, metadata_directory=None):
     wheel = f"calvex-{_version()}-{_tag()}.whl"
     with tempfile.TemporaryDirectory() as folder:
-        stage = pathlib.Path(folder) / "stage"
-        _build(pathlib.Path(folder) / "build", stage)
+        given = (config_settings or {}).get("build-dir")
+        build = pathlib.Path(given).resolve() if given else pathlib.Path(folder) / "build"
+        stage = _build(build, pathlib.Path(folder) / "stage")
         _write_info(stage)
         _zip(stage, pathlib.Path(wheel_directory) / wheel)
     return wheel
