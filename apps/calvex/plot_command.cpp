@@ -26,8 +26,7 @@ constexpr const char* program =
     "import sys\n"
     "try:\n"
     "    from calvex.plot import main\n"
-    "except ImportError as missing:\n"
-    "    print('calvex:', missing, file=sys.stderr)\n"
+    "except ImportError:\n"
     "    sys.exit(90)\n"
     "sys.exit(main(sys.argv[1:]))\n";
 
@@ -83,24 +82,28 @@ ExitStatus plotCommand(const Words& words, Console& console) {
   Client client;
   options.applyTo(client);  // refuses what is no unit
 
-  const char* const python = std::getenv("CALVEX_PYTHON");
-  Words command = {
-      python != nullptr ? python : "python3", "-c", program, rest->front(), "-o", output};
-  if (dark) command.emplace_back("--dark");
-  for (const std::string& unit : options.units) command.insert(command.end(), {"-u", unit});
+  // The first Python on the path may not be the system's, for which packages are installed.
+  const char* const chosen = std::getenv("CALVEX_PYTHON");
+  const Words pythons = chosen != nullptr ? Words{chosen} : Words{"python3", "/usr/bin/python3"};
+  std::optional<int> status;
   console.out.flush();
-  const std::optional<int> status = run(command);
+  for (const std::string& python : pythons) {
+    Words command = {python, "-c", program, rest->front(), "-o", output};
+    if (dark) command.emplace_back("--dark");
+    for (const std::string& unit : options.units) command.insert(command.end(), {"-u", unit});
+    status = run(command);
+    if (status && *status != packageMissing) break;
+  }
   if (!status) {
     throw Failure(ExitStatus::callFailed,
                   fmt::format("'{}' does not start; CALVEX_PYTHON names the Python to draw with",
-                              command.front()));
+                              pythons.back()));
   }
   if (*status == packageMissing) {
     throw Failure(ExitStatus::callFailed,
-                  fmt::format("plot needs the Python package calvex with matplotlib for '{}': apt "
-                              "install python3-calvex python3-matplotlib, or pip install .\n"
-                              "CALVEX_PYTHON names another Python",
-                              command.front()));
+                  "plot needs the Python package calvex, with matplotlib: apt install "
+                  "python3-calvex python3-matplotlib, or pip install .\n"
+                  "CALVEX_PYTHON names the Python that has them");
   }
   return *status == 0 ? ExitStatus::ok : ExitStatus::callFailed;
 }
