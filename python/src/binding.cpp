@@ -106,7 +106,7 @@ struct UfuncBody {
       evaluate(request, loan.engine(), chunk.begin, chunk.end);
     };
     if (n > manyElements) {
-      forEachChunk(static_cast<std::size_t>(n), {}, compute);
+      forEachChunk(static_cast<std::size_t>(n), allCores(), compute);
     } else {
       compute({0, static_cast<std::size_t>(n), 0});
     }

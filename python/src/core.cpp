@@ -1,6 +1,8 @@
 #include "core.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <new>
 
 namespace calvex::python {
@@ -50,6 +52,18 @@ bool readErrors(PyObject* object, Errors& errors) {
 Ref errorsText(Errors errors) {
   if (errors == Errors::byKind) return Ref::to(Py_None);
   return unicode(errorNames.at(static_cast<std::size_t>(errors) - 1));
+}
+
+const ChunkedLoop& allCores() {
+  static const ChunkedLoop loop = [] {
+    ChunkedLoop made;
+    const char* const threads = std::getenv("CALVEX_THREADS");
+    if (threads != nullptr) {
+      made.threads = static_cast<unsigned>(std::clamp(std::atoi(threads), 0, 1024));
+    }
+    return made;
+  }();
+  return loop;
 }
 
 Core::Core() {

@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "direct/chunks.h"
 #include "engine/thermo_engine.h"
 #include "references.h"
 
@@ -96,6 +97,10 @@ class Core {
   unsigned generation_ = 0;
   std::list<Core*>::iterator place_;
 };
+
+/// How a loop over many elements runs: on all cores, or on as many as the environment variable
+/// CALVEX_THREADS says, for machines with several processes.
+[[nodiscard]] const ChunkedLoop& allCores();
 
 struct CoreObject {
   PyObject ob_base;

@@ -107,7 +107,7 @@ PyObject* states(PyObject* /*module*/, PyObject* arguments) {
     compute({0, static_cast<std::size_t>(n), 0});
   } else {
     const Unlocked unlocked;
-    forEachChunk(static_cast<std::size_t>(n), {}, compute);
+    forEachChunk(static_cast<std::size_t>(n), allCores(), compute);
   }
   return PyTuple_Pack(3, values.get(), phases.get(), status.get());
 }
