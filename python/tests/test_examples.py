@@ -21,7 +21,8 @@ PRINTED = {
 
 @pytest.mark.parametrize("script", SCRIPTS, ids=lambda path: path.stem)
 def test_scripts_run(script, tmp_path):
-    words = ["--rows", "40000", "--folder", str(tmp_path)] if script.stem == "historian" else []
+    words = ["--rows", "400000", "--folder",
+             str(tmp_path)] if script.stem == "historian" else []
     run = subprocess.run([sys.executable, "-W", "error::RuntimeWarning", script, *words], text=True,
                          cwd=tmp_path, capture_output=True,
                          env={**ENVIRONMENT, "PICTURES": str(tmp_path)}, timeout=120)
@@ -50,3 +51,20 @@ def test_notebooks_run(path, monkeypatch):
     assert any(PRINTED[path.stem] in output.get("text", "") for output in outputs)
     if "plot" in path.read_text():
         assert any("image/png" in output.get("data", {}) for output in outputs)
+
+
+def test_a_killed_worker_loses_and_doubles_nothing(tmp_path):
+    """The example asserts it of itself; here the files are compared with what one process makes."""
+    import numpy as np
+
+    import calvex
+    run = subprocess.run([sys.executable, FOLDER / "historian.py", "--rows", "400000", "--partition",
+                          "20000", "--workers", "3", "--kill", "--folder", str(tmp_path)], text=True,
+                         capture_output=True, env=ENVIRONMENT, timeout=200)
+    assert run.returncode == 0, run.stderr
+    assert "killed worker" in run.stdout and "400000 rows in 20 partitions" in run.stdout
+    assert len(list(tmp_path.glob("out-*.npy"))) == 20
+    for number in range(20):
+        P, T, _ = np.load(tmp_path / f"in-{number:05}.npy")
+        h, _, _ = np.load(tmp_path / f"out-{number:05}.npy")
+        np.testing.assert_allclose(h, calvex.HPT(P, T, errors="ignore"), rtol=1e-10)
