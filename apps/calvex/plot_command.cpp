@@ -3,14 +3,13 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "client.h"
 #include "command_line.h"
-#ifdef _WIN32
-#include <process.h>
-#else
+#ifndef _WIN32
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -31,16 +30,14 @@ constexpr const char* program =
     "sys.exit(main(sys.argv[1:]))\n";
 
 // The exit status, or nothing where there is no such program.
-std::optional<int> run(const Words& command) {
+std::optional<int> run([[maybe_unused]] const Words& command) {
+#ifdef _WIN32
+  return packageMissing;  // the package is not made for Windows
+#else
   std::vector<char*> words;
   words.reserve(command.size() + 1);
   for (const std::string& word : command) words.push_back(const_cast<char*>(word.c_str()));
   words.push_back(nullptr);
-#ifdef _WIN32
-  const auto status = _spawnvp(_P_WAIT, words[0], words.data());
-  if (status < 0) return std::nullopt;
-  return static_cast<int>(status);
-#else
   pid_t child = 0;
   if (posix_spawnp(&child, words[0], nullptr, nullptr, words.data(), environ) != 0) {
     return std::nullopt;

@@ -179,11 +179,11 @@ Ref Binding::results(const double* values) {
   const auto count = static_cast<Py_ssize_t>(member_.outputs().size());
   if (count == 1) return Ref(PyFloat_FromDouble(*values));
   PyTypeObject* const named = resultType();
-  if (named == nullptr) return Ref();
+  if (named == nullptr) return {};
   Ref tuple(named->tp_alloc(named, count));
   for (Py_ssize_t i = 0; tuple && i < count; ++i) {
     PyObject* const value = PyFloat_FromDouble(values[i]);
-    if (value == nullptr) return Ref();
+    if (value == nullptr) return {};
     PyTuple_SET_ITEM(tuple.get(), i, value);
   }
   return tuple;
@@ -192,7 +192,7 @@ Ref Binding::results(const double* values) {
 Ref Binding::results(Ref tuple) {
   if (!tuple || !PyTuple_CheckExact(tuple.get())) return tuple;
   PyTypeObject* const named = resultType();
-  if (named == nullptr) return Ref();
+  if (named == nullptr) return {};
   const Py_ssize_t count = PyTuple_GET_SIZE(tuple.get());
   Ref copy(named->tp_alloc(named, count));
   for (Py_ssize_t i = 0; copy && i < count; ++i) {

@@ -59,9 +59,9 @@ Ref toPython(const Value& value) {
       const Ref row(PyList_New(0));
       for (const Cell& cell : cells) {
         const Ref item = toPython(cell);
-        if (!item || PyList_Append(row.get(), item.get()) < 0) return Ref();
+        if (!item || PyList_Append(row.get(), item.get()) < 0) return {};
       }
-      if (!rows || PyList_Append(rows.get(), row.get()) < 0) return Ref();
+      if (!rows || PyList_Append(rows.get(), row.get()) < 0) return {};
     }
     return rows;
   }

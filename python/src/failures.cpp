@@ -75,7 +75,7 @@ void Failures::add(const char* element, std::string_view text) {
 
 Ref Failures::summary(std::string_view member, std::size_t elements) const {
   const Ref name = unicode(member);
-  if (!name) return Ref();
+  if (!name) return {};
   Ref text(PyUnicode_FromFormat("%U failed for %zu of %zu elements", name.get(), rows_.size(),
                                 elements));
   std::vector<std::size_t> order(texts_.size());
@@ -84,7 +84,7 @@ Ref Failures::summary(std::string_view member, std::size_t elements) const {
   constexpr std::size_t most = 5;
   for (std::size_t i = 0; i < order.size() && i < most && text; ++i) {
     const Ref reason = decoded(texts_[order[i]]);
-    if (!reason) return Ref();
+    if (!reason) return {};
     text = Ref(PyUnicode_FromFormat("%U%s %zu x %U", text.get(), i == 0 ? ":" : ";",
                                     counts_[order[i]], reason.get()));
   }

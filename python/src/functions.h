@@ -11,8 +11,8 @@ namespace calvex::python {
 PyObject* callMember(PyObject* module, PyObject* arguments);
 PyObject* getSetting(PyObject* module, PyObject* arguments);
 PyObject* putSetting(PyObject* module, PyObject* arguments);
-PyObject* trace(PyObject* module, PyObject* core);
-PyObject* reasons(PyObject* module, PyObject* core);
+PyObject* trace(PyObject* module, PyObject* object);
+PyObject* reasons(PyObject* module, PyObject* object);
 
 // tables.cpp: the member table, its explanations, and units ---------------------------------------
 PyObject* members(PyObject* module, PyObject* none);

@@ -89,8 +89,9 @@ bool importNumPy() { return _import_array() >= 0 && _import_umath() >= 0; }
 }  // namespace
 }  // namespace calvex::python
 
-PyMODINIT_FUNC PyInit__calvex();
-PyMODINIT_FUNC PyInit__calvex() {
+// The name is Python's.
+PyMODINIT_FUNC PyInit__calvex();   // NOLINT(bugprone-reserved-identifier)
+PyMODINIT_FUNC PyInit__calvex() {  // NOLINT(bugprone-reserved-identifier)
   using namespace calvex::python;
   if (!importNumPy()) return nullptr;
   Ref module(PyModule_Create(&definition));

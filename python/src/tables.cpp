@@ -21,7 +21,7 @@ Ref slots(std::span<const NumericMember::Slot> all) {
   for (const NumericMember::Slot& slot : all) {
     const Ref row(
         Py_BuildValue("(s#i)", slot.name.data(), Py_ssize_t(slot.name.size()), int{slot.group}));
-    if (!list || !row || PyList_Append(list.get(), row.get()) < 0) return Ref();
+    if (!list || !row || PyList_Append(list.get(), row.get()) < 0) return {};
   }
   return list;
 }
@@ -60,7 +60,7 @@ Ref tokenRows(const Member& member) {
     const std::string words = tokenWords(member, token);
     const Ref row(Py_BuildValue("(s#is#)", token.text.data(), Py_ssize_t(token.text.size()),
                                 int(token.group), words.data(), Py_ssize_t(words.size())));
-    if (!list || !row || PyList_Append(list.get(), row.get()) < 0) return Ref();
+    if (!list || !row || PyList_Append(list.get(), row.get()) < 0) return {};
   }
   return list;
 }
@@ -71,7 +71,7 @@ Ref exampleOf(const ExampleCall& call) {
     const Ref value = std::holds_alternative<double>(input)
                           ? Ref(PyFloat_FromDouble(std::get<double>(input)))
                           : unicode(std::get<std::string>(input));
-    if (!inputs || !value || PyList_Append(inputs.get(), value.get()) < 0) return Ref();
+    if (!inputs || !value || PyList_Append(inputs.get(), value.get()) < 0) return {};
   }
   return inputs;
 }
