@@ -24,8 +24,9 @@ class Engine:
     ufuncs: they broadcast, take out= and where=, and work on pandas, xarray and dask.
 
     errors: what a failed call does. None: a scalar call raises CalvexError, in an array the element
-    is NaN and a CalvexWarning counts the failures by reason (`reasons` has each). "raise", "warn" or
-    "ignore" for both alike; each call takes errors= as well. With unit=True a call answers a Value.
+    is NaN and a CalvexWarning counts the failures by reason (`reasons` has each). "raise", "warn"
+    or "ignore" for both alike; each call takes errors= as well. With unit=True a call answers a
+    Value.
 
     An engine may be used from any number of threads, pickled and copied.
     """
@@ -87,7 +88,7 @@ class Engine:
     # What the engine has to tell ------------------------------------------------------------------
 
     def trace(self):
-        """The record of scalar calls that left messages: a tree, as text and in notebooks as HTML."""
+        """The record of scalar calls that left messages: a tree, as text and as HTML."""
         from ._trace import Trace
         return Trace(_calvex.trace(self._core))
 

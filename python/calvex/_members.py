@@ -1,4 +1,4 @@
-"""What the member table says: kinds, groups of inputs and outputs, and the words for a docstring."""
+"""What the member table says: kinds, inputs and outputs, and the words for a docstring."""
 import functools
 import math
 from typing import NamedTuple
@@ -56,7 +56,7 @@ class Members:
         return found
 
     def __repr__(self):
-        return f"<{len(self.rows)} members; members('enthalpy pressure') finds those of these words>"
+        return f"<{len(self.rows)} members; members('enthalpy pressure') finds those of words>"
 
     def row(self, name):
         """The row of a member or of a model that a spreadsheet member stands for."""

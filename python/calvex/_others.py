@@ -23,8 +23,8 @@ def call(binding, ufunc, arguments, words):
     if dask is not None and ufunc.nout > 1 and any(isinstance(a, dask.Array) for a in arguments):
         # dask maps functions with several results over blocks by their signature only.
         signature = ",".join(["()"] * ufunc.nin) + "->" + ",".join(["()"] * ufunc.nout)
-        results = dask.apply_gufunc(ufunc, signature, *arguments, output_dtypes=[float] * ufunc.nout,
-                                    **words)
+        results = dask.apply_gufunc(ufunc, signature, *arguments,
+                                    output_dtypes=[float] * ufunc.nout, **words)
         return tuple.__new__(binding.result_type, results)
     pandas = sys.modules.get("pandas")
     if pandas is not None and len({type(argument) for argument in arguments}) > 1:

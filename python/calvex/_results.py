@@ -34,7 +34,7 @@ class Results(tuple):
 
     def __repr__(self):
         def row(name, value):
-            return f"{name}={number_text(value)}" + (f" {self.units[name]}" if self.units[name] else "")
+            return f"{name}={number_text(value)} {self.units[name]}".rstrip()
         return f"{self._member}({', '.join(map(row, self._fields, self))})"
 
     def value(self, name):

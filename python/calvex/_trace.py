@@ -2,12 +2,13 @@
 import html
 
 KINDS = ("error", "warning", "note", "call", "external error")  # as the extension numbers them
-_COLOURS = {"error": "#c62828", "external error": "#c62828", "warning": "#b26a00", "note": "#607d8b"}
+_COLOURS = {"error": "#c62828", "external error": "#c62828", "warning": "#b26a00",
+            "note": "#607d8b"}
 
 
 class Trace:
-    """Calls that left messages, each with what it called and what was said: `nodes` has (depth, text,
-    kind) of each, a child after its parent; kinds are those of the gravest message below."""
+    """Calls that left messages, each with what it called and what was said: `nodes` has (depth,
+    text, kind) of each, a child after its parent; kinds are those of the gravest message below."""
 
     def __init__(self, nodes):
         self.nodes = [(depth, text, KINDS[kind]) for depth, text, kind in nodes]

@@ -39,7 +39,7 @@ CRITICAL_T, CRITICAL_P, TRIPLE_T = 647.126, 22.055, 273.16  # K, MPa
 
 class Kind(NamedTuple):
     """A diagram: the property of each axis, which axes are logarithmic, the window in model units,
-    and the families of isolines: where on a line its label is best, and about how many there are."""
+    and the families of isolines: where on a line its label is best, and about how many lines."""
 
     x: str
     y: str
@@ -156,11 +156,13 @@ class Diagram:
 
     def _saturated(self):
         """Temperatures from the triple to the critical point, close together near this one."""
-        return self._user("T", CRITICAL_T - (CRITICAL_T - TRIPLE_T) * np.linspace(1, 0.002, 160) ** 2)
+        below = (CRITICAL_T - TRIPLE_T) * np.linspace(1, 0.002, 160) ** 2
+        return self._user("T", CRITICAL_T - below)
 
     def _levels(self, family, count):
         if family == "x":
-            return [round(float(self._user("x", q)), 9) for q in np.arange(1, count + 1) / (count + 1)]
+            fractions = np.arange(1, count + 1) / (count + 1)
+            return [round(float(self._user("x", q)), 9) for q in fractions]
         if family == "P":
             low, high = self._user("P", [0.001, 100.0])
             return round_powers(max(low, 1e-9 * high), high)
@@ -198,7 +200,8 @@ class Diagram:
             self.figure.tight_layout(pad=0.8)
 
     def _dome(self):
-        critical = self._points("TQ", self._saturated()[-1], [0.0, self._user("x", 1.0)]).mean(axis=1)
+        ends = self._points("TQ", self._saturated()[-1], [0.0, self._user("x", 1.0)])
+        critical = ends.mean(axis=1)
         sides = [self._points("TQ", self._saturated(), float(self._user("x", q))) for q in (0, 1)]
         line = np.hstack([sides[0], critical[:, None], sides[1][:, ::-1]])
         self.axes.plot(*line, color=self.colours["dome"], linewidth=1.8, zorder=3)
@@ -292,8 +295,8 @@ class Diagram:
         for name, state, (first, last) in zip(names, states, ends):
             marked = [first] if first is last else [first, last]
             for point in marked:
-                self.axes.plot(point[self.kind.x], point[self.kind.y], "o", color=colour, markersize=5,
-                               markeredgecolor=self.colours["paper"], zorder=6)
+                self.axes.plot(point[self.kind.x], point[self.kind.y], "o", color=colour,
+                               markersize=5, markeredgecolor=self.colours["paper"], zorder=6)
             if name:
                 self.axes.annotate(
                     name, (last[self.kind.x], last[self.kind.y]), xytext=(6, 5),

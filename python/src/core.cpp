@@ -43,9 +43,7 @@ bool readErrors(PyObject* object, Errors& errors) {
   }
   PyErr_Format(
       PyExc_ValueError,
-      "errors is \"raise\", \"warn\", \"ignore\" or None (scalars raise, arrays warn), not "
-      "%R",
-      object);
+      R"(errors is "raise", "warn", "ignore" or None (scalars raise, arrays warn), not %R)", object);
   return false;
 }
 
@@ -175,7 +173,7 @@ PyObject* getChoices(PyObject* self, void* /*closure*/) {
 PyGetSetDef attributes[] = {
     {"choices", getChoices, nullptr, "The units chosen, by group.", nullptr},
     {"errors", getErrors, setErrors,
-     "What a failed call does: \"raise\", \"warn\", \"ignore\"; None: scalars raise, arrays warn.",
+     R"(What a failed call does: "raise", "warn", "ignore"; None: scalars raise, arrays warn.)",
      nullptr},
     {nullptr, nullptr, nullptr, nullptr, nullptr},
 };

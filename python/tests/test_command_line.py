@@ -10,6 +10,7 @@ from calvex._members import explain, members
 from conftest import BUILD, table
 
 COUNT = 2000
+NONSENSE = (-1e6, 1e9, 0.0, -3.0)
 PROGRAM = BUILD / "apps/calvex/calvex" if (BUILD / "apps/calvex/calvex").is_file() \
     else BUILD / "apps/calvex"
 UFUNCS = [name for name, row in members.rows.items() if row.kind == "ufunc"]
@@ -30,7 +31,7 @@ def inputs(random_numbers, name):
         else:
             values.append(example[i] * random_numbers.uniform(0.9, 1.1))
     if random_numbers.random() < 0.125:
-        values[random_numbers.randrange(len(values))] = random_numbers.choice([-1e6, 1e9, 0.0, -3.0])
+        values[random_numbers.randrange(len(values))] = random_numbers.choice(NONSENSE)
     return values
 
 
