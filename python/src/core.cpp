@@ -43,7 +43,8 @@ bool readErrors(PyObject* object, Errors& errors) {
   }
   PyErr_Format(
       PyExc_ValueError,
-      R"(errors is "raise", "warn", "ignore" or None (scalars raise, arrays warn), not %R)", object);
+      R"(errors is "raise", "warn", "ignore" or None (scalars raise, arrays warn), not %R)",
+      object);
   return false;
 }
 

@@ -110,7 +110,10 @@ bool Failures::report(Core& core, std::string_view member, PyObject* result) {
     if (!rows_.empty()) {
       const Places places(array);
       core.reasons.rows.reserve(rows_.size());
-      for (const Row& row : rows_) core.reasons.rows.push_back({places.of(row.element), row.text});
+      for (const Row& row : rows_) {
+        const std::size_t index = places.of(row.element);
+        if (index < elements) core.reasons.rows.push_back({index, row.text});
+      }
     }
   } else if (!rows_.empty()) {
     core.reasons.rows.push_back({0, rows_.front().text});

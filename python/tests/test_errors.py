@@ -4,6 +4,7 @@ import warnings
 import calvex
 import numpy as np
 import pytest
+from calvex._members import explain, members
 
 RANGE = "Temperature parameter out of range (Valid range -13.15 to 2226.85 C)."
 
@@ -83,6 +84,12 @@ def test_numpy_warns_of_nothing(steam, recwarn):
     P, T = np.meshgrid(np.linspace(-1, 400, 60), np.linspace(-50, 3000, 60))
     steam.HPT(P, T, errors="ignore")
     steam.RPT(P, T, errors="ignore")
+    random = np.random.default_rng(4)
+    for name, row in members.rows.items():
+        if row.kind == "ufunc":
+            example = [x for x in explain(name)["example"] if not isinstance(x, str)]
+            getattr(calvex, name)(*(x * random.uniform(-0.5, 3, 100) for x in example),
+                                  errors="ignore")
     assert not recwarn.list
 
 
