@@ -56,7 +56,7 @@ class Members:
         return found
 
     def __repr__(self):
-        return f"<{len(self.rows)} members; members('enthalpy pressure') finds those of words>"
+        return f"<{len(self.rows)} members; members('enthalpy pressure') finds some>"
 
     def row(self, name):
         """The row of a member or of a model that a spreadsheet member stands for."""

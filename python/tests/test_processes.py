@@ -202,3 +202,28 @@ def test_a_library_that_is_absent_is_no_obstacle():
                          env={**os.environ, "PYTHONPATH": str(PACKAGE)}, cwd=ROOT)
     scalar, array = map(float, run.stdout.split())
     assert scalar == pytest.approx(array) == pytest.approx(3373.998, abs=1e-3)
+
+
+# Prints the most threads that there are while an array is computed, beside the one that counts.
+THREADS = """
+import os, threading, numpy, calvex
+calvex.HPT([10.0], 773.15)
+before, most, stop = len(os.listdir("/proc/self/task")), 0, False
+def count():
+    global most
+    while not stop:
+        most = max(most, len(os.listdir("/proc/self/task")) - before - 1)
+counter = threading.Thread(target=count)
+counter.start()
+calvex.HPT(10.0, numpy.linspace(600, 800, 600_000))
+stop = True
+counter.join()
+print(most)
+"""
+
+
+@pytest.mark.parametrize("asked, more", [("1", {0}), ("3", {2})])
+def test_the_threads_of_an_array_may_be_limited(asked, more):
+    run = subprocess.run([sys.executable, "-c", THREADS], capture_output=True, text=True, check=True,
+                         env={**os.environ, "PYTHONPATH": str(PACKAGE), "CALVEX_THREADS": asked})
+    assert {int(run.stdout)} == more
