@@ -1,11 +1,11 @@
 from typing import Any
 
 import numpy as np
-from numpy.typing import ArrayLike, NDArray
+from numpy.typing import NDArray
 
 from . import plot as plot, units as units
 from ._table import *  # noqa: F403  (the members)
-from ._table import Array, Errors, Members
+from ._table import Errors, Members
 from .units import Value as Value, convert as convert
 
 __version__: str
@@ -52,6 +52,7 @@ class State:
     kappa: Any
     def unit(self, name: str) -> str: ...
     def value(self, name: str) -> Value: ...
+    def reasons(self) -> Any: ...
 
 class Engine(Members):
     """Every member of the table, in one's own units."""

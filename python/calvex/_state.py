@@ -1,4 +1,6 @@
 """States of water from any pair of properties."""
+import collections
+import sys
 import warnings
 
 import numpy as np
@@ -93,30 +95,40 @@ class State:
     def _solve(self, letters):
         values, phases, status = _calvex.states(self._engine._core, self._pair, *self._inputs,
                                                 "".join(letters))
-        if status.any():
-            self._tell(letters, np.flatnonzero(status))
+        if status.any() and self._errors != "ignore":
+            self._tell(self._why(letters, status))
         return [row.reshape(self.shape) if self.shape else float(row[0]) for row in values], phases
 
-    def _tell(self, letters, failed):
-        def reason(i):
-            inputs = (value[i] if value.size > 1 else value[0] for value in self._inputs)
-            return _calvex.state_reason(self._engine._core, self._pair, *inputs, "".join(letters))
-        if self._errors == "ignore":
-            return
-        counts = {}
-        for i in failed:
-            why = reason(i)
-            counts[why] = counts.get(why, 0) + 1
-        if not self.shape:
-            text = f"state failed: {next(iter(counts))}"
-        else:
-            text = (f"state failed for {len(failed)} of {np.prod(self.shape)} elements: "
-                    + "; ".join(f"{count} x {why}" for why, count in counts.items()))
+    def _why(self, letters, status):
+        """The reason of each point that failed, by its place."""
+        first, second = (np.broadcast_to(value, status.shape) for value in self._inputs)
+        return {i: _calvex.state_reason(self._engine._core, self._pair, first[i], second[i],
+                                        "".join(letters)) for i in np.flatnonzero(status)}
+
+    def _tell(self, reasons):
+        counts = collections.Counter(reasons.values()).most_common()
+        text = f"state failed: {counts[0][0]}"
+        if self.shape:
+            text = (f"state failed for {len(reasons)} of {np.prod(self.shape)} elements: "
+                    + "; ".join(f"{count} x {why}" for why, count in counts))
         if self._errors == "raise" or (self._errors is None and not self.shape):
             error = CalvexError(text)
-            error.member, error.reason = "state", next(iter(counts))
+            error.member, error.reason = "state", counts[0][0]
             raise error
-        warnings.warn(text, CalvexWarning, stacklevel=5)
+        level, frame = 1, sys._getframe()  # the user's line, however it came here
+        while frame is not None and frame.f_globals.get("__package__") == __package__:
+            level, frame = level + 1, frame.f_back
+        warnings.warn(text, CalvexWarning, stacklevel=level)
+
+    def reasons(self):
+        """Why elements have no state, in its shape; "" for those that have one."""
+        letters = [PROPERTIES[name][0] for name in OF_MIXTURES]
+        _, _, status = _calvex.states(self._engine._core, self._pair, *self._inputs,
+                                      "".join(letters))
+        reasons = np.full(status.shape, "", object)
+        for i, why in self._why(letters, status).items():
+            reasons[i] = why
+        return reasons.reshape(self.shape) if self.shape else reasons[0]
 
     def __getattr__(self, name):
         if name.startswith("_") or name not in PROPERTIES:

@@ -139,9 +139,12 @@ def test_phases_and_mixtures(steam):
 def test_a_state_that_is_none_says_why(steam):
     with pytest.raises(calvex.CalvexError, match="Temperature parameter out of range"):
         steam.state(P=100, T=3000)
-    with pytest.warns(calvex.CalvexWarning, match="state failed for 1 of 2 elements"):
+    with pytest.warns(calvex.CalvexWarning, match="state failed for 1 of 2 elements") as said:
         states = steam.state(P=100, T=[500, 3000])
+        states.w
+    assert [warning.filename for warning in said] == [__file__] * 2
     assert np.isnan(states.h).tolist() == [False, True] and states.phase[1] == ""
+    assert states.reasons()[0] == "" and states.reasons()[1].startswith("Temperature parameter")
     with pytest.raises(TypeError, match="are no pair"):
         steam.state(u=2000, s=6)
     with pytest.raises(TypeError, match="two of P, T, h"):
