@@ -70,7 +70,8 @@ def _build(build, stage):
     if not (build / "CMakeCache.txt").exists():
         generator = ["-G", "Ninja"] if shutil.which("ninja") else []
         _run(cmake, *generator, "-S", ROOT, "-B", build, "-DCMAKE_BUILD_TYPE=Release",
-             "-DCALVEX_PYTHON=ON", "-DCALVEX_TESTS=OFF", "-DCALVEX_BENCHMARKS=OFF",
+             "-DCALVEX_PYTHON=ON", "-DCALVEX_APPS=OFF", "-DCALVEX_TESTS=OFF",
+             "-DCALVEX_BENCHMARKS=OFF",
              f"-DPython3_EXECUTABLE={sys.executable}")
     _run(cmake, "--build", build, "--target", "calvex_python", "-j", os.cpu_count() or 2)
     _run(cmake, "--install", build, "--prefix", stage, "--component", "python", "--strip")
