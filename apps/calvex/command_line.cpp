@@ -28,13 +28,14 @@ struct Command {
   ExitStatus (*run)(const Words& words, Console& console);
 };
 
-constexpr std::array<Command, 11> commands = {{
+constexpr std::array<Command, 12> commands = {{
     {"state", "state P=10 T=773.15", "Print every property of a state", stateCommand},
     {"members", "members [WORDS]", "Find members by words, or explain one", membersCommand},
     {"units", "units [GROUP]", "List quantities, or the units of one", unitsCommand},
     {"convert", "convert GROUP VALUE FROM TO", "Convert a value between units", convertCommand},
     {"table", "table saturation|isobar|isotherm", "Print a table over a range", tableCommand},
     {"batch", "batch FILE|- COLUMN...", "Add computed columns to a table", batchCommand},
+    {"plot", "plot Ts|hs|logph|Pv -o FILE", "Draw a diagram", plotCommand},
     {"run", "run [FILE|-]", "Run a script, one call a line", runCommand},
     {"config", "config [NAME=VALUE...]", "Remember units and settings", configCommand},
     {"completion", "completion bash|zsh|fish", "Print completions for a shell", completionCommand},

@@ -49,6 +49,7 @@ ExitStatus convertCommand(const Words& words, Console& console);
 ExitStatus stateCommand(const Words& words, Console& console);
 ExitStatus tableCommand(const Words& words, Console& console);
 ExitStatus batchCommand(const Words& words, Console& console);
+ExitStatus plotCommand(const Words& words, Console& console);
 ExitStatus runCommand(const Words& words, Console& console);
 ExitStatus configCommand(const Words& words, Console& console);
 ExitStatus completionCommand(const Words& words, Console& console);

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
@@ -166,6 +167,31 @@ TEST(Program, StartsWithinFiftyMilliseconds) {
                   .count());
   }
   EXPECT_LT(best, 50.0);
+}
+
+// A stand-in for Python, which tells what it was given.
+TEST(Program, PlotHandsDiagramUnitsAndFileToPython) {
+  const std::string python = testing::TempDir() + "calvex_python_" + std::to_string(getpid());
+  std::ofstream(python) << "#!/bin/sh\nshift 2\necho \"$@\"\nexit ${PLOT_STATUS:-0}\n";
+  std::filesystem::permissions(python, std::filesystem::perms::owner_all);
+  setenv("CALVEX_PYTHON", python.c_str(), 1);
+  const Finished drawn = calvex("--no-config plot hs -u T=C -o x.svg --dark");
+  EXPECT_EQ(drawn.status, 0) << drawn.err;
+  EXPECT_EQ(drawn.out, "hs -o x.svg --dark -u T=C\n");
+  setenv("PLOT_STATUS", "90", 1);
+  const Finished missing = calvex("--no-config plot hs -o x.svg");
+  EXPECT_EQ(missing.status, 1);
+  EXPECT_NE(missing.err.find("plot needs the Python package calvex"), std::string::npos)
+      << missing.err;
+  unsetenv("PLOT_STATUS");
+  setenv("CALVEX_PYTHON", "/no/such/python", 1);
+  EXPECT_NE(calvex("plot hs -o x.svg").err.find("'/no/such/python' does not start"),
+            std::string::npos);
+  for (const char* wrong : {"plot", "plot hs", "plot xy -o x.svg", "plot hs -o x.svg -u T=Grad"}) {
+    EXPECT_EQ(calvex(wrong).status, 2) << wrong;
+  }
+  unsetenv("CALVEX_PYTHON");
+  std::filesystem::remove(python);
 }
 
 }  // namespace

@@ -1,0 +1,55 @@
+/// \file
+/// What fails while a ufunc runs, until its caller can be told.
+#pragma once
+
+#include <cstdint>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "core.h"
+#include "numpy_api.h"
+
+namespace calvex::python {
+
+class Failures {
+ public:
+  /// The failures of this thread go to it until its end; one inside another has its own.
+  explicit Failures(Errors errors) : errors_(errors), outer_(current_) { current_ = this; }
+  ~Failures() { current_ = outer_; }
+  Failures(const Failures&) = delete;
+  Failures& operator=(const Failures&) = delete;
+  /// Null where a loop runs that was not called through us (ufunc.outer and its like).
+  [[nodiscard]] static Failures* current() noexcept { return current_; }
+
+  /// Any thread: the element at that address failed.
+  void add(const char* element, std::string_view text);
+  [[nodiscard]] Errors errors() const noexcept { return errors_; }
+  [[nodiscard]] bool empty() const noexcept { return rows_.empty(); }
+
+  /// Keeps them as the reasons of the elements of `result`, and says so as the policy has it: false
+  /// with an exception.
+  [[nodiscard]] bool report(Core& core, std::string_view member, PyObject* result);
+  /// Warns: false with an exception.
+  [[nodiscard]] bool warn(std::string_view member, std::size_t elements) const;
+
+ private:
+  struct Row {
+    const char* element;
+    std::uint32_t text;
+  };
+  [[nodiscard]] Ref summary(std::string_view member, std::size_t elements) const;
+
+  static thread_local Failures* current_;
+  Errors errors_;
+  Failures* outer_;
+  std::mutex mutex_;
+  std::unordered_map<std::string, std::uint32_t> numbers_;
+  std::vector<std::string> texts_;
+  std::vector<std::size_t> counts_;
+  std::vector<Row> rows_;
+};
+
+}  // namespace calvex::python

@@ -1,0 +1,103 @@
+// The extension module `calvex._calvex`.
+#define CALVEX_IMPORTS_NUMPY
+#include "numpy_api.h"
+// The two tables of NumPy's interface are filled above all else.
+#include "binding.h"
+#include "functions.h"
+#include "server/member_explanations.h"
+
+namespace calvex::python {
+
+namespace {
+
+PyObject* makeUfunc(PyObject* /*module*/, PyObject* arguments) {
+  PyObject *object = nullptr, *name = nullptr;
+  const char* doc = nullptr;
+  if (!PyArg_ParseTuple(arguments, "OUs", &object, &name, &doc)) return nullptr;
+  const Member* const member = coreArgument(object) == nullptr ? nullptr : memberArgument(name);
+  if (member == nullptr) return nullptr;
+  const std::optional<NumericMember> numeric = NumericMember::of(*member);
+  if (!numeric || numeric->inputs().empty()) {
+    PyErr_Format(PyExc_TypeError, "%U does not compute numbers from numbers", name);
+    return nullptr;
+  }
+  return Binding::ufunc(object, *numeric, doc).release();
+}
+
+PyObject* bindingOfUfunc(PyObject* /*module*/, PyObject* ufunc) {
+  PyObject* const binding = Binding::of(ufunc);
+  return Py_NewRef(binding == nullptr ? Py_None : binding);
+}
+
+PyObject* setHooks(PyObject* /*module*/, PyObject* arguments) {
+  PyObject *others = nullptr, *resultType = nullptr;
+  if (!PyArg_ParseTuple(arguments, "OO", &others, &resultType)) return nullptr;
+  Py_XSETREF(hooks().others, Py_NewRef(others));
+  Py_XSETREF(hooks().resultType, Py_NewRef(resultType));
+  Py_RETURN_NONE;
+}
+
+PyObject* beforeFork(PyObject* /*module*/, PyObject* /*none*/) {
+  Core::beforeFork();
+  Py_RETURN_NONE;
+}
+
+PyObject* afterFork(PyObject* /*module*/, PyObject* /*none*/) {
+  Core::afterFork();
+  Py_RETURN_NONE;
+}
+
+PyMethodDef functions[] = {
+    {"ufunc", makeUfunc, METH_VARARGS, "ufunc(core, member, doc): a member as a NumPy ufunc."},
+    {"binding", bindingOfUfunc, METH_O, "binding(ufunc): its member and engine; None for others."},
+    {"set_hooks", setHooks, METH_VARARGS, "set_hooks(others, result_type)."},
+    {"before_fork", beforeFork, METH_NOARGS, "Waits for all engines and holds them."},
+    {"after_fork", afterFork, METH_NOARGS, "Lets them go, in both processes."},
+    {"call", callMember, METH_VARARGS, "call(core, member, arguments)."},
+    {"get", getSetting, METH_VARARGS, "get(core, setting)."},
+    {"put", putSetting, METH_VARARGS, "put(core, setting, value)."},
+    {"trace", trace, METH_O, "trace(core): [(depth, text, kind)]."},
+    {"reasons", reasons, METH_O, "reasons(core): why elements of the last array failed."},
+    {"members", members, METH_NOARGS, "[(name, kind, inputs, outputs)]."},
+    {"explain", explain, METH_O, "explain(member): what it means, in words."},
+    {"groups", groups, METH_NOARGS, "The quantities and their units."},
+    {"find_group", findGroup, METH_O, "find_group(word): its number, or None."},
+    {"find_unit", findUnit, METH_VARARGS, "find_unit(group, word)."},
+    {"choose_unit", chooseUnit, METH_VARARGS,
+     "choose_unit(core, group, name, factor, offset, in_catalogue)."},
+    {"unit", unitOf, METH_VARARGS, "unit(core, group): the unit in use."},
+    {"conversion", conversion, METH_VARARGS, "conversion(core, group): (a, b), model = a x + b."},
+    {"states", states, METH_VARARGS,
+     "states(core, pair, first, second, letters): (values, phases, status)."},
+    {"state_reason", stateReason, METH_VARARGS,
+     "state_reason(core, pair, first, second, letters): why it fails."},
+    {nullptr, nullptr, 0, nullptr},
+};
+
+PyModuleDef definition = {PyModuleDef_HEAD_INIT,
+                          "_calvex",
+                          "The engine for Python; calvex is made of it.",
+                          -1,
+                          functions,
+                          nullptr,
+                          nullptr,
+                          nullptr,
+                          nullptr};
+
+bool importNumPy() { return _import_array() >= 0 && _import_umath() >= 0; }
+
+}  // namespace
+}  // namespace calvex::python
+
+// The name is Python's.
+PyMODINIT_FUNC PyInit__calvex();   // NOLINT(bugprone-reserved-identifier)
+PyMODINIT_FUNC PyInit__calvex() {  // NOLINT(bugprone-reserved-identifier)
+  using namespace calvex::python;
+  if (!importNumPy()) return nullptr;
+  Ref module(PyModule_Create(&definition));
+  if (!module || !addCore(module.get()) || !addBinding(module.get()) ||
+      PyModule_AddStringConstant(module.get(), "version", CALVEX_VERSION) < 0) {
+    return nullptr;
+  }
+  return module.release();
+}

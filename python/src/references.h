@@ -1,0 +1,76 @@
+/// \file
+/// Python objects that are owned, and texts on their way to Python and back.
+#pragma once
+
+#define PY_SSIZE_T_CLEAN
+#include <Python.h>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+
+namespace calvex::python {
+
+/// Owns a reference.
+class Ref {
+ public:
+  Ref() = default;
+  /// Takes over a new reference, which may be null.
+  explicit Ref(PyObject* object) noexcept : object_(object) {}
+  Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
+  Ref& operator=(Ref&& other) noexcept {
+    Ref old(std::exchange(object_, std::exchange(other.object_, nullptr)));
+    return *this;
+  }
+  Ref(const Ref&) = delete;
+  Ref& operator=(const Ref&) = delete;
+  ~Ref() { Py_XDECREF(object_); }
+
+  /// Another reference to an object that somebody else owns.
+  [[nodiscard]] static Ref to(PyObject* object) noexcept {
+    Py_XINCREF(object);
+    return Ref(object);
+  }
+
+  [[nodiscard]] PyObject* get() const noexcept { return object_; }
+  [[nodiscard]] PyObject* release() noexcept { return std::exchange(object_, nullptr); }
+  explicit operator bool() const noexcept { return object_ != nullptr; }
+
+ private:
+  PyObject* object_ = nullptr;
+};
+
+/// A text of the engine, which is Windows-1252.
+inline Ref decoded(std::string_view text) {
+  return Ref(
+      PyUnicode_Decode(text.data(), static_cast<Py_ssize_t>(text.size()), "cp1252", "replace"));
+}
+
+/// A text of a table, which is ASCII or UTF-8.
+inline Ref unicode(std::string_view text) {
+  return Ref(PyUnicode_FromStringAndSize(text.data(), static_cast<Py_ssize_t>(text.size())));
+}
+
+/// A text for the engine; nothing, and an exception, where it has a character that Windows-1252
+/// lacks.
+inline std::optional<std::string> encoded(PyObject* text) {
+  const Ref bytes(PyUnicode_AsEncodedString(text, "cp1252", "strict"));
+  if (!bytes) return std::nullopt;
+  return std::string(PyBytes_AS_STRING(bytes.get()),
+                     static_cast<std::size_t>(PyBytes_GET_SIZE(bytes.get())));
+}
+
+/// Lets other Python threads run.
+class Unlocked {
+ public:
+  Unlocked() : state_(PyEval_SaveThread()) {}
+  ~Unlocked() { PyEval_RestoreThread(state_); }
+  Unlocked(const Unlocked&) = delete;
+  Unlocked& operator=(const Unlocked&) = delete;
+
+ private:
+  PyThreadState* state_;
+};
+
+}  // namespace calvex::python
