@@ -92,6 +92,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS
   "libcalvex${PROJECT_VERSION_MAJOR} (= ${PROJECT_VERSION})")
 # The static library alone needs these.
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "libfmt-dev, libcminpack-dev, pkg-config")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "python3 (>= 3.11), python3 (<< 3.12), python3-numpy")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_RECOMMENDS "python3-matplotlib")
 set(about "Calvex computes properties of water and steam by the IAPS Formulation 1984
 and the equipment of steam systems: turbines, boilers, exchangers, ejectors.")
 set(CPACK_DEBIAN_LIBRARY_DESCRIPTION "${about}
