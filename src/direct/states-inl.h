@@ -102,8 +102,10 @@ OnePhase<N> stateFrom(const N& a, const N& b, const N& startT, const N& startDen
     T = select(found, T, T + T * deltaT);
     density = select(found, density, density + density * deltaR);
     const N delta = max(abs(deltaT), abs(deltaR));
-    found =
-        found || (d.Pr > N(0.0) && errorAfter(delta, d.Pr, coefficients::R * T) < N(acceptedError));
+    // A state is stable; cold water beyond 800 MPa, whose heat capacity the equation makes
+    // negative, is not.
+    found = found || (d.Pr > N(0.0) && d.cv > N(0.0) &&
+                      errorAfter(delta, d.Pr, coefficients::R * T) < N(acceptedError));
     if (every(found)) break;
   }
   return {T, density, found};

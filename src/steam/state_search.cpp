@@ -207,19 +207,20 @@ std::optional<Start> SteamModel::findState(const Request& request, int& status) 
   return std::nullopt;
 }
 
-// On its way from the line, above the critical temperature from the thin gas, a property has to
-// fall to the value, which lies below that of saturated liquid, of the ideal gas; where it rises,
-// it has fallen before.
+// From T: on its way from the line, above the critical temperature from the thin gas, a property
+// has to fall to the value, which lies below that of saturated liquid, of the ideal gas; where it
+// rises, it has fallen before. From P: beyond 800 MPa the equation gives cold water a negative heat
+// capacity; a warmer state with the same energy is stable.
 bool SteamModel::isNearest(const Request& request, Start found) {
   const double T = found.temperature;
   const bool falls = T >= criticalTemperature || request.side == Side::liquid;
   const auto equation = request.second.equation;
-  if (!request.fromT() || !falls || equation == Equation::density ||
-      equation == Equation::pressure) {
-    return true;
-  }
+  if (equation == Equation::density || equation == Equation::pressure) return true;
+  constexpr double stableBelow = 1150.0;  // kg/m3, at any temperature
+  if (request.fromT() ? !falls : found.density < stableBelow) return true;
   const HelmholtzPoint point(temperaturePart(T, TemperaturePart::Order::curvature), found.density);
-  return slopesOf(request.second.equation, point, T, 0.001 * found.density).density < 0.0;
+  if (!request.fromT()) return point.derivatives().cv > 0.0;
+  return slopesOf(equation, point, T, 0.001 * found.density).density < 0.0;
 }
 
 Start SteamModel::solveState(const Request& request) {

@@ -161,7 +161,8 @@ class SteamModel final : private ZvSolverCallBack {
   [[nodiscard]] static std::optional<Start> search(const Request& request);
   /// Whether that is a state of water on that side, within the limits of what was asked for.
   [[nodiscard]] bool isState(const Request& request, Start found, Side side);
-  /// Whether no other state that meets the request lies between the line and this one.
+  /// Whether this is the state meant where others meet the request: from T none lies between the
+  /// line and it; from P it is thermally stable.
   [[nodiscard]] bool isNearest(const Request& request, Start found);
   void noteOtherState(const Request& request, Start found);
   Phases onExactLine(const auto& call);

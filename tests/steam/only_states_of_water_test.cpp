@@ -373,6 +373,11 @@ TEST_F(OnlyStatesOfWater, AreAnsweredInTheKnownCases) {
       {false, 10.1444, Property::enthalpy, 8309.93, 0, 0},
       // the warmer of two temperatures; 252.604 K is the other
       {false, 25.0, Property::density, 1007.985924, 298.15, 25.0},
+      // cold water's energy falls with rising temperature where its heat capacity is negative:
+      // 306.4
+      // K is the other
+      {false, 1507.6704127382288, Property::internalEnergy, 100.54983012129946, 315.28347,
+       1507.6704127382288},
       // stretches of the equation that are mechanically stable and no water
       {true, 427.0, Property::enthalpy, 110.0, 0, 0},
       {false, 1303.3666624756431, Property::density, 277.89135934213317, 0, 0},
