@@ -37,7 +37,7 @@ std::string whatIsWrong(const Words& words, const Words& pieces) {
     return readNumber(word).fault == NumberFault::none || !unitBehind(word).empty();
   };
   for (const std::string& word : words) {
-    if (word.find('=') != word.rfind('=') && word.find_first_of(",;") != word.npos) {
+    if (word.find('=') != word.rfind('=') && word.find_first_of(",;") != std::string::npos) {
       return fmt::format("{} holds more than one property: a blank stands between them, not a '{}'",
                          inQuotes(word), word[word.find_first_of(",;")]);
     }

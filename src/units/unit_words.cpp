@@ -343,7 +343,8 @@ std::string_view unitNotice(UnitGroup group, std::string_view name) {
   }
   const bool energy = group == UnitGroup::internalEnergy || group == UnitGroup::helmholtzEnergy ||
                       group == UnitGroup::gibbsEnergy;
-  const bool calorie = name.find("cal") != name.npos || name.find("Btu") != name.npos;
+  const bool calorie =
+      name.find("cal") != std::string_view::npos || name.find("Btu") != std::string_view::npos;
   if (energy && calorie) return thermochemicalHere;
   return {};
 }
