@@ -8,6 +8,7 @@
 #include "call.h"
 #include "encoding.h"
 #include "failure.h"
+#include "quantities.h"
 #include "suggestions.h"
 
 namespace calvex::cli {
@@ -122,6 +123,12 @@ class Planner {
     }
     std::vector<std::string> names(header_.begin(), header_.end());
     for (const BatchPlan::Added& added : plan_.added) names.push_back(added.name);
+    if (!unitBehind(name).empty()) {
+      throw UsageError(fmt::format(
+          "{} is neither a column nor a number; numbers are plain here, in the units that -u "
+          "chooses, as in 500 with -u T=C",
+          inQuotes(name)));
+    }
     throw UsageError(fmt::format(
         "there is no column {}{}\nColumns: {} (an added column can be used by those behind it)",
         inQuotes(name), didYouMean(name, names), fmt::join(names, ", ")));

@@ -276,6 +276,10 @@ Call prepare(const Member& member, std::span<const std::string> words, const Use
     call.arguments[place] = parseArgument(member, *wanted[i], ordered[i], units);
   }
   call.choice = nameUnits(member, call.arguments);
+  if (member.name.starts_with("Show") && member.name.ends_with("Dlg")) {
+    call.choice.warning =
+        fmt::format("{} shows a dialog only in the automation server on Windows", member.name);
+  }
   if (call.isPut) call.choice.warning = settingNotice(member, call.arguments.front());
   for (std::size_t i = 0; i < ordered.size(); ++i) {
     if (wanted[i]->type != ValueType::real || !wanted[i]->hasUnit()) continue;

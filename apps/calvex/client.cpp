@@ -93,7 +93,8 @@ UnitGroup findGroup(std::string_view keyword) {
   for (int group = 0; group < unitGroupCount; ++group) {
     for (const std::string_view candidate : row(UnitGroup(group)).keywords) {
       if (candidate == keyword) return UnitGroup(group);
-      keywords.emplace_back(candidate);
+      // Every word stands in the catalogue twice, the second time in small letters.
+      if (candidate != lowerCase(candidate)) keywords.emplace_back(candidate);
     }
     firsts.push_back(row(UnitGroup(group)).keywords.front());
   }
@@ -111,6 +112,7 @@ const ZvUomLiteKeyword& findUnit(UnitGroup group, std::string_view unit) {
   for (const ZvUomLiteKeyword& known : unitsBesideCatalogue(group)) names.emplace_back(known.name);
   for (const ZvUomLiteKeyword* known : found.candidates) candidates.push_back(toUtf8(known->name));
   std::string help = didYouMean(unit, names);
+  if (!found.refusal.empty()) help = fmt::format("; {}", found.refusal);
   if (!candidates.empty()) {
     help = fmt::format("; did you mean {}? Write it so: m is milli, M is mega",
                        fmt::join(candidates, " or "));

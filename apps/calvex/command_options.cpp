@@ -15,6 +15,11 @@ namespace calvex::cli {
 
 namespace {
 
+[[noreturn]] void refuseOption(const CommandOptions& options, std::string_view word) {
+  throw UsageError(
+      fmt::format("there is no option {}\n'{}' lists them", inQuotes(word), options.helpCommand()));
+}
+
 // What the console starts with, as far as the command knows such options.
 Words startingWords(const CLI::App& app, const Console& console) {
   Words words;
@@ -104,6 +109,10 @@ bool parse(CommandOptions& options, const Words& words, Console& console) {
     console.out << app.help();
     return false;
   } catch (const CLI::ParseError& error) {
+    const Words rest = app.remaining();
+    const auto option =
+        std::ranges::find_if(rest, [](const std::string& word) { return word.starts_with("-"); });
+    if (option != rest.end()) refuseOption(options, *option);
     throw UsageError(fmt::format("{}\n'{}' explains it", error.what(), options.helpCommand()));
   }
   if (units != nullptr) {
@@ -127,8 +136,7 @@ std::optional<Words> parseAround(CommandOptions& options, const Words& words, Co
         word.size() > 1 && std::string_view(".0123456789").find(word[1]) != std::string_view::npos;
     if (word.starts_with('-') && word.size() > 1 && !number && letters != "-inf" &&
         letters != "-nan") {
-      throw UsageError(fmt::format("there is no option {}\n'{}' lists them", inQuotes(word),
-                                   options.helpCommand()));
+      refuseOption(options, word);
     }
   }
   if (mark != words.end()) rest.insert(rest.end(), mark + 1, words.end());

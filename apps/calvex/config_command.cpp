@@ -62,7 +62,7 @@ ExitStatus configCommand(const Words& words, Console& console) {
       "  calvex config                     show\n"
       "  calvex config T=C P=bar           remember units\n"
       "  calvex config SatPolish=0         remember a setting\n"
-      "  calvex config P=                  forget one\n"
+      "  calvex config T=                  forget one unit (or setting)\n"
       "  calvex config --clear             forget all\n"
       "Every later call starts with them, and -u and -s go on from there; 'calvex run' and\n"
       "its scripts do so only with --config. --no-config leaves them out of one call.\n"

@@ -105,13 +105,18 @@ std::string example(const Member& member, const ClientOptions& options) {
   Client client;
   options.applyTo(client);
   const std::vector<std::string> lines = exampleLines(member, client.units());
-  std::string text = lines.size() == 1 ? "\nexample\n" : "\nexample, in a script\n";
+  // A unit chosen or a text left in the trace is gone with the call.
+  const MemberHeading heading = explanation(member).heading;
+  const bool lasts = (heading == MemberHeading::units || heading == MemberHeading::diagnostics) &&
+                     outputs(member).empty() && !member.isProperty;
+  const bool inScript = lines.size() > 1 || lasts;
+  std::string text = inScript ? "\nexample, in a script\n" : "\nexample\n";
   for (const std::string& line : lines) {
     const ScriptLine split = splitLine(line);
     const Outcome outcome =
         perform(client, prepare(memberNamed(split.words.front()), std::span(split.words).subspan(1),
                                 client.units()));
-    if (lines.size() > 1) {
+    if (inScript) {
       text +=
           fmt::format("  {}\n{}", line, indented(indented(outcomeText(outcome, client.units()))));
       continue;

@@ -8,6 +8,7 @@
 #include "call.h"
 #include "command_line.h"
 #include "diagnostics/formatting.h"
+#include "encoding.h"
 #include "member_help.h"
 #include "output.h"
 #include "server/member_explanations.h"
@@ -136,6 +137,32 @@ std::string search(const std::string& pattern) {
   return fmt::format("{}\n{}", text, wrapped(names));
 }
 
+// Of words that no member answers: those that none has at all, and the nearest that some have.
+[[noreturn]] void refuse(const std::string& pattern) {
+  Words known;
+  for (const Member& member : memberTable()) {
+    known.emplace_back(member.name);
+    for (std::string& word : wordsIn(allWords({&member, explanation(member)}))) {
+      if (word.size() > 3) known.push_back(std::move(word));
+    }
+  }
+  const Words wanted = wordsIn(pattern);
+  std::string text;
+  for (const std::string& word : wanted) {
+    const bool present = std::ranges::any_of(
+        known, [&](const std::string& one) { return lowerCase(one).starts_with(word); });
+    if (present) continue;
+    Words near;  // of ordinary words many are near, and few are meant
+    for (const std::string& one : nearest(word, known)) {
+      if (editDistance(word, one) <= 1 + word.size() / 8) near.push_back(one);
+    }
+    text += fmt::format("{}nothing answers {}{}", text.empty() ? "" : "\n",
+                        inQuotes(wanted.size() == 1 ? pattern : word), didYouMean(word, near));
+  }
+  if (text.empty()) text = fmt::format("nothing answers {} together", inQuotes(pattern));
+  throw UsageError(text + "\n'calvex members' lists all members");
+}
+
 }  // namespace
 
 ExitStatus membersCommand(const Words& words, Console& console) {
@@ -162,7 +189,7 @@ ExitStatus membersCommand(const Words& words, Console& console) {
     return ExitStatus::ok;
   }
   const std::string text = search(pattern);
-  if (text.empty()) static_cast<void>(memberNamed(pattern));  // throws with the nearest names
+  if (text.empty()) refuse(pattern);
   console.out << text;
   return ExitStatus::ok;
 }

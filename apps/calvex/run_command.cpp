@@ -21,8 +21,9 @@ ExitStatus runCommand(const Words& words, Console& console) {
       "  HPT 10 773.15\n"
       "  SetUserUnit P \"ft H2O\"      # texts with blanks stand in quotes\n"
       "  TraceLevel 2\n"
-      "Two more words: 'trace' prints the tree of traced calls, 'reset' makes a new client\n"
-      "object. A line that cannot be run is reported and the next one runs.\n"
+      "Three more words: 'trace' prints the tree of traced calls, 'reset' makes a new client\n"
+      "object, 'quit' ends the script. A line that cannot be run is reported and the next one "
+      "runs.\n"
       "On a terminal, without FILE, it is a shell with history, completion (Tab) and help.\n"
       "Exit status: 2 when a line could not be run, else 1 when a call failed, else 0.");
   std::string file = "-";

@@ -122,9 +122,26 @@ void refuseCommand(const ScriptLine& line) {
       findMember(line.words.front()) == nullptr ||
       (line.words.size() == 5 && readNumber(line.words[2]).fault == NumberFault::none);
   if (!isCommand) return;
-  throw UsageError(fmt::format(
-      "{} is a command, and a script has only members, trace and reset; on its own: calvex {}",
-      line.words.front(), line.source));
+  throw UsageError(
+      fmt::format("{} is a command, and a script has only members, trace, reset and quit; on its "
+                  "own: calvex {}",
+                  line.words.front(), line.source));
+}
+
+// A line has no options; a text may look like one.
+void refuseOptions(const ScriptLine& line) {
+  const Member* const member = findMember(line.words.front());
+  const auto isText = [](const Parameter* input) { return input->type == ValueType::text; };
+  if (member == nullptr || std::ranges::any_of(inputs(*member), isText)) return;
+  for (std::size_t i = 1; i < line.words.size(); ++i) {
+    const std::string& word = line.words[i];
+    const bool unit = word == "-u" || word.starts_with("--unit");
+    if (!unit && word != "-s" && !word.starts_with("--set")) continue;
+    throw UsageError(fmt::format(
+        "{} is for the command line; in a script {}, for all lines behind it", inQuotes(word),
+        unit ? "a line of its own chooses a unit, as in SetUserUnit T C"
+             : "a line of its own changes a setting, as in SatPolish 0"));
+  }
 }
 
 }  // namespace
@@ -176,17 +193,22 @@ void Interpreter::run(const ScriptLine& line) {
   std::ostream& out = console_.out;
   const std::string& name = line.words.front();
   const auto arguments = std::span(line.words).subspan(1);
-  if (name == "trace" || name == "reset") {
+  if (name == "trace" || name == "reset" || name == "quit" || name == "exit") {
     if (!arguments.empty()) throw UsageError(fmt::format("{} takes no arguments", name));
     if (name == "trace") {
       printTrace();
-    } else {
+    } else if (name == "reset") {
       client_.reset();
-      if (options_.json) out << "{\"member\":\"reset\",\"hresult\":0}\n";
+      out << (options_.json  ? "{\"member\":\"reset\",\"hresult\":0}\n"
+              : interactive_ ? "done\n"
+                             : "reset\n  done\n");
+    } else {
+      ended_ = true;
     }
     return;
   }
   refuseCommand(line);
+  refuseOptions(line);
   const Outcome outcome = perform(client_, prepare(memberNamed(name), arguments, client_.units()));
   if (options_.json) {
     fmt::print(out, "{}\n", outcomeJson(outcome, client_.units()));
@@ -230,7 +252,7 @@ void Interpreter::printTrace() {
 ExitStatus runScript(std::istream& in, Console& console, const ClientOptions& options) {
   Interpreter interpreter(console, options);
   std::string line;
-  while (console.out && readLine(in, line)) {
+  while (console.out && !interpreter.ended() && readLine(in, line)) {
     interpreter.run(line);
     if (in.rdbuf()->in_avail() <= 0) console.out.flush();
   }

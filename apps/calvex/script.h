@@ -34,6 +34,8 @@ class Interpreter {
   void printTrace();
 
   [[nodiscard]] Client& client() noexcept { return client_; }
+  /// Whether a line was quit or exit.
+  [[nodiscard]] bool ended() const noexcept { return ended_; }
   /// usage when a line could not be run, else callFailed when a call failed.
   [[nodiscard]] ExitStatus status() const noexcept { return status_; }
 
@@ -46,6 +48,7 @@ class Interpreter {
   bool interactive_;
   Client client_;
   int lineNumber_ = 0;
+  bool ended_ = false;
   ExitStatus status_ = ExitStatus::ok;
 };
 

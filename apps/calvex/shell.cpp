@@ -21,7 +21,7 @@ constexpr std::string_view shellHelp =
     "A line is a member and its arguments, a setting with or without a new value, or a command:\n"
     "  HPT 10 773.15               enthalpy of steam\n"
     "  SetUserUnit P bar           pressures are in bar from now on\n"
-    "  HPT 10 773.15 -u T=C        a unit for this line only\n"
+    "  HPT 100 500 -u T=C          a unit for this line only\n"
     "  members enthalpy            members that have to do with it\n"
     "  units P                     units of pressure\n"
     "  help HPT                    what HPT takes and answers\n"

@@ -31,6 +31,29 @@ bool has(std::string_view letters, char letter) {
 
 constexpr const char* usageHint = "state takes two properties, as in 'calvex state P=10 T=773.15'";
 
+// What is wrong with words that are not two names and two values.
+std::string whatIsWrong(const Words& words, const Words& pieces) {
+  const auto isNumber = [](const std::string& word) {
+    return readNumber(word).fault == NumberFault::none || !unitBehind(word).empty();
+  };
+  for (const std::string& word : words) {
+    if (word.find('=') != word.rfind('=') && word.find_first_of(",;") != std::string::npos) {
+      return fmt::format("{} holds more than one property: a blank stands between them, not a '{}'",
+                         inQuotes(word), word[word.find_first_of(",;")]);
+    }
+  }
+  for (std::size_t i = 0; i < pieces.size(); i += 2) {
+    if (!isNumber(pieces[i])) continue;
+    return fmt::format("{} lacks the name of its property, as in P={}", inQuotes(pieces[i]),
+                       pieces[i]);
+  }
+  if (pieces.size() > 4) {
+    return fmt::format("{} properties are too many", (pieces.size() + 1) / 2);
+  }
+  if (pieces.size() % 2 != 0) return fmt::format("{} lacks its value", inQuotes(pieces.back()));
+  return pieces.size() == 2 ? "one property is not enough" : "";
+}
+
 // NAME=VALUE or NAME VALUE, twice.
 std::vector<Given> readInputs(const Words& words, const UserUnits& units) {
   Words pieces;
@@ -41,8 +64,10 @@ std::vector<Given> readInputs(const Words& words, const UserUnits& units) {
       if (!piece.empty()) pieces.push_back(piece);
     }
   }
-  if (pieces.size() != 4) {
-    throw UsageError(fmt::format("{}\n'calvex help state' explains it", usageHint));
+  const std::string wrong = whatIsWrong(words, pieces);
+  if (pieces.size() != 4 || !wrong.empty()) {
+    throw UsageError(fmt::format("{}{}{}\n'calvex help state' explains it", wrong,
+                                 wrong.empty() ? "" : "; ", usageHint));
   }
   std::vector<Given> inputs;
   for (std::size_t i = 0; i < pieces.size(); i += 2) {

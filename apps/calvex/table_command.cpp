@@ -314,7 +314,8 @@ ExitStatus tableCommand(const Words& words, Console& console) {
       "capacity, w speed of sound; liq and vap are saturated liquid and vapour, fg the "
       "difference.\n"
       "An isobar or isotherm has two lines more where it meets the saturation line. Values are in\n"
-      "the chosen units. A line that fails says why, and the exit status is 1.");
+      "the chosen units; a unit may stand behind a value, though not behind the step. A line that "
+      "fails says why, and the exit status is 1.");
   std::string by = "T", from, to, step;
   bool csv = false, json = false;
   ClientOptions options;
@@ -343,12 +344,6 @@ ExitStatus tableCommand(const Words& words, Console& console) {
                     "'calvex help table' explains it",
                     given, didYouMean(kind, kinds)));
   }
-  const auto bound = [](const char* option, const std::string& word) {
-    if (word.empty()) {
-      throw UsageError(fmt::format("{} is missing: a table runs --from X --to X --step X", option));
-    }
-    return optionValue(option, [&] { return parseNumber(word); });
-  };
   Table table{Table::Kind::saturation,
               by.front(),
               0.0,
@@ -371,9 +366,22 @@ ExitStatus tableCommand(const Words& words, Console& console) {
     throw UsageError(
         fmt::format("saturation takes no {}; --by P runs over pressures", inQuotes(operands[1])));
   }
-  table.range = {bound("--from", from), bound("--to", to), bound("--step", step)};
   Client client;
   options.applyTo(client);
+  const UnitGroup keyGroup = letterExplanation(table.key).group;
+  const auto bound = [&](const char* option, const std::string& word) {
+    if (word.empty()) {
+      throw UsageError(fmt::format("{} is missing: a table runs --from X --to X --step X", option));
+    }
+    return optionValue(option, [&] {
+      if (&word != &step) return valueWithUnit(word, keyGroup, client.units());
+      if (unitBehind(word).empty()) return parseNumber(word);
+      throw UsageError(fmt::format("{} has a unit; a step is a plain number, in the unit of {}: {}",
+                                   inQuotes(word), table.key,
+                                   currentUnit(client.units(), static_cast<int>(keyGroup))));
+    });
+  };
+  table.range = {bound("--from", from), bound("--to", to), bound("--step", step)};
   if (table.ofStates()) {
     const UnitGroup group = table.key == 'T' ? UnitGroup::pressure : UnitGroup::temperature;
     table.fixed =

@@ -70,6 +70,20 @@ std::string listUnits(UnitGroup group) {
   return text + "\nCapital and small letters, blanks, ^ and brackets do not matter.\n";
 }
 
+// Who names a unit wants to know what it measures.
+void refuseUnit(std::string_view word) {
+  if (findGroupWord(word)) return;
+  Words quantities;
+  for (int i = 0; i < unitGroupCount; ++i) {
+    const UnitGroup group{static_cast<short>(i)};
+    if (findUnitWord(group, word).unit != nullptr) quantities.emplace_back(row(group).displayName);
+  }
+  if (quantities.empty()) return;
+  throw UsageError(fmt::format("{} is a unit of {}; 'calvex units {}' lists all of its units",
+                               inQuotes(word), fmt::join(quantities, ", "),
+                               quotedIfSpaced(quantities.front())));
+}
+
 }  // namespace
 
 ExitStatus unitsCommand(const Words& words, Console& console) {
@@ -83,6 +97,7 @@ ExitStatus unitsCommand(const Words& words, Console& console) {
   app.add_option("GROUP", keyword, "A word that selects the quantity, such as P or Pressure")
       ->type_name("");
   if (!parse(app, words, console)) return ExitStatus::ok;
+  if (!keyword.empty()) refuseUnit(keyword);
   console.out << (keyword.empty() ? listGroups() : listUnits(findGroup(keyword)));
   return ExitStatus::ok;
 }

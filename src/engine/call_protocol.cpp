@@ -71,6 +71,12 @@ bool ZvThermoInt::validRange(std::string_view name, double& value, double lower,
 // Bounds of two decimals can hide what is wrong: 0.0005 MPa lies within "0.00 to 22.05".
 void ZvThermoInt::explainRange(std::string_view name, double value, double lower, double upper,
                                UnitGroup group) {
+  const bool fraction = upper == 1.0 && units_.toUser(group, 1.0) == 1.0;
+  if (fraction && value > 2.0 && value <= 100.0) {  // meant as a percentage
+    diagnostics_.postCause(fmt::sprintf(
+        "%g %% is %g as a Fraction (on the command line also %g%%).", value, value / 100, value));
+    return;
+  }
   const auto shown = [&](double x) { return std::round(units_.toUser(group, x) * 100.0); };
   if (!(shown(value) >= shown(lower) && shown(value) <= shown(upper))) return;
   const auto text = [&](double x) { return inUserUnit(group, x); };

@@ -134,7 +134,9 @@ int boiler(ZvThermoInt& engine, std::string_view name, double* pMBd, double* pDu
     const double duty =
         units.toInternal(UnitGroup::enthalpy, *pHBd) * blowdown + hOut * steam - feed * hIn;
     warnIfWater(engine, POut, TOut);
-    warnIfBroken(engine, {{feedAboveSteam, hIn, hOut}});
+    warnIfBroken(engine, {{feedAboveSteam, hIn, hOut},
+                          {blowdownTooLarge, ratio, 1.0},
+                          {blowdownNegative, ratio, 0.0}});
     warnIfNegative(engine, {{"Steam flow", steam, UnitGroup::massFlow},
                             {"Blowdown flow", blowdown, UnitGroup::massFlow},
                             {"Feed water flow", feed, UnitGroup::massFlow},
@@ -178,7 +180,9 @@ int DeAerator(ZvThermoInt& engine, double* pHd, double* pTd, double* pMw, double
     const double Ms = water * ((1.0 + ratio) * hw - out) / divisor;
     const double Mw = (1.0 + ratio) * water - Ms;
     warnIfBroken(engine, {{feedBoils, T, units.toInternal(UnitGroup::temperature, line.T)},
-                          {steamCannotHeat, hs, out / (1.0 + ratio)}});
+                          {steamCannotHeat, hs, out / (1.0 + ratio)},
+                          {ventTooLarge, ratio, 1.0},
+                          {ventNegative, ratio, 0.0}});
     warnIfNegative(engine, {{"Deaerated water flow", water, UnitGroup::massFlow},
                             {"Vent flow", ratio * water, UnitGroup::massFlow},
                             {"Steam flow", Ms, UnitGroup::massFlow},

@@ -121,6 +121,15 @@ inline constexpr PlausibilityRule outletIsWater{"Outlet temperature", below,
 inline constexpr PlausibilityRule feedAboveSteam{"Inlet enthalpy", above, "the outlet steam's",
                                                  enthalpy, "there is nothing left to heat"};
 
+inline constexpr PlausibilityRule blowdownTooLarge{"Blowdown ratio", above, "", ratio,
+                                                   "more water is blown down than leaves as steam"};
+inline constexpr PlausibilityRule blowdownNegative{"Blowdown ratio", below, "", ratio,
+                                                   "nothing flows back into the drum"};
+inline constexpr PlausibilityRule ventTooLarge{"Vent ratio", above, "", ratio,
+                                               "more is vented than leaves as water"};
+inline constexpr PlausibilityRule ventNegative{"Vent ratio", below, "", ratio,
+                                               "nothing flows in through the vent"};
+
 // Heat exchangers
 inline constexpr PlausibilityRule coldPressureRises{
     "Cold pressure drop", below, "", pressureDifference, "a stream loses pressure on its way"};

@@ -46,7 +46,7 @@ constexpr CommonWords commonWordTable[] = {
     {"QOut2", "quality at outlet 2"},
     {"QOut3", "quality at outlet 3"},
     {"Hw", "enthalpy of the spray water"},
-    {"BRatio", "blowdown flow per steam flow"},
+    {"BRatio", "blowdown flow per steam flow, plausibly 0 to 1"},
     {"MSP", "motive steam pressure"},
     {"MST", "motive steam temperature"},
     {"MSF", "motive steam flow"},
@@ -154,7 +154,7 @@ constexpr ExplanationRow rows[] = {
      "The deaerated water leaves as saturated liquid at the operating pressure, the vent as "
      "saturated vapour.",
      "Hs=enthalpy of the heating steam; Tw=temperature of the make-up water; "
-     "Md=flow of deaerated water; MRatio=vent flow per flow of deaerated water; "
+     "Md=flow of deaerated water; MRatio=vent flow per flow of deaerated water, plausibly 0 to 1; "
      "pHd=enthalpy of the deaerated water; pTd=temperature of the deaerated water; "
      "pMw=flow of make-up water; pMs=flow of heating steam",
      "0.12 2800 320.15 10 0.01", "", "deaerator degasser feed tank"},

@@ -48,6 +48,9 @@ constexpr Synonym synonyms[] = {
     {"ata", "kgf/cm2"},  // technical atmosphere, absolute
     {"at", "kgf/cm2"},
     {"kg/cm2", "kgf/cm2"},
+    {"kg/cm2g", "kgf/cm2g"},
+    {"kp/cm2g", "kgf/cm2g"},
+    {"atg", "kgf/cm2g"},
     {"kp", "kgf"},
     {"inwc", "inh2o"},
     {"inwg", "inh2o"},
@@ -93,10 +96,22 @@ constexpr Synonym synonyms[] = {
 // Factors to the group's reference unit. 1 ft = 0.3048 m and 1 lb = 0.45359237 kg by definition;
 // 1 dyn.s/cm2 is one poise.
 constexpr double cubicFootAPound = 0.3048 * 0.3048 * 0.3048 / 0.45359237;
-constexpr ZvUomLiteKeyword pressuresBeside[] = {{"mbar", 100}, {"hPa", 100}};
+constexpr ZvUomLiteKeyword differencesBeside[] = {{"mbar", 100}, {"hPa", 100}};
+// The catalogue's gauge units count from one standard atmosphere; so do these.
+constexpr double atmosphere = 101325.0;
+constexpr ZvUomLiteKeyword pressuresBeside[] = {{"mbar", 100},
+                                                {"hPa", 100},
+                                                {"mbarg", 100, atmosphere / 100},
+                                                {"kPag", 1000, atmosphere / 1000},
+                                                {"MPag", 1000000, atmosphere / 1000000},
+                                                {"kgf/cm2g", 98066.5, atmosphere / 98066.5}};
 constexpr ZvUomLiteKeyword volumesBeside[] = {
     {"ft3/lbm", cubicFootAPound}, {"cu ft/lb", cubicFootAPound}, {"cu ft/lbm", cubicFootAPound}};
 constexpr ZvUomLiteKeyword viscositiesBeside[] = {{"dyn.s/cm2", 0.1}};
+
+constexpr std::string_view gaugeElsewhere =
+    "it is a gauge pressure, and the gauge units are barg, mbarg, kPag, MPag, psig and kgf/cm2g; a "
+    "difference of pressures belongs to DP (Pressure Diff)";
 
 struct UnitNotice {
   UnitGroup group;
@@ -110,12 +125,20 @@ constexpr std::string_view notCubicFoot =
 constexpr std::string_view notDyne =
     "not the physical unit: its factor is 980 times that of a dyne second a square centimetre; "
     "dyn.s/cm2 (or Poise) is the physical one";
+constexpr std::string_view thermochemicalHere =
+    "0.07 % smaller here than in an enthalpy, whose cal and Btu are those of the International "
+    "Table: H - U = P v holds in kJ/kg";
 constexpr UnitNotice unitNotices[] = {
     {UnitGroup::specificVolume, "ft\xB3/lb", notCubicFoot},
     {UnitGroup::specificVolume, "ft^3/lb", notCubicFoot},
     {UnitGroup::dynamicViscosity, "dyne.s/cm\xB2", notDyne},
     {UnitGroup::dynamicViscosity, "dyne.s/cm^2", notDyne},
 };
+
+constexpr std::string_view otherColumns =
+    "1 in Hg is 3376.85 Pa here and 3386.39 Pa as a pressure, 1 ft H2O 2988.98 and 2989.07 Pa, 1 "
+    "psia\n6894.757 and 6894.76751 Pa: a difference of two pressures in such a unit is not "
+    "quite the same number\nhere. In Pa, bara or mm Hg it is.";
 
 // The International Table calorie is 4.1868 J and gives Btu/lb = 2.326 kJ/kg; the thermochemical
 // one is 4.184 J.
@@ -216,6 +239,15 @@ bool confusesMilliAndMega(std::string_view word, std::string_view name) {
          lowerCase(word.substr(0, 1)) == "m";
 }
 
+// Whether a word, as `fold` leaves it, says gauge where the group has absolute units only: a column
+// of water over the atmosphere, or the absolute unit with a g behind.
+bool saysGauge(UnitGroup group, std::string_view folded) {
+  constexpr std::string_view columns[] = {"inwg", "inwcg", "ftwg", "ftwcg", "mmwg", "mmh2og"};
+  if (group != UnitGroup::pressure || !folded.ends_with('g')) return false;
+  return std::ranges::find(columns, folded) != std::end(columns) ||
+         findUnitWord(group, folded.substr(0, folded.size() - 1)).unit != nullptr;
+}
+
 const UnitGroupRow& row(UnitGroup group) {
   return unitGroupTable()[static_cast<std::size_t>(group)];
 }
@@ -230,8 +262,10 @@ UnitWord findUnitWord(UnitGroup group, std::string_view word) {
   }
   const std::string folded = fold(word);
   if (folded.empty()) return {};
+  const Synonym* const synonym = synonymOf(folded);
+  const std::string_view whole = synonym == nullptr ? std::string_view(folded) : synonym->meaning;
   for (const ZvUomLiteKeyword& unit : unitsBesideCatalogue(group)) {
-    if (fold(unit.name) == folded) return {&unit, {}, {}};
+    if (fold(unit.name) == whole) return {&unit, {}, {}};
   }
   const Meaning meaning = meaningOf(word);
   UnitWord found;
@@ -241,6 +275,9 @@ UnitWord findUnitWord(UnitGroup group, std::string_view word) {
       return other->factor == unit.factor && other->offset == unit.offset;
     };
     if (std::ranges::none_of(found.candidates, same)) found.candidates.push_back(&unit);
+  }
+  if (found.candidates.empty() || folded == "inwg") {
+    if (saysGauge(group, folded)) return {nullptr, {}, {}, gaugeElsewhere};
   }
   if (found.candidates.size() != 1 || confusesMilliAndMega(word, found.candidates.front()->name)) {
     return found;
@@ -283,8 +320,9 @@ std::optional<UnitGroup> findGroupWord(std::string_view word) {
 std::span<const ZvUomLiteKeyword> unitsBesideCatalogue(UnitGroup group) {
   switch (group) {
     case UnitGroup::pressure:
-    case UnitGroup::pressureDifference:
       return pressuresBeside;
+    case UnitGroup::pressureDifference:
+      return differencesBeside;
     case UnitGroup::specificVolume:
       return volumesBeside;
     case UnitGroup::dynamicViscosity:
@@ -303,6 +341,11 @@ std::string_view unitNotice(UnitGroup group, std::string_view name) {
   for (const UnitNotice& notice : unitNotices) {
     if (notice.group == group && notice.name == name) return notice.text;
   }
+  const bool energy = group == UnitGroup::internalEnergy || group == UnitGroup::helmholtzEnergy ||
+                      group == UnitGroup::gibbsEnergy;
+  const bool calorie =
+      name.find("cal") != std::string_view::npos || name.find("Btu") != std::string_view::npos;
+  if (energy && calorie) return thermochemicalHere;
   return {};
 }
 
@@ -316,6 +359,8 @@ std::string_view groupNotice(UnitGroup group) {
       return thermochemicalCalorie;
     case UnitGroup::specificHeat:
       return heatCapacityCalorie;
+    case UnitGroup::pressureDifference:
+      return otherColumns;
     case UnitGroup::entropy:
     case UnitGroup::heatDuty:
     case UnitGroup::power:

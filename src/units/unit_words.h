@@ -25,6 +25,8 @@ struct UnitWord {
   std::vector<const ZvUomLiteKeyword*> candidates;
   /// What one who chooses the unit should know, UTF-8; mostly empty.
   std::string_view notice;
+  /// Of a word that says something no unit of the group does: what to write instead, UTF-8.
+  std::string_view refusal = {};
 };
 
 /// The catalogue's own name first, then the same letters in another case, with other signs between

@@ -70,7 +70,14 @@ constexpr Word words[] = {
     {Group::pressure, "inHg", "in Hg"},
     {Group::pressure, "inH2O", "in H2O"},
     {Group::pressure, "inWC", "in H2O"},
-    {Group::pressure, "inwg", "in H2O"},
+    {Group::pressureDifference, "inwg", "in H2O"},
+    {Group::pressure, "kPag", "kPag"},
+    {Group::pressure, "kPa(g)", "kPag"},
+    {Group::pressure, "mbar g", "mbarg"},
+    {Group::pressure, "MPag", "MPag"},
+    {Group::pressure, "kgf/cm2g", "kgf/cm2g"},
+    {Group::pressure, "kg/cm\u00B2(g)", "kgf/cm2g"},
+    {Group::pressure, "atg", "kgf/cm2g"},
     {Group::pressure, "ftwc", "ft H2O"},
     {Group::pressure, "mpa", "MPa"},
     {Group::pressure, "Mpa", "MPa"},
@@ -211,11 +218,29 @@ TEST(UnitWords, PhysicalUnitsStandBesideTheTabulatedOnes) {
   EXPECT_EQ(findUnitWord(Group::dynamicViscosity, "dyn.s/cm2").unit->factor, 0.1);
   EXPECT_EQ(findUnitWord(Group::pressure, "mbar").unit->factor, 100.0);
   EXPECT_EQ(findUnitWord(Group::pressure, "hpa").unit->factor, 100.0);
+  // No gauge pressure is one standard atmosphere, 101325 Pa.
+  for (const char* word : {"mbarg", "kPag", "MPag", "kgf/cm2g"}) {
+    const ZvUomLiteKeyword& unit = *findUnitWord(Group::pressure, word).unit;
+    EXPECT_NEAR(unit.factor * unit.offset, 101325.0, 1e-9) << word;
+    EXPECT_EQ(findUnitWord(Group::pressureDifference, word).unit, nullptr) << word;
+  }
   for (int group = 0; group < unitGroupCount; ++group) {
     for (const ZvUomLiteKeyword& unit : unitsBesideCatalogue(Group(group))) {
       EXPECT_FALSE(isInCatalogue(Group(group), unit));
       EXPECT_FALSE(ZvUomLite().setUserUnit(group, unit.name)) << unit.name;
     }
+  }
+}
+
+TEST(UnitWords, AGaugePressureIsNoAbsoluteOne) {
+  for (const char* word : {"inwg", "inH2Og", "in H2O (g)", "mmH2Og", "ftwg", "Torr g", "Pag"}) {
+    const UnitWord found = findUnitWord(Group::pressure, word);
+    EXPECT_EQ(found.unit, nullptr) << word;
+    EXPECT_TRUE(found.candidates.empty()) << word;
+    EXPECT_NE(found.refusal.find("gauge units are barg"), std::string_view::npos) << word;
+  }
+  for (const char* word : {"in Hg", "mmHg", "barg", "psig", "mug", "g"}) {
+    EXPECT_EQ(findUnitWord(Group::pressure, word).refusal, "") << word;
   }
 }
 
@@ -248,14 +273,33 @@ TEST(UnitWords, TheTwoCaloriesAreExplainedWhereTheyAreUsed) {
       return unit.name.find("cal") != std::string_view::npos ||
              unit.name.find("Btu") != std::string_view::npos;
     });
-    EXPECT_EQ(!groupNotice(Group(group)).empty(), has) << group;
+    const bool columns = Group(group) == Group::pressureDifference;
+    EXPECT_EQ(!groupNotice(Group(group)).empty(), has || columns) << group;
   }
   for (const Group group : {Group::internalEnergy, Group::helmholtzEnergy, Group::gibbsEnergy}) {
     EXPECT_EQ(findUnitWord(group, "cal/g").unit->factor, 4.184);
     EXPECT_NE(groupNotice(group).find("4.184 J"), std::string_view::npos);
+    EXPECT_NE(findUnitWord(group, "BTU/lb").notice.find("0.07 % smaller"), std::string_view::npos);
+    EXPECT_EQ(findUnitWord(group, "kJ/kg").notice, "");
   }
   EXPECT_EQ(findUnitWord(Group::enthalpy, "cal/g").unit->factor, 4.1868);
   EXPECT_NE(groupNotice(Group::enthalpy).find("4.1868 J"), std::string_view::npos);
+}
+
+// What the notice of the differences says of both groups' factors.
+TEST(UnitWords, ColumnsOfADifferenceAreNotQuiteThoseOfAPressure) {
+  const std::string_view notice = groupNotice(Group::pressureDifference);
+  const auto factor = [](Group group, const char* word) {
+    return findUnitWord(group, word).unit->factor;
+  };
+  for (const auto& [word, here, there] : {std::tuple{"in Hg", "3376.85", "3386.39"},
+                                          {"ft H2O", "2988.98", "2989.07"},
+                                          {"psia", "6894.757", "6894.76751"}}) {
+    EXPECT_EQ(factor(Group::pressureDifference, word), std::stod(here));
+    EXPECT_EQ(factor(Group::pressure, word), std::stod(there));
+    EXPECT_NE(notice.find(here), std::string_view::npos) << word;
+    EXPECT_NE(notice.find(there), std::string_view::npos) << word;
+  }
 }
 
 TEST(UnitWords, OtherWordsNameTheUnitsTheyStandBeside) {

@@ -158,13 +158,15 @@ TEST(MembersCommand, TheExampleOfEveryMemberRuns) {
     EXPECT_TRUE(contains(script, std::string(member.name))) << script;
     const Answer run = calvexWithInput(script, {"run"});
     EXPECT_EQ(run.status, 0) << script << run.err;
-    EXPECT_EQ(run.err, "") << script;
+    const bool dialog = member.name.ends_with("Dlg");
+    EXPECT_EQ(contains(run.err, "only in the automation server on Windows"), dialog) << run.err;
+    EXPECT_EQ(run.err.empty(), !dialog) << run.err;
 
     const std::string help = calvex({"help", std::string(member.name)}).out;
     const std::string answer = run.out.substr(run.out.find('\n') + 1);
-    EXPECT_TRUE(contains(help, lines.size() == 1 ? "\nexample\n  calvex " + lines[0] + "\n" + answer
-                                                 : "\nexample, in a script\n  " + lines[0] + "\n"))
-        << help << run.out;
+    const bool inScript = contains(help, "\nexample, in a script\n  " + lines[0] + "\n");
+    const bool onItsOwn = contains(help, "\nexample\n  calvex " + lines[0] + "\n" + answer);
+    EXPECT_TRUE(inScript || (lines.size() == 1 && onItsOwn)) << help << run.out;
   }
 }
 

@@ -302,6 +302,128 @@ TEST(PlainWords, AGigacalorieAnHourIsKnown) {
   EXPECT_EQ(calvex({"convert", "duty", "1", "Gcal/h", "kW"}).out, "1 MMkcal/h = 1163 kW\n");
 }
 
+// Gauge and absolute, fractions and percentages
+// -------------------------------------------------------------------------------
+
+TEST(PlainWords, AGaugePressureIsNeverReadAsAbsolute) {
+  for (const Words& words :
+       {Words{"convert", "P", "10", "inwg", "mbar"}, Words{"HPT", "10inwg", "500"},
+        Words{"HPT", "10", "500", "-u", "P=mmH2Og"}}) {
+    const Answer answer = calvex(words);
+    EXPECT_EQ(answer.status, 2);
+    EXPECT_EQ(answer.out, "");
+    EXPECT_TRUE(contains(answer.err, "the gauge units are barg, mbarg, kPag")) << answer.err;
+    EXPECT_FALSE(contains(answer.err, "did you mean")) << answer.err;
+  }
+  // 10 in H2O at 249.082 Pa
+  EXPECT_EQ(calvex({"convert", "DP", "10", "inwg", "mbar"}).out, "10 in H2O = 24.9082 mbar\n");
+  // One standard atmosphere is 101.325 kPa.
+  EXPECT_EQ(calvex({"convert", "P", "100", "kPa(g)", "bar"}).out, "100 kPag = 2.01325 bara\n");
+  EXPECT_EQ(calvex({"convert", "P", "0", "kg/cm2g", "Pa"}).out, "0 kgf/cm2g = 101325 Pa\n");
+  EXPECT_EQ(calvex({"HPT", "9898.675", "773.15", "-u", "P=kPag"}).out,
+            calvex({"HPT", "10", "773.15"}).out);
+}
+
+TEST(PlainWords, APercentageGivenAsAFractionIsToldHowToBeWritten) {
+  expectCause({"TurbineA", "3374", "10", "1", "80", "10"},
+              "Efficiency parameter out of range (Valid range 0.00 to 1.00 Fraction).",
+              "80 % is 0.8 as a Fraction (on the command line also 80%).");
+  EXPECT_EQ(calvex({"TurbineA", "3374", "10", "1", "80%", "10"}).status, 0);
+  expectCause({"PSatT", "647.13"},
+              "Temperature parameter out of range (Valid range 273.16 to 647.13 K).",
+              "Temperature 647.13 K is above 647.126 K.");
+}
+
+TEST(PlainWords, ARatioThatNoPlantHasIsWarnedOf) {
+  EXPECT_TRUE(contains(calvex({"Boiler", "448", "9.7", "673", "4.2", "3"}).err,
+                       "warning: Blowdown ratio 3 Fraction is above 1 Fraction"));
+  EXPECT_TRUE(contains(calvex({"DeAerator", "0.12", "2800", "320", "10", "150%"}).err,
+                       "warning: Vent ratio 1.5 Fraction is above 1 Fraction"));
+  EXPECT_EQ(calvex({"Boiler", "448", "9.7", "673", "4.2", "3%"}).err, "");
+}
+
+TEST(PlainWords, TheTwoBtusAreWarnedOf) {
+  EXPECT_TRUE(
+      contains(calvex({"UPT", "10", "773.15", "-u", "U=BTU/lb"}).err, "0.07 % smaller here"));
+  EXPECT_EQ(calvex({"HPT", "10", "773.15", "-u", "H=BTU/lb"}).err, "");
+  EXPECT_TRUE(contains(calvex({"units", "DP"}).out, "1 in Hg is 3376.85 Pa here and 3386.39"));
+}
+
+// Words in the wrong place
+// -------------------------------------------------------------------------------
+
+TEST(PlainWords, AStateThatIsNoneIsToldWhy) {
+  const std::pair<Words, const char*> cases[] = {
+      {{"10MPa", "500C"},
+       "calvex: '10MPa' lacks the name of its property, as in P=10MPa; state takes"},
+      {{"10", "500"}, "calvex: '10' lacks the name of its property"},
+      {{"P=10bar,T=500C"}, "more than one property: a blank stands between them, not a ','"},
+      {{"P=10", "T=500", "H=3"}, "calvex: 3 properties are too many; state takes two"},
+      {{"P=10"}, "calvex: one property is not enough; state takes two"},
+      {{"P=10", "T"}, "calvex: 'T' lacks its value; state takes two"},
+  };
+  for (const auto& [words, expected] : cases) {
+    Words all = {"state"};
+    all.insert(all.end(), words.begin(), words.end());
+    const Answer answer = calvex(all);
+    EXPECT_EQ(answer.status, 2);
+    EXPECT_TRUE(contains(answer.err, expected)) << answer.err;
+  }
+}
+
+TEST(PlainWords, ARangeOfATableMayHaveUnits) {
+  EXPECT_EQ(
+      calvex({"table", "isobar", "10bar", "--from", "400C", "--to", "500C", "--step", "50", "-u",
+              "T=C"})
+          .out,
+      calvex({"table", "isobar", "1", "--from", "400", "--to", "500", "--step", "50", "-u", "T=C"})
+          .out);
+  EXPECT_EQ(calvex({"table", "isobar", "1", "--from", "1", "--to", "2", "--step", "10C"}).err,
+            "calvex: --step: '10C' has a unit; a step is a plain number, in the unit of T: K\n");
+}
+
+TEST(PlainWords, ABatchSaysThatItsNumbersArePlain) {
+  const Answer answer = calvexWithInput("P\n1\n", {"batch", "-", "h=HPT(P,500C)"});
+  EXPECT_EQ(answer.status, 2);
+  EXPECT_TRUE(contains(answer.err, "in the units that -u chooses, as in 500 with -u T=C"))
+      << answer.err;
+}
+
+TEST(PlainWords, AScriptUnderstandsWhatAShellDoes) {
+  const Answer ended = calvexWithInput("reset\nquit\nHPT 10 773.15\n", {"run"});
+  EXPECT_EQ(ended.status, 0);
+  EXPECT_EQ(ended.out, "reset\n  done\n");
+  const Answer options = calvexWithInput("HPT 10 500 -u T=C\nHPT 10 500 -s SatPolish=0\n", {"run"});
+  EXPECT_EQ(options.status, 2);
+  EXPECT_TRUE(contains(options.err,
+                       "line 1: '-u' is for the command line; in a script a line of "
+                       "its own chooses a unit, as in SetUserUnit T C"))
+      << options.err;
+  EXPECT_TRUE(contains(options.err, "changes a setting, as in SatPolish 0")) << options.err;
+  EXPECT_EQ(calvexWithInput("AddExternalError a -u\n", {"run"}).status, 0);
+}
+
+TEST(PlainWords, TheHelpOfWhatEndsWithTheCallShowsAScript) {
+  EXPECT_TRUE(
+      contains(calvex({"help", "SetUserUnit"}).out, "example, in a script\n  SetUserUnit "));
+  EXPECT_FALSE(contains(calvex({"help", "SetUserUnit"}).out, "calvex SetUserUnit"));
+}
+
+TEST(PlainWords, AnAnswerToAWordThatIsNoneOfTheWanted) {
+  EXPECT_TRUE(
+      contains(calvex({"units", "pressur"}).err, "; did you mean Pressure or Pressure Diff?"));
+  EXPECT_EQ(calvex({"units", "bar"}).status, 2);
+  EXPECT_TRUE(
+      contains(calvex({"units", "bar"}).err,
+               "'bar' is a unit of Pressure, Pressure Difference; 'calvex units Pressure'"));
+  EXPECT_TRUE(contains(calvex({"members", "temprature"}).err,
+                       "nothing answers 'temprature'; did you mean temperature"));
+  EXPECT_TRUE(contains(calvex({"members", "latent", "heat"}).err, "nothing answers 'latent'\n"));
+  EXPECT_EQ(calvex({"config", "--json"}).err,
+            "calvex: there is no option '--json'\n'calvex help config' lists them\n");
+  EXPECT_TRUE(contains(calvex({"ShowTraceDlg"}).err, "only in the automation server on Windows"));
+}
+
 // Warnings and notes
 // -------------------------------------------------------------------------------
 

@@ -162,7 +162,8 @@ TEST(StateCommand, RefusesWhatDeterminesNoState) {
   const std::string online = refusal({"P=1", "T=" + T, "-s", "SatPolish=0"}, 1);
   EXPECT_TRUE(contains(online, "Two phase conditions - Underspecified problem.")) << online;
   EXPECT_TRUE(contains(online, "'calvex state P=1 Q=0.5'")) << online;
-  EXPECT_TRUE(contains(calvex({"state", "P=10", "--json"}).out, "{\"error\":\"state takes two"));
+  EXPECT_TRUE(
+      contains(calvex({"state", "P=10", "--json"}).out, "{\"error\":\"one property is not enough"));
   EXPECT_EQ(calvex({"state", "P=10", "T=500", "--json", "--csv"}).status, 2);
 }
 
