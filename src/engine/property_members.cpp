@@ -76,8 +76,15 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
     const auto phases = solved(given, [&] { return stateOf(member, x1, x2); });
     if (!phases) return false;
     if (phases == Phases::two) {
-      // There are no two phases below the triple point.
-      if (member.first == Letter::T && !validOnLine(Letter::T, x1)) return false;
+      if (member.first == Letter::T && !validOnLine(Letter::T, x1)) {
+        if (diagnostics_.tracing()) {
+          diagnostics_.postCause(fmt::sprintf(
+              "Below the triple point, %s, liquid and vapour do not mix: these inputs are of "
+              "neither.",
+              inUserUnit(UnitGroup::temperature, constants::triplePointTemperature, 10)));
+        }
+        return false;
+      }
       switch (member.twoPhases) {
         case PropertyMember::TwoPhases::fails:
           return failBetweenPhases(member, given);
@@ -187,9 +194,12 @@ void ZvThermoInt::explainNoState(const GivenPair& given) {
   const auto nameOf = [](Letter letter) { return std::string(quantity(letter).name); };
   for (const auto& [letter, x] : {std::pair(given.first, given.x1), {given.second, given.x2}}) {
     const bool mayBeZero = letter != Letter::P && letter != Letter::R && letter != Letter::V;
-    if (x != 0.0 || mayBeZero) continue;
+    constexpr double least = 1e-300;  // below it numbers lose their digits
+    if (mayBeZero || !(x >= 0.0 && x < least)) continue;
     diagnostics_.postCause(
-        fmt::sprintf("%s must be above %s.", nameOf(letter), shown(letter, 0.0)));
+        x == 0.0 ? fmt::sprintf("%s must be above %s.", nameOf(letter), shown(letter, 0.0))
+                 : fmt::sprintf("%s %s is too close to zero to be computed with.", nameOf(letter),
+                                shown(letter, x, 3)));
     return;
   }
   if (given.second == Letter::T) return;
@@ -205,6 +215,14 @@ void ZvThermoInt::explainNoState(const GivenPair& given) {
   if (!above && !(value < extremes->least.value)) return;
   const Extreme& end = above ? extremes->greatest : extremes->least;
   const Letter other = given.first == Letter::P ? Letter::T : Letter::P;
+  if (above && property == Property::entropy && other == Letter::P) {
+    // Of a gas it grows without end as the pressure falls.
+    diagnostics_.postCause(fmt::sprintf(
+        "%s %s at %s would take next to no pressure: %s is that of %s.", nameOf(given.second),
+        shown(given.second, given.x2), shown(given.first, given.x1),
+        shown(given.second, end.value, 6), shown(other, end.at, 3)));
+    return;
+  }
   constexpr double noPressure = 1e-6;  // MPa: the end of an ever thinner vapour
   const std::string where = other == Letter::P && end.at < noPressure
                                 ? std::string("where the pressure vanishes")

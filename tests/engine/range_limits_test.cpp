@@ -479,5 +479,27 @@ TEST_F(RangeLimits, AnErrorMakesOneNodeAtAnyLevel) {
   }
 }
 
+// The required text comes first; where it does not tell, a cause follows.
+TEST_F(RangeLimits, ACauseFollowsWhereTheTextDoesNotTell) {
+  double value = 0.0;
+  const auto causeOf = [&](auto member, double first, double second) {
+    engine.ClearTraceInfo();
+    EXPECT_EQ((engine.*member)(&value, first, second), 0);
+    return engine.diagnostics().cause();
+  };
+  EXPECT_EQ(causeOf(&ZvThermoInt::PTH, 265.0, 100.0),
+            "Below the triple point, 273.16 K, liquid and vapour do not mix: these inputs are of "
+            "neither.");
+  EXPECT_EQ(engine.LastError(),
+            "Temperature parameter out of range (Valid range 273.16 to 647.13 K).");
+  EXPECT_EQ(causeOf(&ZvThermoInt::HPT, 5e-324, 300.0),
+            "Pressure 4.94e-324 MPa is too close to zero to be computed with.");
+  // The entropy of a gas has no upper end: 38.8 kJ/(kg.K) is answered at 300 K.
+  EXPECT_TRUE(causeOf(&ZvThermoInt::PTS, 300.0, 200.0)
+                  .starts_with("Entropy 200 kJ/(kg.K) at 300 K would take next to no pressure: "));
+  EXPECT_EQ(engine.PTS(&value, 300.0, 38.8), 1);
+  EXPECT_GT(value, 0.0);
+}
+
 }  // namespace
 }  // namespace calvex::test
