@@ -21,6 +21,8 @@ inline constexpr double celsiusZero = 273.15;              // K
 inline constexpr double lowestTemperature = 260.0;    // K
 inline constexpr double highestTemperature = 2500.0;  // K
 inline constexpr double highestPressure = 3000.0;     // MPa
+// Denser than water at any temperature under the highest pressure (1380 kg/m3).
+inline constexpr double densest = 1700.0;  // kg/m3
 
 // They fix the zero of internal energy and entropy at the liquid of the triple point.
 inline constexpr double referenceEnergy = 1997.67722651;   // a0, kJ/kg

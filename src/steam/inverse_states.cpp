@@ -16,6 +16,7 @@ namespace {
 using constants::criticalPressure;
 using constants::criticalRegion;
 using constants::criticalTemperature;
+using constants::densest;
 using constants::gasConstant;
 using constants::highestTemperature;
 using constants::lowestTemperature;
@@ -79,11 +80,11 @@ void requirePressure(double P) {
   if (!(P > 0.0)) failWithoutSolution();
 }
 
-// No state has an infinite property, or no density: every starting point would be tried in vain.
+// No state has an infinite property, or no density, or more than water can have: there the terms of
+// the equation, 1e56 MPa large, leave nothing but their rounding, which changes its sign somewhere.
 void requireValue(Property property, double value) {
-  if (!std::isfinite(value) || (property == Property::density && !(value > 0.0))) {
-    failWithoutSolution();
-  }
+  const bool isPossible = property != Property::density || (value > 0.0 && value < densest);
+  if (!std::isfinite(value) || !isPossible) failWithoutSolution();
 }
 
 }  // namespace

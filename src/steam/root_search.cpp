@@ -11,10 +11,8 @@ namespace calvex::roots {
 namespace {
 
 using constants::criticalTemperature;
+using constants::densest;
 using constants::phasesMeet;
-
-// Denser than water at any temperature under the highest pressure (1380 kg/m3).
-constexpr double densest = 1700.0;
 
 struct Interval {
   double from, to;  // the function has other signs at the ends

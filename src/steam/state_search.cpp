@@ -14,12 +14,12 @@ namespace {
 
 using constants::criticalRegion;
 using constants::criticalTemperature;
+using constants::densest;
 using constants::highestPressure;
 using constants::phasesMeet;
 
-// The ends of a search for a density, kg/m3; water is lighter than 1400 up to the highest pressure.
+// Where a search for a density ends, kg/m3.
 constexpr double thinnest = 1e-30;
-constexpr double densest = 1700.0;
 
 // What the minimiser leaves between its solution and a limit that is one.
 constexpr double solverError = 1e-8;

@@ -369,6 +369,9 @@ TEST_F(OnlyStatesOfWater, AreAnsweredInTheKnownCases) {
       {true, 298.15, Property::enthalpy, 104.0, 0, 0},
       {true, 400.0, Property::density, 2000.0, 0, 0},
       {true, 400.0, Property::density, 1e4, 0, 0},
+      // of terms of 1e56 MPa only the rounding changes its sign
+      {false, 10.0, Property::density, 1e8, 0, 0},
+      {false, 10.0, Property::density, 1e9, 0, 0},
       // above 2500 K
       {false, 10.1444, Property::enthalpy, 8309.93, 0, 0},
       // the warmer of two temperatures; 252.604 K is the other
