@@ -130,6 +130,7 @@ double BlockWorker::number(const CsvRecord& record, std::size_t column) {
 void BlockWorker::compute(std::span<const BatchPlan::Call> calls) {
   const std::vector<BatchPlan::Operand>& operands = calls.front().operands;
   std::vector<direct::Column> inputs;
+  inputs.reserve(operands.size());
   for (const BatchPlan::Operand& operand : operands) {
     inputs.push_back(operand.place ? direct::Column{numbers_[*operand.place].data(), 1}
                                    : direct::Column{&operand.constant, 0});

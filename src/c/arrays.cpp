@@ -97,7 +97,7 @@ int evaluate(calvex_engine& engine, const calvex_request& asked) {
   const bool swapped = given.swapped;
   const std::size_t n = asked.count;
   if (asked.result_count != 0) c::require(asked.results, "the list of results");
-  if (asked.result_count > direct::letterCount * 4) {
+  if (asked.result_count > std::size_t{4} * direct::letterCount) {
     throw Misuse{CALVEX_COUNT, "there are more results than can be of use"};
   }
   std::vector<direct::Result> results;

@@ -56,23 +56,23 @@ inline void requireIndex(std::size_t index, std::size_t count, const char* what)
   }
 }
 
-/// Copies as much of the facts as the caller's version of the structure has.
+/// Copies the facts. This is the first version of the structures: none is smaller.
 template <class Facts>
 void giveFacts(const Facts& facts, Facts* target, std::size_t size) {
   require(target, "the structure for facts");
-  if (size == 0) throw Misuse{CALVEX_COUNT, "the structure for facts has no size"};
-  std::memcpy(target, &facts, std::min(size, sizeof facts));
+  if (size < sizeof facts) {
+    throw Misuse{CALVEX_COUNT, "the size is not that of a structure known here"};
+  }
+  std::memcpy(target, &facts, sizeof facts);
 }
-/// Reads as much of a request as the caller's version of the structure has; the rest is zero.
+/// Reads a request, of which this is the first version.
 template <class Request>
 Request requestOf(const Request* source, std::size_t size) {
   require(source, "the request");
-  if (size == 0 || size > sizeof(Request)) {
+  if (size != sizeof(Request)) {
     throw Misuse{CALVEX_COUNT, "the request's size is not that of a structure known here"};
   }
-  Request request{};
-  std::memcpy(&request, source, size);
-  return request;
+  return *source;
 }
 
 /// Runs a body that answers a code; `keep` takes what goes wrong, a text of its own or a literal.

@@ -28,7 +28,8 @@ struct calvex_engine {
   /// Runs a body; whatever goes wrong becomes the last failure.
   template <class Body>
   int guarded(Body&& body) noexcept {
-    return calvex::c::guarded(body, [this](auto&& failure) { this->keep(std::move(failure)); });
+    return calvex::c::guarded(
+        body, [this](auto&& failure) { this->keep(std::forward<decltype(failure)>(failure)); });
   }
 
   /// A failure that the engine has answered.

@@ -86,10 +86,10 @@ struct DensityPlace {
   }
   /// The value of a layer, 0.0 or 1.0.
   [[nodiscard]] HWY_INLINE N operator()(const N& layer) const {
-    constexpr int columns = DensityTable::columns;
+    constexpr std::ptrdiff_t columns = DensityTable::columns;
     N node;
-    const auto index =
-        NumberOf<N>::nearest(layer * DensityTable::layer + row * columns + column, node);
+    const auto index = NumberOf<N>::nearest(
+        layer * DensityTable::layer + row * DensityTable::columns + column, node);
     const double* const at = table.node.data();
     return byP.w0 * byT(at - columns, index) + byP.w1 * byT(at, index) +
            byP.w2 * byT(at + columns, index) + byP.w3 * byT(at + 2 * columns, index);

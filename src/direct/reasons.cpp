@@ -85,6 +85,11 @@ std::string reasonText(int status, Pair pair, double first, double second,
     return fmt::sprintf(messageText(message),
                         std::string(nameOf(nameFirst ? firstOf(pair) : secondOf(pair))));
   }
+  if (message == Message::noSolution) {
+    // The return code of the solver is not kept.
+    const std::string_view text = messageText(message);
+    return std::string(text.substr(0, text.find(" (")));
+  }
   if (message != Message::outOfRangeUnit) return std::string(messageText(message));
   const auto range = violated(pair, first, second, letters);
   if (!range) return {};

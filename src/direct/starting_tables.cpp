@@ -211,7 +211,8 @@ std::unique_ptr<DensityTable> buildDensityFromPT() {
     }
     if (!subcritical) dense = gas;
     for (int row = 0; row < rows; ++row) {
-      double* const node = table->node.data() + row * DensityTable::columns + column;
+      double* const node =
+          table->node.data() + std::ptrdiff_t{row} * DensityTable::columns + column;
       node[0] = dense[at(row)];
       node[DensityTable::layer] = gas[at(row)] / pressure(row);
     }

@@ -220,10 +220,10 @@ N bellPolynomial(const N& d) {
   constexpr BellPolynomial p = bellPolynomial(gaussianTable[i], order);
   if constexpr (power == degree(p)) {
     return N(p[power]);
-  } else if constexpr (p[power] == 0.0) {
-    return bellPolynomial<i, order, power + 1>(d) * d;
   } else {
-    return bellPolynomial<i, order, power + 1>(d) * d + p[power];
+    const N higher = bellPolynomial<i, order, power + 1>(d) * d;
+    if constexpr (p[power] != 0.0) return higher + p[power];
+    return higher;
   }
 }
 

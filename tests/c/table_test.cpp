@@ -162,13 +162,24 @@ TEST(CTable, MisuseAnswersACode) {
   EXPECT_EQ(calvex_find_group("nothing", CALVEX_TERMINATED, &whole), CALVEX_UNKNOWN);
 }
 
-// A caller built with an older, shorter structure gets as much as it has room for.
-TEST(CTable, AShorterStructureIsFilledAsFarAsItGoes) {
+// This is the first version of the structures: a smaller size is a mistake, such as that of a
+// pointer.
+TEST(CTable, ASizeOfNoStructureIsRefused) {
   calvex_member facts{};
   facts.kind = -7;
-  ASSERT_EQ(calvex_member_facts(0x33, &facts, sizeof facts.number), CALVEX_OK);
-  EXPECT_EQ(facts.number, 0x33);
+  for (const std::size_t size : {std::size_t{0}, sizeof facts.number, sizeof facts - 1}) {
+    EXPECT_EQ(calvex_member_facts(0x33, &facts, size), CALVEX_COUNT) << size;
+  }
   EXPECT_EQ(facts.kind, -7);
+
+  calvex_engine* engine = nullptr;
+  ASSERT_EQ(calvex_create(&engine), CALVEX_OK);
+  const calvex_request request{};
+  for (std::size_t size = 0; size < sizeof request; ++size) {
+    EXPECT_EQ(calvex_direct(engine, &request, size), CALVEX_COUNT) << size;
+  }
+  EXPECT_EQ(calvex_direct(engine, &request, sizeof request + 1), CALVEX_COUNT);
+  calvex_destroy(engine);
 }
 
 }  // namespace
