@@ -39,10 +39,10 @@ def test_a_typed_program_is_understood_and_its_mistakes_are_found():
 
 
 def test_everything_that_is_there_is_typed():
-    stub = (ROOT / "python/calvex/__init__.pyi").read_text() \
+    declared = (ROOT / "python/calvex/__init__.pyi").read_text() \
         + (ROOT / "python/calvex/_table.pyi").read_text()
     for name in [*members.kinds, *calvex.__all__]:
-        assert re.search(rf"\b{name}\b", stub), name
+        assert re.search(rf"\b{name}\b", declared), name
     from calvex import _state
     for name in _state.PROPERTIES:
-        assert re.search(rf"^    {name}: ", stub, re.MULTILINE), name
+        assert re.search(rf"^    {name}: ", declared, re.MULTILINE), name
