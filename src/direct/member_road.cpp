@@ -110,6 +110,16 @@ int MemberRoad::find(Pair pair, double first, double second, FoundState& state) 
   }
 }
 
+std::string MemberRoad::refusal(Pair pair, double first, double second) {
+  try {
+    FoundState state;
+    solve(pair, first, second, state);
+    return {};
+  } catch (const ZvThermoException& failure) {
+    return failure.what();
+  }
+}
+
 void MemberRoad::onLine(double T, double quality, FoundState& state) {
   state.twoPhases = true;
   state.T = T;

@@ -3,6 +3,8 @@
 /// steam layer's solve with the exact saturation line, without trace and units.
 #pragma once
 
+#include <string>
+
 #include "diagnostics/diagnostics.h"
 #include "direct/direct_road.h"
 #include "steam/steam_model.h"
@@ -26,6 +28,8 @@ class MemberRoad {
 
   /// 0 and the state, or the number of the message. Model units.
   int find(Pair pair, double first, double second, FoundState& state) noexcept;
+  /// The text with which the solve refuses inputs that are in range; empty if it does not.
+  [[nodiscard]] std::string refusal(Pair pair, double first, double second);
 
  private:
   int solve(Pair pair, double first, double second, FoundState& state);

@@ -85,10 +85,12 @@ std::string reasonText(int status, Pair pair, double first, double second,
     return fmt::sprintf(messageText(message),
                         std::string(nameOf(nameFirst ? firstOf(pair) : secondOf(pair))));
   }
+  // It names the solver's return code, which a status does not keep.
   if (message == Message::noSolution) {
-    // The return code of the solver is not kept.
-    const std::string_view text = messageText(message);
-    return std::string(text.substr(0, text.find(" (")));
+    return secondOf(pair) == Letter::V
+               ? MemberRoad().refusal(firstOf(pair) == Letter::P ? Pair::PR : Pair::TR, first,
+                                      1.0 / second)
+               : MemberRoad().refusal(pair, first, second);
   }
   if (message != Message::outOfRangeUnit) return std::string(messageText(message));
   const auto range = violated(pair, first, second, letters);

@@ -238,6 +238,12 @@ TEST(DirectRoad, UnitsAreConvertedOnTheWay) {
             "Temperature parameter out of range (Valid range -13.15 to 2226.85 C).");
   EXPECT_EQ(direct::reason(Pair::PH, 1.0, -1.0, letters), "Enthalpy parameter out of range.");
   EXPECT_EQ(direct::reason(Pair::PT, 1.0, 600.0, letters), "");
+  // The member's own text, with the code of its solver.
+  ZvThermoInt engine;
+  double found = 0.0;
+  EXPECT_EQ(engine.TPH(&found, 10.0, 1e9), 0);
+  EXPECT_TRUE(engine.LastError().starts_with("No solution !! (Solver return code = "));
+  EXPECT_EQ(direct::reason(Pair::PH, 10.0, 1e9, letters), engine.LastError());
 }
 
 TEST(DirectRoad, EnthalpyAndEntropyGiveTheStateBack) {
