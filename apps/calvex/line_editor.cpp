@@ -33,7 +33,8 @@ char* copied(std::string_view text) {
   return copy;
 }
 
-// What the library asks for: a list that it frees, the common beginning first, a null last.
+// What the library asks for: a list that it frees, the common beginning first, a null last. It
+// looks at the third place of every list to see whether the word is the only one.
 char** complete(const char* word, int start, int /*end*/) {
   rl_attempted_completion_over = 1;  // no file names
   const std::string_view before(rl_line_buffer, static_cast<std::size_t>(start));
@@ -47,7 +48,7 @@ char** complete(const char* word, int start, int /*end*/) {
   // The typed letters stay where the words agree on nothing more (their case may differ).
   if (common.size() < std::strlen(word)) common = word;
   const std::size_t count = words.size() == 1 ? 0 : words.size();
-  auto** const list = static_cast<char**>(std::calloc(count + 2, sizeof(char*)));
+  auto** const list = static_cast<char**>(std::calloc(count + 3, sizeof(char*)));
   if (list == nullptr) return nullptr;
   list[0] = copied(common);
   for (std::size_t i = 0; i < count; ++i) list[i + 1] = copied(words[i]);

@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -23,8 +24,8 @@ using Arguments = std::vector<std::string>;
 /// A user's folders, and a program that runs on a terminal of its own.
 class OnATerminal : public testing::Test {
  protected:
-  OnATerminal() : home_(testing::TempDir() + "calvex_home_" + std::to_string(getpid())) {
-    fs::create_directories(home_);
+  OnATerminal() : home_(testing::TempDir() + "calvex_home_XXXXXX") {
+    if (mkdtemp(home_.data()) == nullptr) throw std::runtime_error("no folder " + home_);
   }
   ~OnATerminal() override {
     if (child_ > 0) {  // a test gave up: the program waits for keys
@@ -62,6 +63,11 @@ class OnATerminal : public testing::Test {
       if (tcgetattr(terminal_, &line) != 0 || (line.c_lflag & ICANON) == 0U) break;
       usleep(1000);
     }
+    send(keys);
+  }
+
+  /// Keys for a program that edits no lines.
+  void send(const std::string& keys) {
     ASSERT_EQ(write(terminal_, keys.data(), keys.size()), static_cast<ssize_t>(keys.size()));
   }
 
@@ -171,7 +177,7 @@ TEST_F(OnATerminal, TheShellKeepsItsHistory) {
 
 TEST_F(OnATerminal, JsonAndFilesAreReadPlainly) {
   start({"run", "--json"});
-  type("TraceLevel\r\x04");
+  send("TraceLevel\r\x04");
   ASSERT_TRUE(sees("{\"member\":\"TraceLevel\",\"hresult\":0,\"value\":1}"));
   EXPECT_EQ(finish(), 0);
   EXPECT_EQ(screen_.find("calvex> "), std::string::npos) << screen_;
