@@ -75,6 +75,7 @@ class Planner {
                                    member.inputs().empty() ? "" : ": ", describeInputs(member)));
     }
     std::vector<BatchPlan::Operand> operands;
+    operands.reserve(column.operands.size());
     for (const BatchOperand& operand : column.operands) operands.push_back(resolve(operand));
     plan_.added.push_back(
         {column.name, {resultOf(std::move(member), std::move(operands), output, column.name)}});

@@ -110,7 +110,8 @@ Words completions(std::string_view before, std::string_view word) {
   } catch (const UsageError&) {  // within quotes
   }
   std::ranges::sort(found);
-  found.erase(std::unique(found.begin(), found.end()), found.end());
+  const auto repeated = std::ranges::unique(found);
+  found.erase(repeated.begin(), repeated.end());
   return found;
 }
 

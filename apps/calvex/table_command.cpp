@@ -168,6 +168,7 @@ class Sheet {
   void line(const Row& row) {
     if (format_ == Format::json) return jsonLine(row);
     std::vector<std::string> fields;
+    fields.reserve(row.values.size() + 1);
     for (const std::optional<double>& value : row.values) {
       fields.push_back(format_ == Format::csv ? value ? shortestText(*value) : ""
                        : value                ? readableText(*value, 7)
@@ -200,6 +201,7 @@ class Sheet {
 
   void beginCsv() {
     std::vector<std::string> heads;
+    heads.reserve(titles_.size() + 1);
     for (std::size_t i = 0; i < titles_.size(); ++i) {
       heads.push_back(fmt::format("{} [{}]", titles_[i], units_[i]));
     }

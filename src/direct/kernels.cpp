@@ -20,6 +20,8 @@
 #ifdef _WIN32
 // GCC for Windows aligns the stack to 16 bytes only (its bug 54412): longer vectors fault there.
 #define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX2 | HWY_AVX3 | HWY_AVX3_DL)
+#elif defined(CALVEX_FEW_INSTRUCTION_SETS)
+#define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_SSE4 | HWY_AVX3 | HWY_AVX3_DL)
 #else
 #define HWY_DISABLED_TARGETS (HWY_SSSE3 | HWY_AVX3_DL)
 #endif
