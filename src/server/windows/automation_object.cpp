@@ -116,7 +116,10 @@ ULONG AutomationObject::Inner::AddRef() { return ++object_.references_; }
 
 ULONG AutomationObject::Inner::Release() {
   const ULONG left = --object_.references_;
-  if (left == 0) delete &object_;
+  if (left == 0) {
+    const Turn turn;  // the last object resets the engine
+    delete &object_;
+  }
   return left;
 }
 

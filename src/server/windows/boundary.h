@@ -52,6 +52,18 @@ class FloatingPointScope {
 #endif
 };
 
+/// A caller's turn. The engine serves one thread at a time, whatever apartments the callers live
+/// in: the system lets those of several apartments call side by side. The thread whose turn it is
+/// may come again, out of the messages of a dialog or from its units server. The others wait, and
+/// go on answering the calls that reach their apartments, where that units server may live.
+class Turn {
+ public:
+  Turn() noexcept;
+  ~Turn();
+  Turn(const Turn&) = delete;
+  Turn& operator=(const Turn&) = delete;
+};
+
 /// Leaves a description of the failure for clients that ask for one, and answers the result.
 HRESULT report(HRESULT result, const wchar_t* description) noexcept;
 
@@ -67,6 +79,7 @@ HRESULT noPlaceForResult() noexcept;
 /// Runs the body of a function that a client called.
 template <class Body>
 HRESULT atBoundary(Body&& body) noexcept {
+  const Turn turn;
   const FloatingPointScope arithmetic;
   try {
     return body();

@@ -35,6 +35,7 @@ std::vector<Entry> entries(const std::wstring& modulePath) {
       {program, L"", description},
       {program + L"\\CLSID", L"", clsid},
       {anyVersion, L"", description},
+      {anyVersion + L"\\CLSID", L"", clsid},
       {anyVersion + L"\\CurVer", L"", program},
       {key, L"", description},
       {key + L"\\ProgID", L"", program},

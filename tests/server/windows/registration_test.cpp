@@ -164,6 +164,7 @@ class Registration : public testing::Test {
         {root + L"\\calvex32.zvcalvex.3|", L"ZvCalvex Class"},
         {root + L"\\calvex32.zvcalvex.3\\clsid|", id},
         {root + L"\\calvex32.zvcalvex|", L"ZvCalvex Class"},
+        {root + L"\\calvex32.zvcalvex\\clsid|", id},
         {root + L"\\calvex32.zvcalvex\\curver|", L"Calvex32.ZvCalvex.3"},
         {key + L"|", L"ZvCalvex Class"},
         {key + L"\\progid|", L"Calvex32.ZvCalvex.3"},

@@ -3,6 +3,10 @@
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <atomic>
+#include <functional>
+#include <future>
+#include <thread>
 
 #include "client.h"
 #include "support/table.h"
@@ -18,6 +22,7 @@ class UnitsServer final : public ClientObject {
   explicit UnitsServer(Log& log) : log_(log) {}
   DISPID refused = 0;  ///< the member that answers false, with status 7
   VARIANT_BOOL shown = VARIANT_TRUE;
+  std::function<void()> during = [] {};  ///< what else happens in each call
 
   HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* given,
                                    VARIANT* result, EXCEPINFO*, UINT*) override {
@@ -26,6 +31,7 @@ class UnitsServer final : public ClientObject {
     std::string call = fmt::format("{}:", id);
     for (UINT i = given->cArgs; i-- > 0;) call += fmt::format(" {}", text(given->rgvarg[i]));
     log_.push_back(call);
+    during();
     const bool accepted = id != refused;
     for (UINT i = 0; i < given->cArgs; ++i) answer(id, accepted, given->rgvarg[i], *given);
     if (result != nullptr && id != 29) {  // which answers nothing
@@ -323,6 +329,63 @@ TEST_F(UnitsMode, TheLastObjectReleasesTheServer) {
   steam = makeObject();
   EXPECT_EQ(mode(), 2);
   EXPECT_EQ(log, Log());
+}
+
+/// Answers 42.
+class Answering final : public ClientObject {
+ public:
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result,
+                                   EXCEPINFO*, UINT*) override {
+    result->vt = VT_I4;
+    result->lVal = 42;
+    return S_OK;
+  }
+};
+
+// Both would wait for ever otherwise: what a units server needs may live in the other's apartment.
+TEST_F(UnitsMode, ACallerThatWaitsForItsTurnAnswersTheOneWhoseTurnItIs) {
+  enter();
+  std::promise<IStream*> made;
+  std::atomic<bool> inside = false, hadItsTurn = false;
+  std::atomic<DWORD> otherThread = 0;
+  std::thread other([&] {
+    const Apartment its;
+    Answering object;
+    const Ref<IZvCalvex> own = makeObject();
+    otherThread = GetCurrentThreadId();
+    IStream* stream = nullptr;
+    EXPECT_EQ(CoMarshalInterThreadInterfaceInStream(IID_IDispatch, &object, &stream), S_OK);
+    made.set_value(stream);
+    MSG message;
+    while (!inside) {
+      while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE) != FALSE) DispatchMessageW(&message);
+      Sleep(1);
+    }
+    short iterations = 0;
+    EXPECT_EQ(own->get_SolverIter(&iterations), S_OK);
+    hadItsTurn = true;
+    while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
+    CoDisconnectObject(&object, 0);
+  });
+  Ref<IDispatch> proxy;
+  EXPECT_EQ(CoGetInterfaceAndReleaseStream(made.get_future().get(), IID_IDispatch, proxy.putVoid()),
+            S_OK);
+  ASSERT_TRUE(proxy);
+  LateCall answer;
+  units.during = [&] {
+    if (inside.exchange(true)) return;
+    Sleep(300);  // the other comes, and waits
+    answer = invoke(*proxy, 7, DISPATCH_METHOD, {});
+    EXPECT_FALSE(hadItsTurn);
+  };
+  HPT(2 * 0.9934, 2 * 468.79);
+  EXPECT_EQ(answer.result, S_OK);
+  EXPECT_EQ(answer.value.lVal, 42);
+  units.during = [] {};
+  proxy.reset();
+  PostThreadMessageW(otherThread, WM_QUIT, 0, 0);
+  other.join();
+  EXPECT_TRUE(hadItsTurn);
 }
 
 TEST_F(UnitsMode, AServerThatRefusesItsSetUpIsNone) {
