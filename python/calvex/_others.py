@@ -6,13 +6,16 @@ import numpy as np
 from . import _calvex
 from ._members import members
 from ._results import Results
-from .units import Value
+from . import units as _units
+from ._value import Value
 
 
 def call(binding, ufunc, arguments, words):
     """The result, or NotImplemented where NumPy finds the way by itself."""
-    if words.get("unit"):
-        return _with_unit(binding, ufunc, arguments, {**words, "unit": False})
+    if "unit" in words:
+        unit = words["unit"]
+        rest = {name: value for name, value in words.items() if name != "unit"}
+        return _with_unit(binding, ufunc, arguments, rest, unit)
     pint = sys.modules.get("pint")
     if pint is not None and any(isinstance(argument, pint.Quantity) for argument in arguments):
         from ._pint import call as call_pint
@@ -33,24 +36,71 @@ def call(binding, ufunc, arguments, words):
             # pandas aligns several series, but not while there is anything else among them.
             return ufunc(*(a if isinstance(a, pandas.Series) else pandas.Series(a, series[0].index)
                            for a in arguments), **words)
+    if (len(arguments) == ufunc.nin and "where" not in words
+            and any(isinstance(a, np.ma.MaskedArray) for a in arguments)):
+        return _masked(ufunc, arguments, words)
     if "out" in words:
         return _into(ufunc, arguments, words)
     return NotImplemented
 
 
-def _with_unit(binding, ufunc, arguments, words):
+def _with_unit(binding, ufunc, arguments, words, unit):
+    """unit=True: with the engine's unit; a unit's name, or names by result: in that unit."""
+    outputs = members.row(binding.name).outputs
+    wanted = _wanted_units(binding.name, outputs, unit)
     result = ufunc(*arguments, **words)
+    if wanted is None:
+        return result
     if isinstance(result, Results):
-        return type(result)(tuple(result.value(name) for name in result._fields))
-    group = members.row(binding.name).outputs[0].group
-    return Value(result, _calvex.unit(binding.core, group) if group >= 0 else "", group)
+        values = {name: result.value(name) for name in result._fields}
+        return type(result)(value.to(wanted[name]) if name in wanted else value
+                            for name, value in values.items())
+    group = outputs[0].group
+    value = Value(result, _calvex.unit(binding.core, group) if group >= 0 else "", group)
+    return value.to(wanted[outputs[0].name]) if wanted else value
+
+
+def _wanted_units(name, outputs, unit):
+    """Units by result; none of them: the engine's; None: bare numbers."""
+    if unit is None or isinstance(unit, (bool, np.bool_)):
+        return {} if unit else None
+    groups = {slot.name: slot.group for slot in outputs}
+    if isinstance(unit, str) and len(groups) == 1:
+        unit = {outputs[0].name: unit}
+    if isinstance(unit, str):
+        raise ValueError(f"{name} has several results, and {unit!r} cannot be the unit of all: "
+                         f"unit=True, or {{{outputs[0].name!r}: {unit!r}}}")
+    if not isinstance(unit, dict):
+        raise TypeError(f"unit is True, the name of a unit or names by result, not {unit!r}")
+    for result, wanted in unit.items():
+        if result not in groups:
+            raise ValueError(f"{name} has no result {result!r}; it has {', '.join(groups)}")
+        if groups[result] < 0:
+            raise ValueError(f"{result} of {name} is a number without a unit")
+        _units.find(groups[result], wanted)
+    return unit
+
+
+def _masked(ufunc, arguments, words):
+    """What is masked is not computed and stays masked."""
+    mask = np.logical_or.reduce(np.broadcast_arrays(*map(np.ma.getmaskarray, arguments)))
+    plain = [np.ma.getdata(argument) for argument in arguments]
+    outs = tuple(np.full(mask.shape, np.nan) for _ in range(ufunc.nout))
+    results = ufunc(*plain, **{"out": outs, **words}, where=~mask)
+    if "out" in words:
+        return results
+    if ufunc.nout == 1:
+        return np.ma.array(results, mask=mask)
+    return type(results)(np.ma.array(result, mask=mask) for result in results)
 
 
 def _in_units(binding, arguments):
     for slot, argument in zip(members.row(binding.name).inputs, arguments):
-        if isinstance(argument, Value) and slot.group >= 0:
-            argument = argument.to(_calvex.unit(binding.core, slot.group)).value
+        if isinstance(argument, Value):
+            unit = _calvex.unit(binding.core, slot.group) if slot.group >= 0 else ""
+            argument = argument.number_in(slot.group, unit)
         yield argument
+    yield from arguments[len(members.row(binding.name).inputs):]
 
 
 def _into(ufunc, arguments, words):

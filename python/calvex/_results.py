@@ -3,11 +3,18 @@ import functools
 import html
 from operator import itemgetter
 
-from .units import Value
+from ._value import Value
 
 
 def number_text(value):
     return f"{value:.10g}" if isinstance(value, (int, float)) else str(value)
+
+
+def with_unit(value, unit):
+    """A result and its unit; one that has a unit already stays."""
+    if isinstance(value, Value):
+        value, unit = value.value, value.unit
+    return f"{number_text(value)} {'' if hasattr(value, 'units') else unit}".rstrip()
 
 
 def table_html(rows, title=""):
@@ -34,16 +41,21 @@ class Results(tuple):
 
     def __repr__(self):
         def row(name, value):
-            return f"{name}={number_text(value)} {self.units[name]}".rstrip()
+            return f"{name}={with_unit(value, self.units[name])}"
         return f"{self._member}({', '.join(map(row, self._fields, self))})"
 
     def value(self, name):
         """A result with its unit."""
+        if name not in self._fields:
+            raise AttributeError(f"{self._member} has no result {name!r}; it has "
+                                 + ", ".join(self._fields))
         i = self._fields.index(name)
+        if isinstance(self[i], Value):
+            return self[i]
         return Value(self[i], self.units[name], self._groups[i])
 
     def _repr_html_(self):
-        return table_html([(name, number_text(value), self.units[name], "")
+        return table_html([(name, with_unit(value, self.units[name]), "", "")
                            for name, value in self._asdict().items()], self._member)
 
     def __reduce__(self):

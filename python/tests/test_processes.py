@@ -32,7 +32,7 @@ def test_engines_are_copied_with_units_and_settings(again):
 def test_members_results_and_states_are_pickled(steam):
     for thing in (steam.HPT, calvex.HPT):
         again = pickle.loads(pickle.dumps(thing))
-        assert type(again) is np.ufunc and again(50, 500) == thing(50, 500)
+        assert isinstance(again, np.ufunc) and again(50, 500) == thing(50, 500)
     assert pickle.loads(pickle.dumps(np.add)) is np.add
     assert pickle.loads(pickle.dumps(steam.SetUserUnit)).__name__ == "SetUserUnit"
     work = steam.TurbineA(3374, 100, 10, 0.8, 5)
