@@ -6,7 +6,6 @@ import types
 
 from . import _calvex, units as _units
 from ._members import call_text, docstring, members, signature
-from ._misuse import misuse, wrong_count
 from ._others import call as others
 from ._results import result_type
 
@@ -161,6 +160,7 @@ class Method:
             raise TypeError(f"{call_text(self.__name__)} takes its arguments by their place, without "
                             "their names")
         if len(arguments) != len(self.__signature__.parameters):
+            from ._misuse import wrong_count
             raise TypeError(wrong_count(self.__name__, len(arguments)))
         named, choice = _named_units(self.__name__, arguments)
         if choice is not None:  # a unit that the catalogue may lack
@@ -265,8 +265,13 @@ def _doc(binding):
                      "calvex" if binding.core is default._core else "engine")
 
 
+def _misuse(binding, ufunc, arguments, words):
+    from ._misuse import misuse
+    return misuse(binding, ufunc, arguments, words)
+
+
 _calvex.set_hooks(types.SimpleNamespace(
-    others=others, misuse=misuse, result_type=_result_type, doc=_doc,
+    others=others, misuse=_misuse, result_type=_result_type, doc=_doc,
     signature=lambda binding: signature(binding.name)))
 os.register_at_fork(before=_calvex.before_fork, after_in_parent=_calvex.after_fork,
                     after_in_child=_calvex.after_fork)

@@ -50,6 +50,8 @@ def _wrong_count(name, ufunc, arguments):
 
 def _wrong_kinds(name, arguments):
     for word, argument in zip(input_names(name), arguments):
+        if hasattr(argument, "magnitude") or hasattr(argument, "compute"):
+            continue  # pint's and dask's have words of their own
         wanted = f"{call_text(name)}: {word} is to be a number or an array of numbers"
         if argument is None or isinstance(argument, (str, bytes, complex, dict, set)):
             return f"{wanted}, not {argument!r}"

@@ -1,6 +1,5 @@
 """Named tuples with units: what members with several results answer."""
 import functools
-import html
 from operator import itemgetter
 
 from ._value import Value
@@ -19,6 +18,7 @@ def with_unit(value, unit):
 
 def table_html(rows, title=""):
     """Rows of (name, value, unit, words)."""
+    import html  # for notebooks only
     cells = "".join(
         "<tr>" + "".join(f"<td style='text-align:{side}'>{html.escape(str(text))}</td>"
                          for side, text in zip(("left", "right", "left", "left"), row)) + "</tr>"

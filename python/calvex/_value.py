@@ -1,5 +1,4 @@
 """A number, or an array of them, with its unit."""
-from dataclasses import dataclass
 from typing import Any
 
 import numpy as np
@@ -13,7 +12,6 @@ _DIFFERENCES = {0: 25, 1: 26}
 _SCALES_AND_DIFFERENCES = {*_DIFFERENCES, *_DIFFERENCES.values()}
 
 
-@dataclass(frozen=True, slots=True, repr=False, eq=False)
 class Value:
     """A number, or an array of them, with its unit.
 
@@ -28,17 +26,25 @@ class Value:
     NumPy's functions see the bare number.
     """
 
+    __slots__ = ("value", "unit", "group")
     value: Any
-    unit: str = ""
-    group: Any = -1  # a number, or a word for it
+    unit: str
+    group: int
 
     __array_priority__ = 100  # array + value is the value's to answer
 
-    def __post_init__(self):
-        if not isinstance(self.group, int):
-            number = _units.group(self.group)
-            object.__setattr__(self, "group", number)
-            object.__setattr__(self, "unit", _units.find(number, self.unit).name)
+    def __init__(self, value, unit="", group=-1):
+        if not isinstance(group, int):
+            group = _units.group(group)
+            unit = _units.find(group, unit).name
+        for name, content in (("value", value), ("unit", unit), ("group", group)):
+            object.__setattr__(self, name, content)
+
+    def __setattr__(self, name, value):
+        raise AttributeError(f"a value stays as it is: {name} cannot be set")
+
+    def __reduce__(self):
+        return Value, (self.value, self.unit, self.group)
 
     def to(self, unit):
         """The same in another unit."""

@@ -119,6 +119,27 @@ class TestPint:
         state = steam.state(P=self.quantity(10, "MPa"), T=self.quantity(500, "degC"))
         assert state.h == pytest.approx(steam.HPT(100, 500))
 
+    GAS_TURBINE = (5000, 0.3, 15, 520, 40, 400, 105, 4)
+
+    @pytest.mark.parametrize("unit", ["C", "F", "K", "R"])
+    def test_differences_of_temperatures_are_not_counted_from_0_kelvin(self, unit):
+        engine = calvex.Engine(T="C", P="bar", DT=unit)
+        expected = calvex.Engine(T="C", P="bar").GasTurbineA(*self.GAS_TURBINE, 15, 0.03)
+        for least in (self.quantity(15, "delta_degC"), self.quantity(27, "delta_degF"),
+                      self.quantity(15, "kelvin")):
+            result = engine.GasTurbineA(*self.GAS_TURBINE, least, 0.03)
+            assert result.M_BaseLoad.magnitude == pytest.approx(expected.M_BaseLoad, rel=1e-9)
+        with pytest.raises(TypeError, match="is a temperature and no difference"):
+            engine.GasTurbineA(*self.GAS_TURBINE, self.quantity(15, "degC"), 0.03)
+        with pytest.raises(TypeError, match="is a difference of temperatures and no temperature"):
+            engine.HPT(100, self.quantity(500, "delta_degC"))
+        with pytest.raises(TypeError, match="is a difference"):
+            engine.state(P=100, T=self.quantity(500, "delta_degC"))
+
+    def test_results_of_quantities_are_printed_with_their_unit_once(self, steam):
+        work = steam.TurbineA(self.quantity(3374, "kJ/kg"), 100, 10, 0.8, 5)
+        assert "2364.95" in repr(work) and "kilowatt" in repr(work) and " kW" not in repr(work)
+
     def test_every_model_unit_has_its_quantity(self):
         from calvex import _members, _pint
         for group, row in enumerate(_members.groups()):

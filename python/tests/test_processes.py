@@ -164,7 +164,7 @@ def _fail(engine):
 
 
 LEAKS = {
-    "a million scalar calls": (1_000_000, lambda e: e.XT(100.0)),
+    "a million scalar calls": (1_000_000, lambda e: e.HPT(100.0, 500.0)),
     "named tuples": (100_000, lambda e: e.QTS_PH(10, 3000)),
     "failures": (30_000, _fail),
     "arrays": (3_000, lambda e: e.XT(np.linspace(10, 300, 100))),
@@ -172,6 +172,11 @@ LEAKS = {
     "grids": (30, lambda e: e.XT(np.full((200, 300), 20.0).T)),
     "engines with members": (300, lambda e: calvex.Engine(T="F").XT(100)),
     "states": (10_000, lambda e: e.state(P=100, T=500).w),
+    "states that fail": (3_000, lambda e: e.state(P=100, h=[9000, 2800], errors="ignore").reasons()),
+    "failures with causes": (3_000, lambda e: e.TPH(100, [9000.0, 2800.0], errors="ignore")),
+    "units that change": (300, lambda e: (e.SetUserUnit("T", "C"), e.state(P=100, T=500))),
+    "values and their sums": (10_000, lambda e: e.XT(100, unit=True) + e.XT(100, unit=True)),
+    "signatures and help": (1_000, lambda e: (e.HPT.__doc__, e.HPT.__signature__)),
     "pickles": (300, lambda e: pickle.loads(pickle.dumps(e)).XT(100)),
     "values": (10_000, lambda e: e.XT(100, unit=True)),
     "traces": (1_000, lambda e: str(e.trace())),
