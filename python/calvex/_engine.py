@@ -36,8 +36,15 @@ class Engine:
             raise TypeError('units are chosen by their quantity: Engine(T="°C", P="bar")')
         self.__dict__["_core"] = _calvex.Core()
         self.errors = errors
-        for group, unit in {**(units or {}), **words}.items():
-            _choose(self._core, _units.group(group), _units.find(group, unit))
+        if not isinstance(units, (dict, type(None))):
+            raise TypeError(f'units is a dictionary such as {{"T": "°C"}}, not {units!r}')
+        chosen = {}
+        for word, unit in [*(units or {}).items(), *words.items()]:
+            number = _units.group(word)
+            if number in chosen:
+                raise ValueError(f"{chosen[number]} and {word} are the same quantity: one unit")
+            chosen[number] = word
+            _choose(self._core, number, _units.find(number, unit))
 
     # Members ------------------------------------------------------------------------------------
 

@@ -50,7 +50,7 @@ class Members:
 
     def __call__(self, *words):
         """Names of the members whose name or explanation has all these words."""
-        wanted = [word.lower() for part in words for word in part.split()]
+        wanted = [word.lower() for part in words for word in str(part).split()]
         found = []
         for name in self.rows:
             text = f"{name} {explain(name)['title']}".lower() if wanted else ""

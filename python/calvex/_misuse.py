@@ -80,6 +80,8 @@ def _wrong_shapes(name, ufunc, arguments, words):
                 + ", ".join(f"{word} {shape}" for word, shape in shapes.items() if shape))
     out = words.get("out", arguments[ufunc.nin:])
     for target in out if isinstance(out, tuple) else (out,):
+        if isinstance(target, (list, int, float, str)):
+            return f"{call_text(name)}: out is an array that takes the result, not {target!r}"
         if target is not None and np.shape(target) != result:
             return f"{call_text(name)}: out has shape {np.shape(target)}, the result {result}"
     return None

@@ -41,7 +41,21 @@ def call(binding, ufunc, arguments, words):
         return _masked(ufunc, arguments, words)
     if "out" in words:
         return _into(ufunc, arguments, words)
+    if "where" in words and len(arguments) == ufunc.nin and not any(
+            hasattr(type(argument), "__array_ufunc__") and not isinstance(argument, _NUMPYS)
+            for argument in arguments):
+        return _with_nan(ufunc, arguments, words)
     return NotImplemented
+
+
+_NUMPYS = (np.ndarray, np.generic)
+
+
+def _with_nan(ufunc, arguments, words):
+    """What is not computed is NaN, and not whatever stood in the memory."""
+    shape = np.broadcast_shapes(*map(np.shape, (*arguments, words["where"])))
+    outs = tuple(np.full(shape, np.nan) for _ in range(ufunc.nout))
+    return ufunc(*arguments, **words, out=outs)
 
 
 def _with_unit(binding, ufunc, arguments, words, unit):
@@ -85,8 +99,7 @@ def _masked(ufunc, arguments, words):
     """What is masked is not computed and stays masked."""
     mask = np.logical_or.reduce(np.broadcast_arrays(*map(np.ma.getmaskarray, arguments)))
     plain = [np.ma.getdata(argument) for argument in arguments]
-    outs = tuple(np.full(mask.shape, np.nan) for _ in range(ufunc.nout))
-    results = ufunc(*plain, **{"out": outs, **words}, where=~mask)
+    results = ufunc(*plain, **words, where=~mask)
     if "out" in words:
         return results
     if ufunc.nout == 1:

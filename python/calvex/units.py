@@ -24,7 +24,9 @@ class Unit(NamedTuple):
 
 def group(word):
     """The number of a quantity by its letter, name or a common word: "T", "pressure", "flow"."""
-    if isinstance(word, int) and 0 <= word < len(groups()):
+    if isinstance(word, int):
+        if not 0 <= word < len(groups()):
+            raise ValueError(f"there is no quantity number {word}: they are 0 to {len(groups()) - 1}")
         return word
     if not isinstance(word, str):
         raise TypeError(f"a quantity is a text such as \"T\" or \"pressure\", not {word!r}")
@@ -66,8 +68,10 @@ def find(word, unit):
 def convert(word, value, given, wanted):
     """A number or an array of a quantity from one unit to another."""
     a, b = find(word, given), find(word, wanted)
+    if isinstance(value, (list, tuple)):
+        value = np.asarray(value)
+    if value is None or isinstance(value, (str, bytes)) or getattr(value, "dtype", None) == object:
+        raise TypeError(f"a number or an array of numbers is converted, not {value!r}")
     if a == b:
         return value
-    if not isinstance(value, (int, float)):
-        value = np.asarray(value) if isinstance(value, (list, tuple)) else value
     return (value + a.offset) * a.factor / b.factor - b.offset

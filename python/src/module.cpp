@@ -96,7 +96,14 @@ bool importNumPy() { return _import_array() >= 0 && _import_umath() >= 0; }
 PyMODINIT_FUNC PyInit__calvex();   // NOLINT(bugprone-reserved-identifier)
 PyMODINIT_FUNC PyInit__calvex() {  // NOLINT(bugprone-reserved-identifier)
   using namespace calvex::python;
-  if (!importNumPy()) return nullptr;
+  if (!importNumPy()) {
+    if (PyErr_ExceptionMatches(PyExc_ModuleNotFoundError) != 0) {
+      PyErr_SetString(PyExc_ImportError,
+                      "calvex computes with NumPy, which this Python does not have: apt install "
+                      "python3-numpy, or pip install 'numpy<2'");
+    }
+    return nullptr;
+  }
   Ref module(PyModule_Create(&definition));
   if (!module || !addCore(module.get()) || !addBinding(module.get()) ||
       PyModule_AddStringConstant(module.get(), "version", CALVEX_VERSION) < 0) {

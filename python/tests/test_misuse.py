@@ -25,7 +25,14 @@ WRONG_CALLS = [
     (lambda e: e.SetUserUnit(groupStr="T", newVal="C"), TypeError, "without their names"),
     (lambda e: e.SetUserUnit("T", "Grad"), ValueError, "'Grad' is not a unit .*Units: C, F, K, R"),
     (lambda e: e.SetUserUnit("colour", "C"), ValueError, "no quantity with a unit; there are T, P"),
-    (lambda e: e.SetUserUnitIndex(99, "C"), TypeError, "a quantity is a text such as"),
+    (lambda e: e.SetUserUnitIndex(99, "C"), ValueError, "no quantity number 99: they are 0 to 26"),
+    (lambda e: calvex.units.names(None), TypeError, "a quantity is a text such as"),
+    (lambda e: calvex.Engine(T="C", temperature="K"), ValueError, "T and temperature are the same"),
+    (lambda e: calvex.Engine(units={"T": "C"}, t="K"), ValueError, "T and t are the same quantity"),
+    (lambda e: calvex.Engine(units=3), TypeError, "units is a dictionary"),
+    (lambda e: calvex.convert("P", "a", "psia", "bara"), TypeError, "is converted, not 'a'"),
+    (lambda e: calvex.convert("P", [1, None], "psia", "bara"), TypeError, "is converted, not"),
+    (lambda e: e.HPT([1, 2], 500, out=[0, 0]), TypeError, "out is an array that takes the result"),
     (lambda e: calvex.Engine("C"), TypeError, r'Engine\(T="°C", P="bar"\)'),
     (lambda e: calvex.Engine(T=3), TypeError, "one of C, F, K, R, not 3"),
     (lambda e: e.state(100, 500), TypeError, r"with their names: state\(P=10, T=773.15\)"),
@@ -118,3 +125,18 @@ def test_what_is_masked_is_not_computed(steam):
     assert state.phase.tolist() == ["supercritical", None, "supercritical"]
     with pytest.warns(calvex.CalvexWarning, match="failed for 1 of"):
         assert np.isnan(steam.HPT(np.ma.array([100.0, -5.0], mask=[True, False]), 500)[1])
+
+
+def test_what_is_not_computed_is_nan(steam):
+    """NumPy would leave what stood in the memory."""
+    used = np.full(1000, 7.0)
+    del used
+    h = steam.HPT(np.full(1000, 100.0), 500, where=np.arange(1000) % 2 == 0)
+    assert np.isnan(h[1::2]).all() and not np.isnan(h[::2]).any()
+    assert np.isnan(steam.HPT(100, 500, where=False))
+    work = steam.TurbineA([3374, 3374], 100, 10, 0.8, 5, where=[True, False])
+    assert all(np.isnan(column).tolist() == [False, True] for column in work)
+    assert work.units["Power"] == "kW"
+    out = np.array([-1.0, -1.0])
+    steam.HPT(100, [500, 500], out=out, where=[True, False])
+    assert out[1] == -1

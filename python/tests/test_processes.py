@@ -209,6 +209,14 @@ def test_a_library_that_is_absent_is_no_obstacle():
     assert scalar == pytest.approx(array) == pytest.approx(3373.998, abs=1e-3)
 
 
+def test_without_numpy_it_says_what_is_missing():
+    program = "import sys\nsys.modules['numpy'] = None\nimport calvex\ncalvex.HPT(10, 773.15)"
+    run = subprocess.run([sys.executable, "-c", program], capture_output=True, text=True,
+                         env={**os.environ, "PYTHONPATH": str(PACKAGE)}, cwd=ROOT)
+    assert run.returncode == 1 and run.stderr.splitlines()[-1].startswith(
+        "ImportError: calvex computes with NumPy, which this Python does not have: apt install")
+
+
 # Prints the most threads that there are while an array is computed, beside the one that counts.
 THREADS = """
 import os, threading, numpy, calvex
