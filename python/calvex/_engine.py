@@ -90,7 +90,7 @@ class Engine:
             s.h, s.s, s.rho, s.x, s.phase, s.w
 
         The pair: P with T, h, s, u, rho, v or x; T with h, s, u, rho, v or x; h with s. Capital
-        letters do as well. Its phase is "liquid", "vapour", "two-phase" or, above the critical
+        letters do as well, and words: state(pressure=100, temperature=500). Its phase is "liquid", "vapour", "two-phase" or, above the critical
         temperature or the critical pressure, "supercritical".
         """
         if unnamed:

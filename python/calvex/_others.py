@@ -1,4 +1,6 @@
 """Calls with arguments that are neither numbers nor arrays of them, and with words for results."""
+import functools
+import numbers
 import sys
 
 import numpy as np
@@ -22,8 +24,18 @@ def call(binding, ufunc, arguments, words):
         return call_pint(binding, ufunc, arguments, words)
     if any(isinstance(argument, Value) for argument in arguments):
         return ufunc(*_in_units(binding, arguments), **words)
+    if any(_is_exact(argument) for argument in arguments):
+        return ufunc(*(float(a) if _is_exact(a) else a for a in arguments), **words)
     dask = sys.modules.get("dask.array")
-    if dask is not None and ufunc.nout > 1 and any(isinstance(a, dask.Array) for a in arguments):
+    if dask is not None and any(isinstance(a, dask.Array) for a in arguments):
+        # When the blocks are computed nobody else remembers the policy of this call.
+        policy = words.get("errors") or _calvex.errors_of_call()
+        if policy is not None:
+            words = {**words, "errors": policy}
+        if ufunc.nout == 1:
+            if policy is None or len(arguments) != ufunc.nin or len(words) > 1:
+                return NotImplemented
+            return dask.core.elemwise(functools.partial(ufunc, **words), *arguments, dtype=float)
         # dask maps functions with several results over blocks by their signature only.
         signature = ",".join(["()"] * ufunc.nin) + "->" + ",".join(["()"] * ufunc.nout)
         results = dask.apply_gufunc(ufunc, signature, *arguments,
@@ -56,6 +68,12 @@ def _with_nan(ufunc, arguments, words):
     shape = np.broadcast_shapes(*map(np.shape, (*arguments, words["where"])))
     outs = tuple(np.full(shape, np.nan) for _ in range(ufunc.nout))
     return ufunc(*arguments, **words, out=outs)
+
+
+def _is_exact(argument):
+    """Decimals and fractions."""
+    return (isinstance(argument, numbers.Number)
+            and not isinstance(argument, (int, float, complex, np.generic)))
 
 
 def _with_unit(binding, ufunc, arguments, words, unit):

@@ -39,8 +39,8 @@ def _refuse(value):
 def _of_xarray(xarray, values):
     """By the names of their dimensions; a bare array has those of the one that it fits."""
     like = next(v for v in values if isinstance(v, xarray.DataArray))
-    named = [v if isinstance(v, xarray.DataArray) else
-             like.copy(data=np.broadcast_to(_numbers(v), like.shape)) for v in values]
+    named = [v if isinstance(v, xarray.DataArray) else like.copy(data=_spread(v, like.shape))
+             for v in values]
     named = xarray.broadcast(*xarray.align(*named, join="inner"))
 
     def dress(array):
@@ -63,8 +63,22 @@ def _of_pandas(pandas, values):
         if isinstance(like, pandas.Series):
             return pandas.Series(array, like.index)
         return pandas.DataFrame(array, like.index, like.columns)
-    return [v.to_numpy(float) if isinstance(v, kinds) else np.broadcast_to(_numbers(v), like.shape)
-            for v in values], dress
+    return [_column(v) if isinstance(v, kinds) else _spread(v, like.shape) for v in values], dress
+
+
+def _column(series):
+    try:
+        return series.to_numpy(float, na_value=np.nan)
+    except (TypeError, ValueError):
+        return _refuse(series)
+
+
+def _spread(value, shape):
+    value = _numbers(value)
+    try:
+        return np.broadcast_to(value, shape)
+    except ValueError:
+        raise ValueError(f"arrays of these shapes do not go together: {value.shape}, {shape}") from None
 
 
 def _of_masked(values):

@@ -40,12 +40,14 @@ OF_MIXTURES = ("P", "T", "h", "s", "u", "rho", "v", "x")
 PAIRS = ("PT", "PH", "PS", "PU", "PR", "PV", "TH", "TS", "TU", "TR", "TV", "PQ", "TQ", "HS")
 # As the extension numbers them; the last: -1, none.
 PHASES = np.array(["liquid", "vapour", "supercritical", "two-phase", ""])
-_LETTERS = {name: row[0] for name, row in PROPERTIES.items()} | {"r": "R", "q": "Q"}
+_LETTERS = ({name: PROPERTIES[name][0] for name in OF_MIXTURES} | {"r": "R", "q": "Q"}
+            | {PROPERTIES[name][2].replace(" ", "_"): PROPERTIES[name][0] for name in OF_MIXTURES}
+            | {"quality": "Q"})
 
 
 def _letter(name):
-    letter = _LETTERS.get(name) or _LETTERS.get(name.lower()) or name.upper()
-    if letter not in "PTHSURVQ" or len(letter) > 1:
+    letter = _LETTERS.get(name) or _LETTERS.get(name.lower(), name.upper())
+    if letter not in _LETTERS.values():
         raise TypeError(f"a state is given by two of {', '.join(OF_MIXTURES)}; {name!r} is none")
     return letter
 

@@ -3,6 +3,7 @@
 #include "numpy_api.h"
 // The two tables of NumPy's interface are filled above all else.
 #include "binding.h"
+#include "failures.h"
 #include "functions.h"
 #include "server/member_explanations.h"
 
@@ -49,10 +50,17 @@ PyObject* afterFork(PyObject* /*module*/, PyObject* /*none*/) {
   Py_RETURN_NONE;
 }
 
+// Of the call that this one is inside of; else None.
+PyObject* errorsOfCall(PyObject* /*module*/, PyObject* /*none*/) {
+  const Failures* const call = Failures::current();
+  return errorsText(call == nullptr ? Errors::byKind : call->errors()).release();
+}
+
 PyMethodDef functions[] = {
     {"ufunc", makeUfunc, METH_VARARGS, "ufunc(core, member): a member as a NumPy ufunc."},
     {"binding", bindingOfUfunc, METH_O, "binding(ufunc): its member and engine; None for others."},
     {"set_hooks", setHooks, METH_O, "set_hooks(object): see binding.h."},
+    {"errors_of_call", errorsOfCall, METH_NOARGS, "The policy of the call that is running."},
     {"check_errors", checkErrors, METH_O, "check_errors(policy): itself, if it is one."},
     {"before_fork", beforeFork, METH_NOARGS, "Waits for all engines and holds them."},
     {"after_fork", afterFork, METH_NOARGS, "Lets them go, in both processes."},

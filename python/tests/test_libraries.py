@@ -1,4 +1,7 @@
 """pandas, xarray, dask and pint take members as they are."""
+import decimal
+import fractions
+
 import calvex
 import numpy as np
 import pytest
@@ -74,6 +77,43 @@ def test_dask_tells_engines_apart(steam):
     assert len({array.name for array in lazy.values()}) == 3
     values = {unit: array.compute() for unit, array in lazy.items()}
     assert values["K"] - values["C"] == pytest.approx([273.15, 273.15])
+
+
+def test_the_policy_of_a_call_is_that_of_its_blocks(recwarn):
+    P = dask_array.from_array(np.array([100.0, -50.0]), chunks=1)
+    named = xarray.DataArray(P, dims="t")
+    for given in (P, named):
+        lazy = calvex.Engine(T="C").HPT(given, 500, errors="ignore")
+        assert np.isnan(np.asarray(lazy.compute())).tolist() == [False, True]
+        lazy = calvex.Engine(T="C", errors="ignore").HPT(given, 500)
+        assert np.isnan(np.asarray(lazy.compute())).tolist() == [False, True]
+        assert not recwarn.list
+        with pytest.raises(calvex.CalvexError):
+            calvex.Engine(T="C").HPT(given, 500, errors="raise").compute()
+        with pytest.raises(calvex.CalvexError):
+            calvex.Engine(T="C", errors="raise").HPT(given, 500).compute()
+    grid = calvex.HPT(P, dask_array.from_array(np.array([[500.0], [400.0]])), errors="ignore")
+    assert grid.compute().shape == (2, 2)
+
+
+def test_decimals_and_fractions_are_numbers(steam):
+    h = steam.HPT(100, 500)
+    assert steam.HPT(decimal.Decimal("100"), 500) == h == steam.HPT(fractions.Fraction(100), 500)
+    assert steam.HPT(decimal.Decimal(100), [500])[0] == pytest.approx(h, rel=1e-10)
+    assert steam.state(P=decimal.Decimal(100), T=500).h == pytest.approx(h, rel=1e-10)
+
+
+def test_columns_with_gaps(steam):
+    P = pandas.Series([100, None], dtype="Int64")
+    assert steam.HPT(P, 500).isna().tolist() == [False, True]
+    assert steam.state(P=P, T=500, errors="ignore").h.isna().tolist() == [False, True]
+    for wrong in (lambda: steam.state(P=pandas.Series(["a", 3]), T=500),
+                  lambda: steam.HPT(pandas.Series(["a", 3]), 500)):
+        with pytest.raises(TypeError, match="numbers"):
+            wrong()
+    for like in (pandas.Series([1.0, 2.0]), xarray.DataArray([1.0, 2.0], dims="t")):
+        with pytest.raises(ValueError, match="do not go together"):
+            steam.state(P=like, T=[500, 500, 500])
 
 
 def test_equipment_of_dask_arrays(steam):

@@ -122,6 +122,17 @@ def test_any_pair_gives_the_state(steam, pair):
     assert again.phase == "supercritical"
 
 
+def test_words_name_the_properties_of_a_pair(steam):
+    h = steam.state(P=100, T=500).h
+    assert steam.state(pressure=100, temperature=500).h == h
+    assert steam.state(pressure=100, enthalpy=h).T == pytest.approx(500)
+    for word in ("x", "q", "quality", "vapour_fraction"):
+        assert steam.state(P=100, **{word: 0.5}).phase == "two-phase"
+    assert steam.state(T=500, specific_volume=steam.VPT(100, 500)).P == pytest.approx(100)
+    with pytest.raises(TypeError, match="'w' is none"):
+        steam.state(P=100, w=500)
+
+
 def test_phases_and_mixtures(steam):
     wet = steam.state(P=10, x=0.9)
     assert wet.phase == "two-phase" and wet.x == pytest.approx(0.9)
