@@ -128,11 +128,12 @@ class Engine:
     def _kept(self):
         """A copy with the units and settings of the moment; the same one until they change."""
         generation, kept = self.__dict__.get("_copy", (None, None))
-        if generation != self._core.generation:
+        now = self._core.generation  # before the copy: another thread may change units meanwhile
+        if generation != now:
             kept = self.__copy__()
-            kept.__dict__["_copy"] = (kept._core.generation, kept)
-            self.__dict__["_copy"] = (self._core.generation, kept)
-        return kept
+            kept.__dict__["_copy"] = (kept._core.generation, None)  # itself
+            self.__dict__["_copy"] = (now, kept)
+        return self if kept is None else kept
 
     # Copies -------------------------------------------------------------------------------------
 

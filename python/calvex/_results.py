@@ -9,11 +9,11 @@ def number_text(value):
     return f"{value:.10g}" if isinstance(value, (int, float)) else str(value)
 
 
-def with_unit(value, unit):
-    """A result and its unit; one that has a unit already stays."""
+def texts(value, unit):
+    """A result and its unit; what has a unit of its own, as pint's quantities, says it."""
     if isinstance(value, Value):
         value, unit = value.value, value.unit
-    return f"{number_text(value)} {'' if hasattr(value, 'units') else unit}".rstrip()
+    return number_text(value), "" if hasattr(value, "units") else unit
 
 
 def table_html(rows, title=""):
@@ -41,7 +41,7 @@ class Results(tuple):
 
     def __repr__(self):
         def row(name, value):
-            return f"{name}={with_unit(value, self.units[name])}"
+            return f"{name}={' '.join(texts(value, self.units[name]))}".rstrip()
         return f"{self._member}({', '.join(map(row, self._fields, self))})"
 
     def value(self, name):
@@ -55,7 +55,7 @@ class Results(tuple):
         return Value(self[i], self.units[name], self._groups[i])
 
     def _repr_html_(self):
-        return table_html([(name, with_unit(value, self.units[name]), "", "")
+        return table_html([(name, *texts(value, self.units[name]), "")
                            for name, value in self._asdict().items()], self._member)
 
     def __reduce__(self):

@@ -163,11 +163,12 @@ class _Blocks:
 
 
 def _common_shape(pair, inputs):
+    first, second = (value.shape for value in inputs)
     try:
-        return np.broadcast_shapes(*(np.shape(value) for value in inputs))
+        return first if first == second else np.broadcast_shapes(first, second)
     except ValueError:
-        raise ValueError(f"arrays of these shapes do not go together: {pair[0]} "
-                         f"{np.shape(inputs[0])}, {pair[1]} {np.shape(inputs[1])}") from None
+        raise ValueError(f"arrays of these shapes do not go together: {pair[0]} {first}, {pair[1]} "
+                         f"{second}") from None
 
 
 class State:
@@ -197,7 +198,7 @@ class State:
         for name, value in (("_engine", engine), ("_pair", pair), ("_errors", errors),
                             ("_given", given), ("_dress", dress), ("_points", points)):
             object.__setattr__(self, name, value)
-        object.__setattr__(self, "shape", np.shape(self.P))
+        object.__setattr__(self, "shape", np.shape(self.P) if points.shape else ())
 
     def __setattr__(self, name, value):
         raise AttributeError(f"a state stays as its pair makes it: {name} cannot be set; "

@@ -102,6 +102,31 @@ def test_units_may_change_while_others_compute():
     assert wrong == []
 
 
+def test_a_state_is_in_one_unit_while_others_change_it():
+    engine = calvex.Engine()
+    kelvin = calvex.TSatP(1.0)
+    expected = {"K": kelvin, "C": kelvin - 273.15}
+    stop, wrong = threading.Event(), []
+
+    def compute():
+        while not stop.is_set():
+            state = engine.state(P=1.0, x=0.5)
+            if abs(state.T - expected[state.unit("T")]) > 1e-6:
+                wrong.append((state.T, state.unit("T")))
+    threads = [threading.Thread(target=compute) for _ in range(4)]
+    for thread in threads:
+        thread.start()
+    for _ in range(300):
+        for unit in ("C", "K"):
+            engine.SetUserUnit("T", unit)
+            if engine.state(P=1.0, x=0.5).unit("T") != unit:
+                wrong.append(unit)
+    stop.set()
+    for thread in threads:
+        thread.join()
+    assert wrong == []
+
+
 def _enthalpies(engine, T):
     return engine.HPT(100, T)
 
