@@ -148,7 +148,8 @@ class Engine:
 
     def __repr__(self):
         chosen = {number: unit[0] for number, unit in sorted(self._core.choices.items())}
-        words = [f"{_units.keyword(number)}={unit!r}" for number, unit in chosen.items()]
+        words = [f"{_units.keyword(number).replace(' ', '_')}={unit!r}"
+                 for number, unit in chosen.items()]
         if self.errors is not None:
             words.append(f"errors={self.errors!r}")
         return f"calvex.Engine({', '.join(words)})"

@@ -72,7 +72,7 @@ class Members:
         same = [known for known in self.kinds if known.lower() == word]
         turned = [known for known in self.kinds
                   if sorted(known.lower()) == sorted(word) and known[0].lower() == word[0]]
-        found = same or turned or difflib.get_close_matches(name, self.kinds, 1, 0.5)
+        found = same or turned or difflib.get_close_matches(name, self.kinds, 1, 0.6)
         return f"; did you mean {found[0]}?" if found else ""
 
 

@@ -73,6 +73,8 @@ def _wrong_kinds(name, arguments):
 
 def _wrong_shapes(name, ufunc, arguments, words):
     shapes = {word: np.shape(argument) for word, argument in zip(input_names(name), arguments)}
+    if "where" in words:
+        shapes["where"] = np.shape(words["where"])
     try:
         result = np.broadcast_shapes(*shapes.values())
     except ValueError:

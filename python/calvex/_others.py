@@ -67,7 +67,10 @@ def _with_nan(ufunc, arguments, words):
     """What is not computed is NaN, and not whatever stood in the memory."""
     shape = np.broadcast_shapes(*map(np.shape, (*arguments, words["where"])))
     outs = tuple(np.full(shape, np.nan) for _ in range(ufunc.nout))
-    return ufunc(*arguments, **words, out=outs)
+    results = ufunc(*arguments, **words, out=outs)
+    if shape:
+        return results
+    return type(results)(r[()] for r in results) if ufunc.nout > 1 else results[()]
 
 
 def _is_exact(argument):

@@ -14,6 +14,7 @@ WRONG_CALLS = [
     (lambda e: e.HPT(1j, 3), TypeError, "not 1j"),
     (lambda e: e.HPT([[1], [2, 3]], 3), ValueError, "rows have different lengths"),
     (lambda e: e.HPT([1, 2], [1, 2, 3]), ValueError, r"do not go together: P \(2,\), T \(3,\)"),
+    (lambda e: e.HPT([1, 2], 500, where=[True, False, True]), ValueError, r"where \(3,\)"),
     (lambda e: e.HPT(), TypeError, "takes 2 arguments, 0 were given: P and T are missing"),
     (lambda e: e.HPT(100), TypeError, "takes 2 arguments, 1 was given: T is missing"),
     (lambda e: e.HPT(1, 2, 3, 4), TypeError, "takes 2 arguments, 4 were given"),
@@ -134,6 +135,8 @@ def test_what_is_not_computed_is_nan(steam):
     h = steam.HPT(np.full(1000, 100.0), 500, where=np.arange(1000) % 2 == 0)
     assert np.isnan(h[1::2]).all() and not np.isnan(h[::2]).any()
     assert np.isnan(steam.HPT(100, 500, where=False))
+    assert isinstance(steam.HPT(100, 500, where=True), float)
+    assert isinstance(steam.TurbineA(3374, 100, 10, 0.8, 5, where=True).Power, float)
     work = steam.TurbineA([3374, 3374], 100, 10, 0.8, 5, where=[True, False])
     assert all(np.isnan(column).tolist() == [False, True] for column in work)
     assert work.units["Power"] == "kW"

@@ -36,6 +36,12 @@ def test_units_that_the_catalogue_lacks_are_taken_too():
         assert engine.TSatP(29.9212) == pytest.approx(100, abs=0.05)
 
 
+def test_what_an_engine_prints_makes_another():
+    engine = calvex.Engine(T="°C", P="bar", flow="t/h", power="MW", duty="kW", errors="warn")
+    again = eval(repr(engine))
+    assert repr(again) == repr(engine) and again.unit("flow") == engine.unit("flow") == "te/h"
+
+
 def test_units_that_do_not_exist_are_refused_with_those_that_do():
     with pytest.raises(ValueError, match="'Grad' is not a unit of Temperature.*C, F, K, R"):
         calvex.Engine(T="Grad")
