@@ -78,7 +78,8 @@ def _spread(value, shape):
     try:
         return np.broadcast_to(value, shape)
     except ValueError:
-        raise ValueError(f"arrays of these shapes do not go together: {value.shape}, {shape}") from None
+        raise ValueError("arrays of these shapes do not go together: "
+                         f"{value.shape}, {shape}") from None
 
 
 def _of_masked(values):

@@ -52,8 +52,8 @@ def find(word, unit):
     """A unit of a quantity by its name or a common word for it."""
     number = group(word)
     if not isinstance(unit, str):
-        raise TypeError(f"a unit of {groups()[number][0]} is a text, one of {', '.join(names(number))}, "
-                        f"not {unit!r}")
+        raise TypeError(f"a unit of {groups()[number][0]} is a text, one of "
+                        f"{', '.join(names(number))}, not {unit!r}")
     found = _calvex.find_unit(number, unit)
     if isinstance(found, list):
         hint = f"; did you mean {' or '.join(found)}? m is milli, M is mega" if found else ""

@@ -75,74 +75,91 @@ const Member* memberOf(direct::Pair pair, direct::Letter letter) {
 void askMember(const Member& member, const direct::Request& request, direct::Target<double> value,
                direct::Target<short> status,
                const std::function<void(std::size_t, std::string_view)>& reason,
-               ZvThermoInt& engine, std::size_t begin, std::size_t end) {
+               ZvThermoInt& engine, std::size_t n) {
   const NumericMember numeric = *NumericMember::of(member);
   const direct::Column inputs[] = {request.first, request.second};
   const MemberRequest::Output output{0, value};
   evaluate(MemberRequest{numeric, {inputs, numeric.inputs().size()}, {&output, 1}, status, reason},
-           engine, begin, end);
+           engine, 0, n);
 }
 
 // A letter of the request's points by the members; by the direct road where no member has it.
 void askLetter(direct::Letter letter, const direct::Request& request, double* values, short* status,
-               ZvThermoInt& engine, std::size_t begin, std::size_t end) {
+               ZvThermoInt& engine, std::size_t n) {
   const bool first = letter == direct::firstOf(request.pair);
   if (first || letter == direct::secondOf(request.pair)) {
     const direct::Column& given = first ? request.first : request.second;
-    for (std::size_t i = begin; i < end; ++i) {
+    for (std::size_t i = 0; i < n; ++i) {
       values[i] = given.data[static_cast<std::ptrdiff_t>(i) * given.stride];
       status[i] = 0;
     }
   } else if (const Member* member = memberOf(request.pair, letter)) {
-    askMember(*member, request, {values}, {status}, {}, engine, begin, end);
+    askMember(*member, request, {values}, {status}, {}, engine, n);
   } else {
     const direct::Result result[] = {{letter, {values}}};
     direct::Request alone{request.pair, request.first, request.second, result};
     alone.status = {status};
     alone.units = request.units;
-    direct::evaluate(alone, begin, end);
+    direct::evaluate(alone, 0, n);
     // What pressure and temperature leave open on the exact line is settled by the phase.
-    if (letter == direct::Letter::Q) std::fill(status + begin, status + end, short{0});
+    if (letter == direct::Letter::Q) std::fill_n(status, n, short{0});
   }
+}
+
+// The request's points from that one on.
+direct::Request from(const direct::Request& request, std::size_t begin,
+                     std::vector<direct::Result>& results) {
+  const auto shifted = [&](const direct::Column& column) {
+    return direct::Column{column.data + static_cast<std::ptrdiff_t>(begin) * column.stride,
+                          column.stride};
+  };
+  results.assign(request.results.begin(), request.results.end());
+  for (direct::Result& result : results) result.value.data += begin;
+  direct::Request rest{request.pair, shifted(request.first), shifted(request.second), results};
+  rest.phase = {request.phase.data + begin};
+  rest.status = {request.status.data + begin};
+  rest.units = request.units;
+  return rest;
 }
 
 // The points of a request by the members, for an engine whose settings are not the direct road's.
 // Next to the saturation line the density tells the phase that they took, and the vapour fraction
 // whether there are two.
-void evaluateByMembers(const direct::Request& request, ZvThermoInt& engine, std::size_t begin,
-                       std::size_t end) {
+void evaluateByMembers(const direct::Request& request, ZvThermoInt& engine, std::size_t n) {
   using direct::Letter;
   using direct::Phase;
   direct::Request phases{request.pair, request.first, request.second, {}};
   phases.phase = request.phase;
   phases.units = request.units;
-  direct::evaluate(phases, begin, end);
-  std::vector<short> status(end);
-  for (std::size_t i = begin; i < end; ++i) request.status.data[i] = 0;
+  direct::evaluate(phases, 0, n);
+  std::vector<short> status(n);
+  std::fill_n(request.status.data, n, short{0});
   for (const direct::Result& result : request.results) {
-    askLetter(result.letter, request, result.value.data, status.data(), engine, begin, end);
-    for (std::size_t i = begin; i < end; ++i) {
+    askLetter(result.letter, request, result.value.data, status.data(), engine, n);
+    for (std::size_t i = 0; i < n; ++i) {
       if (request.status.data[i] == 0) request.status.data[i] = status[i];
     }
   }
-  std::vector<double> fraction(end), density(end);
-  askLetter(Letter::Q, request, fraction.data(), status.data(), engine, begin, end);
-  askLetter(Letter::R, request, density.data(), status.data(), engine, begin, end);
-  const bool fractionIsTheirs =
-      memberOf(request.pair, Letter::Q) != nullptr || direct::secondOf(request.pair) == Letter::Q;
-  const direct::Unit& unit = request.units->at(static_cast<std::size_t>(Letter::R));
+  std::vector<double> fraction(n), density(n);
+  askLetter(Letter::Q, request, fraction.data(), status.data(), engine, n);
+  askLetter(Letter::R, request, density.data(), status.data(), engine, n);
+  const bool onLine = direct::secondOf(request.pair) == Letter::Q;
+  const bool fractionIsTheirs = onLine || memberOf(request.pair, Letter::Q) != nullptr;
+  const direct::Unit& ofDensity = request.units->at(static_cast<std::size_t>(Letter::R));
   const direct::Unit& ofFraction = request.units->at(static_cast<std::size_t>(Letter::Q));
-  for (std::size_t i = begin; i < end; ++i) {
+  for (std::size_t i = 0; i < n; ++i) {
     Phase& phase = request.phase.data[i];
+    const double x = (fraction[i] + ofFraction.offset) * ofFraction.factor;
     if (request.status.data[i] != 0) {
       for (const direct::Result& result : request.results) {
         result.value.data[i] = std::numeric_limits<double>::quiet_NaN();
       }
       phase = Phase::none;
-    } else if (fractionIsTheirs && fraction[i] > 0.0 && fraction[i] < 1.0) {
+    } else if (onLine || (fractionIsTheirs && x > 0.0 && x < 1.0)) {
       phase = Phase::twoPhase;
     } else if (phase != Phase::supercritical) {
-      const bool dense = (density[i] + unit.offset) * unit.factor > constants::criticalDensity;
+      const bool dense =
+          (density[i] + ofDensity.offset) * ofDensity.factor > constants::criticalDensity;
       phase = dense ? Phase::liquid : Phase::vapour;
       for (const direct::Result& result : request.results) {
         if (result.letter != Letter::Q || fractionIsTheirs) continue;
@@ -201,18 +218,24 @@ PyObject* states(PyObject* /*module*/, PyObject* arguments) {
   request.phase = {static_cast<direct::Phase*>(data(phases))};
   request.status = {static_cast<short*>(data(status))};
   request.units = &units;
-  const bool direct = core->with([](ZvThermoInt& engine) { return hasDirectSettings(engine); });
+  const bool byRoad = core->with([](ZvThermoInt& engine) { return hasDirectSettings(engine); });
   const auto compute = [&](const Chunk& chunk) {
-    if (direct) return direct::evaluate(request, chunk.begin, chunk.end);
+    if (byRoad) return direct::evaluate(request, chunk.begin, chunk.end);
     Core::Loan loan(*core);
-    evaluateByMembers(request, loan.engine(), chunk.begin, chunk.end);
+    std::vector<direct::Result> rest;
+    evaluateByMembers(from(request, chunk.begin, rest), loan.engine(), chunk.end - chunk.begin);
   };
   constexpr npy_intp few = 500;
-  if (n <= few) {
-    compute({0, static_cast<std::size_t>(n), 0});
-  } else {
-    const Unlocked unlocked;
-    forEachChunk(static_cast<std::size_t>(n), allCores(), compute);
+  try {
+    if (n <= few) {
+      compute({0, static_cast<std::size_t>(n), 0});
+    } else {
+      const Unlocked unlocked;
+      forEachChunk(static_cast<std::size_t>(n), allCores(), compute);
+    }
+  } catch (const std::exception& failure) {
+    PyErr_SetString(PyExc_RuntimeError, failure.what());
+    return nullptr;
   }
   return PyTuple_Pack(3, values.get(), phases.get(), status.get());
 }
@@ -241,7 +264,7 @@ PyObject* stateReason(PyObject* /*module*/, PyObject* arguments) {
       reason = text;
       cause = loan.engine().diagnostics().cause();
     };
-    if (member != nullptr) askMember(*member, request, {&value}, {}, tell, loan.engine(), 0, 1);
+    if (member != nullptr) askMember(*member, request, {&value}, {}, tell, loan.engine(), 1);
     if (!reason.empty()) break;
   }
   if (reason.empty()) {

@@ -55,6 +55,19 @@ def test_a_state_follows_the_engines_saturation_line(polish):
     assert engine.state(T=400.0, x=0.3).P == engine.PSatT(400.0)
     wet = engine.state(P=1.0, h=1500.0)
     assert wet.phase == "two-phase" and wet.x == engine.QPH(1.0, 1500.0)
+    assert engine.state(P=1.0, x=[0, 0.5, 1]).phase.tolist() == ["two-phase"] * 3
+    engine.SetUserUnit("Q", "%")
+    wet = engine.state(P=1.0, h=[750.0, 1500.0, 2770.0, 3000.0])
+    assert wet.phase.tolist() == ["liquid", "two-phase", "two-phase", "vapour"]
+    assert wet.x[1] == engine.QPH(1.0, 1500.0) > 1
+
+
+def test_many_states_by_the_members_are_those_of_the_road():
+    engine = calvex.Engine()
+    engine.SolverIter = 199
+    T = np.linspace(300, 1000, 20_000)
+    by_members, by_road = (e.state(P=10.0, T=T, errors="ignore").s for e in (engine, calvex.default))
+    np.testing.assert_allclose(by_members, by_road, rtol=1e-9)
 
 
 @pytest.mark.parametrize("pair", ["PT", "Ph", "Ps", "Pu", "P rho", "Pv", "Th", "Ts", "Tu", "T rho",
