@@ -175,6 +175,8 @@ class Method:
         if choice is not None:  # a unit that the catalogue may lack
             _choose(self._core, *choice)
             return None
+        if self.__name__ == "SetCustomUserUnitIndex" and _calvex.get(self._core, "AppLevel") != 3:
+            raise ValueError("units of one's own need AppLevel 3: steam.AppLevel = 3")
         result = _calvex.call(self._core, self.__name__, named)
         if self.__name__ == "SetCustomUserUnitIndex":
             group, name, factor, offset = named
@@ -194,6 +196,8 @@ def _named_units(name, arguments):
     if name in ("SetUserUnit", "SetUserUnitIndex") and len(arguments) == 2:
         number = _units.group(arguments[0])
         return arguments, (number, _units.find(number, arguments[1]))
+    if name in ("GetUserUnitIndex", "SetCustomUserUnitIndex"):
+        arguments[0] = _units.group(arguments[0])
     if name == "GetUserUnit" and len(arguments) == 1:
         arguments[0] = _units.keyword(_units.group(arguments[0]))
     if name == "Convert" and len(arguments) == 4:
@@ -203,8 +207,9 @@ def _named_units(name, arguments):
     return tuple(arguments), None
 
 
-# What the engine would take in silence for something else.
-_SETTINGS = {"SatPolish": (0, 1, 2)}
+# What the engine would take in silence for something else, or refuse without a word: AppLevel 1 is a
+# units server, which there is on Windows.
+_SETTINGS = {"SatPolish": (0, 1, 2), "AppLevel": (0, 2, 3)}
 
 
 def _check_setting(name, value):

@@ -223,13 +223,14 @@ bool asNumber(PyObject* object, double& number) {
 
 PyObject* callScalar(Binding& binding, Errors errors, const double* inputs) {
   std::array<double, spreadsheet::maxOutputs> outputs;
-  std::string reason, cause;
+  Failure failure;
   const bool succeeded = binding.core().with([&](ZvThermoInt& engine) {
+    const EntryOfCall left(engine.diagnostics());
     if (binding.call(engine, inputs, outputs.data())) return true;
-    reason = engine.LastError();
-    cause = engine.diagnostics().cause();
+    failure = failureOf(engine, left);
     return false;
   });
+  const auto& [reason, cause] = failure;
   if (!succeeded) {
     if (errors == Errors::byKind || errors == Errors::raise) {
       return raiseFailure(binding.name(), reason, cause);

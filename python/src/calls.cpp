@@ -78,13 +78,6 @@ Ref toPython(const Value& value) {
   return Ref::to(Py_None);
 }
 
-struct Failure {
-  std::string reason, cause;
-};
-void look(ZvThermoInt& engine, Failure& failure) {
-  failure = {engine.LastError(), engine.diagnostics().cause()};
-}
-
 }  // namespace
 
 Core* coreArgument(PyObject* object) {
@@ -130,8 +123,9 @@ PyObject* callMember(PyObject* /*module*/, PyObject* arguments) {
   }
   Failure failure;
   const auto invoke = [&](ZvThermoInt& engine) {
+    const EntryOfCall left(engine.diagnostics());
     const int answer = member->invoke(engine, values);
-    if (answer == 0) look(engine, failure);
+    if (answer == 0) failure = failureOf(engine, left);
     return answer;
   };
   const bool constant = NumericMember::of(*member).has_value();
@@ -174,8 +168,9 @@ PyObject* putSetting(PyObject* /*module*/, PyObject* arguments) {
   if (!fromPython(given, member->name, member->parameters()[0].type, value)) return nullptr;
   Failure failure;
   const int success = core->change([&](ZvThermoInt& engine) {
+    const EntryOfCall left(engine.diagnostics());
     const int answer = member->put(engine, {&value, 1});
-    if (answer == 0) look(engine, failure);
+    if (answer == 0) failure = failureOf(engine, left);
     return answer;
   });
   if (success == 0) return raiseFailure(member->name, failure.reason, failure.cause);

@@ -112,6 +112,13 @@ void Core::afterFork() {
 PyObject* calvexError() { return errorType; }
 PyObject* calvexWarning() { return warningType; }
 
+Failure failureOf(const ZvThermoInt& engine, const EntryOfCall& left) {
+  const Diagnostics& diagnostics = engine.diagnostics();
+  if (left.hasReason()) return {diagnostics.lastError(), diagnostics.cause()};
+  if (diagnostics.tracing()) return {};
+  return {"tracing is off, so no reason was recorded (FunctionCallTracing = 1 turns it on).", {}};
+}
+
 std::string withCause(std::string_view reason, std::string_view cause) {
   std::string all(reason);
   if (!cause.empty()) all.append(" ").append(cause);

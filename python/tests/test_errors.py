@@ -236,3 +236,23 @@ def test_many_causes_do_not_fill_the_memory(steam):
     reasons = steam.reasons()
     assert len(set(reasons)) == 10_001
     assert all(reason.startswith("Solution Error.") for reason in reasons)
+
+
+def test_a_failure_without_a_word_does_not_tell_the_last_ones(steam):
+    with pytest.raises(calvex.CalvexError, match="Temperature parameter"):
+        steam.HPT(100, 3000)
+    with pytest.raises(calvex.CalvexError) as failure:
+        steam.GetCustomTraceText(5)
+    assert str(failure.value) == "GetCustomTraceText failed: the engine gave no reason."
+    assert failure.value.reason == failure.value.cause == ""
+    steam.FunctionCallTracing = 0
+    for call in (lambda: steam.TPH(100, 9000), lambda: setattr(steam, "SolverIter", -1)):
+        with pytest.raises(calvex.CalvexError, match="tracing is off, so no reason was recorded"):
+            call()
+    with pytest.raises(ValueError, match="AppLevel is 0, 2 or 3, not 9"):
+        steam.AppLevel = 9
+    with pytest.raises(ValueError, match="need AppLevel 3"):
+        steam.SetCustomUserUnitIndex(0, "X", 1, 0)
+    steam.AppLevel = 3
+    steam.SetCustomUserUnitIndex("T", "X", 1, 0)
+    assert steam.unit("T") == "X"

@@ -27,6 +27,7 @@ WRONG_CALLS = [
     (lambda e: e.SetUserUnit("T", "Grad"), ValueError, "'Grad' is not a unit .*Units: C, F, K, R"),
     (lambda e: e.SetUserUnit("colour", "C"), ValueError, "no quantity with a unit; there are T, P"),
     (lambda e: e.SetUserUnitIndex(99, "C"), ValueError, "no quantity number 99: they are 0 to 26"),
+    (lambda e: e.GetUserUnitIndex(99), ValueError, "no quantity number 99: they are 0 to 26"),
     (lambda e: calvex.units.names(None), TypeError, "a quantity is a text such as"),
     (lambda e: calvex.Engine(T="C", temperature="K"), ValueError, "T and temperature are the same"),
     (lambda e: calvex.Engine(units={"T": "C"}, t="K"), ValueError, "T and t are the same quantity"),
