@@ -32,7 +32,7 @@ Version: {_version()}
 Summary: Properties of water and steam in any unit of measure
 License: MIT
 Requires-Python: >=3.11
-Requires-Dist: numpy
+Requires-Dist: numpy >=1.24, <2
 Provides-Extra: plot
 Requires-Dist: matplotlib; extra == "plot"
 Description-Content-Type: text/markdown
@@ -56,13 +56,20 @@ def _write_info(folder):
     return info
 
 
+# pip hides all packages from a build by PYTHONPATH; NumPy's headers are wanted all the same.
+_ENVIRONMENT = {name: value for name, value in os.environ.items() if name != "PYTHONPATH"}
+
+
 def _run(*command):
-    # pip hides all packages from a build by PYTHONPATH; NumPy's headers are wanted all the same.
-    environment = {name: value for name, value in os.environ.items() if name != "PYTHONPATH"}
-    subprocess.run([str(word) for word in command], check=True, stdout=sys.stderr, env=environment)
+    subprocess.run([str(word) for word in command], check=True, stdout=sys.stderr, env=_ENVIRONMENT)
 
 
 def _build(build, stage):
+    if subprocess.run([sys.executable, "-c", "import numpy"], env=_ENVIRONMENT,
+                      stderr=subprocess.DEVNULL).returncode != 0:
+        raise SystemExit("calvex is built against NumPy, which this Python does not have: apt install "
+                         "python3-numpy, and an environment that sees it (python3 -m venv "
+                         "--system-site-packages), or pip install 'numpy<2' first")
     cmake = shutil.which("cmake")
     if cmake is None:
         raise SystemExit("calvex is built with cmake, ninja and a C++20 compiler: as root, "

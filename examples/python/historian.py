@@ -72,14 +72,23 @@ def run(folder, partitions, workers, kill):
         return answers, time.perf_counter() - start
 
 
+def at_least_one(text):
+    number = int(text) if text.lstrip("+-").isdigit() else 0
+    if number < 1:
+        raise argparse.ArgumentTypeError(f"{text} is no number of 1 or more")
+    return number
+
+
 def main():
     reader = argparse.ArgumentParser(description=__doc__.partition("\n")[0])
-    reader.add_argument("--rows", type=int, default=20_000_000)
-    reader.add_argument("--partition", type=int, default=250_000, help="rows in one")
-    reader.add_argument("--workers", type=int, default=2)
+    reader.add_argument("--rows", type=at_least_one, default=20_000_000)
+    reader.add_argument("--partition", type=at_least_one, default=250_000, help="rows in one")
+    reader.add_argument("--workers", type=at_least_one, default=2)
     reader.add_argument("--kill", action="store_true", help="kill a worker on the way")
     reader.add_argument("--folder", help="where the rows are kept; else they are forgotten")
     given = reader.parse_args()
+    if given.folder and not pathlib.Path(given.folder).is_dir():
+        reader.error(f"--folder: there is no folder {given.folder}")
     partitions = -(-given.rows // given.partition)
     with tempfile.TemporaryDirectory() as temporary:
         folder = pathlib.Path(given.folder or temporary)

@@ -18,7 +18,7 @@ _PLACES = {
     "Engine": "._engine", "default": "._engine",
     "members": "._members",
     "State": "._state",
-    "Value": ".units", "convert": ".units",
+    "Value": "._value", "convert": ".units",
     "plot": ".plot", "units": ".units",
 }
 # What the engine of the module's own functions answers, besides its members.
@@ -46,7 +46,8 @@ def __getattr__(name):
         if kind in ("setting", "reading"):
             raise AttributeError(f"{name} is a setting of an engine: calvex.default.{name}")
         if kind is None:
-            raise AttributeError(f"module 'calvex' has no attribute {name!r}{members.near(name)}")
+            raise AttributeError(f"module 'calvex' has no attribute {name!r}{members.near(name)}",
+                                 name=name, obj=None)
         value = getattr(default, name)
     globals()[name] = value
     return value

@@ -6,13 +6,15 @@ from numpy.typing import NDArray
 from . import plot as plot, units as units
 from ._table import *  # noqa: F403  (the members)
 from ._table import Errors, Members
-from .units import Value as Value, convert as convert
+from ._value import Value as Value
+from .units import convert as convert
 
 __version__: str
 
 class CalvexError(ValueError):
     """A call failed."""
     reason: str
+    cause: str
     member: str
 
 class CalvexWarning(UserWarning):

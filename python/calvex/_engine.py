@@ -2,11 +2,11 @@
 import copyreg
 import functools
 import os
-
-import numpy as np
+import types
 
 from . import _calvex, units as _units
-from ._members import docstring, members
+from ._members import call_text, docstring, members, signature
+from ._others import call as others
 from ._results import result_type
 
 
@@ -31,32 +31,42 @@ class Engine:
     An engine may be used from any number of threads, pickled and copied.
     """
 
-    def __init__(self, *, errors=None, units=None, **words):
+    def __init__(self, *unnamed, errors=None, units=None, **words):
+        if unnamed:
+            raise TypeError('units are chosen by their quantity: Engine(T="°C", P="bar")')
         self.__dict__["_core"] = _calvex.Core()
         self.errors = errors
-        for group, unit in {**(units or {}), **words}.items():
-            _choose(self._core, _units.group(group), _units.find(group, unit))
+        if not isinstance(units, (dict, type(None))):
+            raise TypeError(f'units is a dictionary such as {{"T": "°C"}}, not {units!r}')
+        chosen = {}
+        for word, unit in [*(units or {}).items(), *words.items()]:
+            number = _units.group(word)
+            if number in chosen:
+                raise ValueError(f"{chosen[number]} and {word} are the same quantity: one unit")
+            chosen[number] = word
+            _choose(self._core, number, _units.find(number, unit))
 
     # Members ------------------------------------------------------------------------------------
 
     def __getattr__(self, name):
         kind = None if name.startswith("_") else members.kinds.get(name)
         if kind is None:
-            raise AttributeError(f"an engine has no {name!r}{members.near(name)}")
+            # With its name set Python makes no guess of its own beside this one.
+            raise AttributeError(f"an engine has no {name!r}{members.near(name)}", name=name, obj=None)
         row = members.row(name)
         if kind in ("setting", "reading"):
             return _calvex.get(self._core, row.name)
         if kind == "method":
             return Method(self._core, row.name)
         # Found at once from now on.
-        ufunc = _calvex.ufunc(self._core, row.name, docstring(row.name, self._unit))
-        return self.__dict__.setdefault(name, ufunc)
+        return self.__dict__.setdefault(name, _calvex.ufunc(self._core, row.name))
 
     def __setattr__(self, name, value):
         kind = members.kinds.get(name)
         if name == "errors":
             self._core.errors = value
         elif kind in ("setting", "reading"):
+            _check_setting(name, value)
             _calvex.put(self._core, name, value)
         elif kind is not None:
             raise AttributeError(f"{name} is a member and stays")
@@ -73,15 +83,19 @@ class Engine:
 
     # States -------------------------------------------------------------------------------------
 
-    def state(self, *, errors=None, **pair):
+    def state(self, *unnamed, errors=None, **pair):
         """A state, or an array of them, from any pair of properties.
 
             s = steam.state(P=100, T=500)
             s.h, s.s, s.rho, s.x, s.phase, s.w
 
         The pair: P with T, h, s, u, rho, v or x; T with h, s, u, rho, v or x; h with s. Capital
-        letters do as well.
+        letters do as well, and words: state(pressure=100, temperature=500). Its phase is "liquid", "vapour", "two-phase" or, above the critical
+        temperature or the critical pressure, "supercritical".
         """
+        if unnamed:
+            raise TypeError("a state is given by two properties with their names: "
+                            "state(P=10, T=773.15)")
         from ._state import state
         return state(self, pair, errors)
 
@@ -111,6 +125,16 @@ class Engine:
             return {slot.name: self._unit(slot.group) for slot in outputs}
         return self._unit(_units.group(what))
 
+    def _kept(self):
+        """A copy with the units and settings of the moment; the same one until they change."""
+        generation, kept = self.__dict__.get("_copy", (None, None))
+        now = self._core.generation  # before the copy: another thread may change units meanwhile
+        if generation != now:
+            kept = self.__copy__()
+            kept.__dict__["_copy"] = (kept._core.generation, None)  # itself
+            self.__dict__["_copy"] = (now, kept)
+        return self if kept is None else kept
+
     # Copies -------------------------------------------------------------------------------------
 
     def __reduce__(self):
@@ -124,7 +148,8 @@ class Engine:
 
     def __repr__(self):
         chosen = {number: unit[0] for number, unit in sorted(self._core.choices.items())}
-        words = [f"{_units.keyword(number)}={unit!r}" for number, unit in chosen.items()]
+        words = [f"{_units.keyword(number).replace(' ', '_')}={unit!r}"
+                 for number, unit in chosen.items()]
         if self.errors is not None:
             words.append(f"errors={self.errors!r}")
         return f"calvex.Engine({', '.join(words)})"
@@ -137,12 +162,21 @@ class Method:
         self._core = core
         self.__name__ = name
         self.__doc__ = docstring(name)
+        self.__signature__ = signature(name)
 
-    def __call__(self, *arguments):
+    def __call__(self, *arguments, **words):
+        if words:
+            raise TypeError(f"{call_text(self.__name__)} takes its arguments by their place, without "
+                            "their names")
+        if len(arguments) != len(self.__signature__.parameters):
+            from ._misuse import wrong_count
+            raise TypeError(wrong_count(self.__name__, len(arguments)))
         named, choice = _named_units(self.__name__, arguments)
         if choice is not None:  # a unit that the catalogue may lack
             _choose(self._core, *choice)
             return None
+        if self.__name__ == "SetCustomUserUnitIndex" and _calvex.get(self._core, "AppLevel") != 3:
+            raise ValueError("units of one's own need AppLevel 3: steam.AppLevel = 3")
         result = _calvex.call(self._core, self.__name__, named)
         if self.__name__ == "SetCustomUserUnitIndex":
             group, name, factor, offset = named
@@ -162,6 +196,8 @@ def _named_units(name, arguments):
     if name in ("SetUserUnit", "SetUserUnitIndex") and len(arguments) == 2:
         number = _units.group(arguments[0])
         return arguments, (number, _units.find(number, arguments[1]))
+    if name in ("GetUserUnitIndex", "SetCustomUserUnitIndex"):
+        arguments[0] = _units.group(arguments[0])
     if name == "GetUserUnit" and len(arguments) == 1:
         arguments[0] = _units.keyword(_units.group(arguments[0]))
     if name == "Convert" and len(arguments) == 4:
@@ -169,6 +205,18 @@ def _named_units(name, arguments):
         arguments[0] = _units.keyword(number)
         arguments[1:3] = [_units.find(number, unit).name for unit in arguments[1:3]]
     return tuple(arguments), None
+
+
+# What the engine would take in silence for something else, or refuse without a word: AppLevel 1 is a
+# units server, which there is on Windows.
+_SETTINGS = {"SatPolish": (0, 1, 2), "AppLevel": (0, 2, 3)}
+
+
+def _check_setting(name, value):
+    allowed = _SETTINGS.get(name)
+    if allowed and value not in allowed:
+        raise ValueError(f"{name} is {', '.join(map(str, allowed[:-1]))} or {allowed[-1]}, not "
+                         f"{value!r}")
 
 
 def _choose(core, number, unit):
@@ -200,17 +248,12 @@ def _restored_ufunc(name, errors, choices, settings):
     return getattr(_restored(errors, choices, settings), name)
 
 
-_numpys_reduction = copyreg.dispatch_table[np.ufunc]
-
-
 def _reduce_ufunc(ufunc):
     binding = _calvex.binding(ufunc)
-    if binding is None:
-        return _numpys_reduction(ufunc)
     return _restored_ufunc, (binding.name, *_content(binding.core))
 
 
-copyreg.pickle(np.ufunc, _reduce_ufunc)
+copyreg.pickle(_calvex.Member, _reduce_ufunc)
 
 
 # Hooks of the extension ---------------------------------------------------------------------------
@@ -223,12 +266,27 @@ def _result_type(core, name):
                              for slot in row.outputs))
 
 
-def _others(binding, ufunc, arguments, words):
-    from ._others import call
-    return call(binding, ufunc, arguments, words)
+def _doc(binding):
+    def user(group, value):
+        if group < 0:
+            return value
+        factor, offset = _calvex.conversion(binding.core, group)
+        return (value - offset) / factor
+
+    def unit(group):
+        return _calvex.unit(binding.core, group) if group >= 0 else ""
+    return docstring(binding.name, unit, user,
+                     "calvex" if binding.core is default._core else "engine")
 
 
-_calvex.set_hooks(_others, _result_type)
+def _misuse(binding, ufunc, arguments, words):
+    from ._misuse import misuse
+    return misuse(binding, ufunc, arguments, words)
+
+
+_calvex.set_hooks(types.SimpleNamespace(
+    others=others, misuse=_misuse, result_type=_result_type, doc=_doc,
+    signature=lambda binding: signature(binding.name)))
 os.register_at_fork(before=_calvex.before_fork, after_in_parent=_calvex.after_fork,
                     after_in_child=_calvex.after_fork)
 

@@ -1,5 +1,6 @@
 """What the member table says: kinds, inputs and outputs, and the words for a docstring."""
 import functools
+import inspect
 import math
 from typing import NamedTuple
 
@@ -29,6 +30,8 @@ class Parameter(NamedTuple):
     words: str
     low: float
     high: float
+    above_low: bool  # the bound itself is refused
+    below_high: bool
 
 
 class Members:
@@ -47,7 +50,7 @@ class Members:
 
     def __call__(self, *words):
         """Names of the members whose name or explanation has all these words."""
-        wanted = [word.lower() for part in words for word in part.split()]
+        wanted = [word.lower() for part in words for word in str(part).split()]
         found = []
         for name in self.rows:
             text = f"{name} {explain(name)['title']}".lower() if wanted else ""
@@ -63,11 +66,14 @@ class Members:
         return self.rows.get(name) or self.rows["XL" + name]
 
     def near(self, name):
-        """"; did you mean HPT?" or nothing."""
+        """"; did you mean HPT?" or nothing: the same letters in another case or order come first."""
         import difflib
-        close = difflib.get_close_matches(name, self.kinds, 1, 0.5)
-        same = [known for known in self.kinds if known.lower() == name.lower()]
-        return f"; did you mean {(same or close)[0]}?" if same or close else ""
+        word = name.lower()
+        same = [known for known in self.kinds if known.lower() == word]
+        turned = [known for known in self.kinds
+                  if sorted(known.lower()) == sorted(word) and known[0].lower() == word[0]]
+        found = same or turned or difflib.get_close_matches(name, self.kinds, 1, 0.6)
+        return f"; did you mean {found[0]}?" if found else ""
 
 
 members = Members()
@@ -101,19 +107,45 @@ def output_words(name):
     return [(slot.name, slot.group, p.words) for slot, p in zip(row.outputs, outputs)]
 
 
-def _limits(low, high):
+def input_names(name):
+    """What a member's inputs are called, in their order."""
+    row = members.row(name)
+    if row.kind == "ufunc":
+        return [slot.name for slot in row.inputs]
+    return [p.name for p in parameters(row.name) if p.direction == "in"]
+
+
+def call_text(name):
+    """"HPT(P, T)"."""
+    return f"{name}({', '.join(input_names(name))})"
+
+
+def signature(name):
+    """The inputs, which go by their place, and the words of a call."""
+    inputs = [inspect.Parameter(word, inspect.Parameter.POSITIONAL_ONLY)
+              for word in input_names(name)]
+    if members.row(name).kind == "ufunc":
+        inputs.append(inspect.Parameter("out", inspect.Parameter.POSITIONAL_OR_KEYWORD, default=None))
+        inputs += [inspect.Parameter(word, inspect.Parameter.KEYWORD_ONLY, default=default)
+                   for word, default in (("where", True), ("errors", None), ("unit", False))]
+    return inspect.Signature(inputs)
+
+
+def _limits(low, high, above_low, below_high):
     if math.isinf(low) and math.isinf(high):
         return ""
     if math.isinf(high):
-        return f", at least {low:g}"
-    return f", {low:g} to {high:g}"
+        return f", {'above' if above_low else 'at least'} {low:.6g}"
+    return f", {'above ' * above_low}{low:.6g} to {'below ' * below_high}{high:.6g}"
 
 
-def docstring(name, unit=model_unit):
-    """A member in words; `unit` tells the unit of a group. Limits are in model units."""
+def docstring(name, unit=model_unit, user=lambda group, value: value, caller="calvex"):
+    """A member in words. `unit` tells the unit of a group, `user` a model value in it; `caller` is
+    whom the example calls."""
     row = members.row(name)
     explained = explain(row.name)
-    lines = [explained["title"][:1].upper() + explained["title"][1:] + "."]
+    lines = [call_text(name), "",
+             explained["title"][:1].upper() + explained["title"][1:] + "."]
     if explained["notes"]:
         lines += ["", explained["notes"]]
     inputs = [p for p in parameters(row.name) if p.direction == "in" and p.name != "strTokens"]
@@ -121,9 +153,7 @@ def docstring(name, unit=model_unit):
         lines += ["", "Parameters", "----------"]
     for p in inputs:
         lines.append(f"{p.name} : {unit(p.group) or p.type}")
-        limits = _limits(p.low, p.high)
-        if limits and unit(p.group) != model_unit(p.group):
-            limits += f" {model_unit(p.group)}"
+        limits = _limits(user(p.group, p.low), user(p.group, p.high), p.above_low, p.below_high)
         lines.append(f"    {p.words}{limits}")
     if row.kind == "ufunc":
         lines += ["", "Returns", "-------"]
@@ -131,6 +161,7 @@ def docstring(name, unit=model_unit):
             lines += [f"{output} : {unit(group) or 'number'}", f"    {words}"]
     example = explained["example"]
     if row.kind == "ufunc" and example and not any(isinstance(x, str) for x in example[:-1]):
-        numbers = ", ".join(f"{x:g}" for x in example if not isinstance(x, str))
-        lines += ["", "Examples", "--------", f">>> calvex.{row.name}({numbers})"]
+        numbers = [x for x in example if not isinstance(x, str)]
+        texts = (f"{user(slot.group, x):.10g}" for slot, x in zip(row.inputs, numbers))
+        lines += ["", "Examples", "--------", f">>> {caller}.{name}({', '.join(texts)})"]
     return "\n".join(lines)

@@ -16,8 +16,14 @@ _OTHER_NAMES = {"C": "degC", "F": "degF", "R": "degR", "K": "kelvin", "bara": "b
                 "Fraction": "", "%": "percent"}
 
 
-def _pint_unit(registry, name):
-    text = _OTHER_NAMES.get(name, name)
+_TEMPERATURE, _TEMPERATURE_DIFFERENCE = 0, 25
+_OF_DIFFERENCES = {"C": "delta_degC", "°C": "delta_degC", "F": "delta_degF", "°F": "delta_degF",
+                   "°K": "kelvin", "R": "degR", "°R": "degR"}
+
+
+def _pint_unit(registry, group, name):
+    other = _OF_DIFFERENCES if group == _TEMPERATURE_DIFFERENCE else _OTHER_NAMES
+    text = other.get(name, name)
     for sign, instead in (("²", "**2"), ("³", "**3"), ("^", "**"), ("µ", "u"), (".", "*")):
         text = text.replace(sign, instead)
     return registry.Unit(text)
@@ -32,7 +38,7 @@ def unit_of(registry, group, name):
     units = {unit[0]: unit for unit in (*groups()[group][3], *groups()[group][4])}
     ours, to = units.get(name), units[groups()[group][2]]
     try:
-        unit = _pint_unit(registry, name)
+        unit = _pint_unit(registry, group, name)
         for x in (1.0, 20.0):
             expected = (x + ours[2]) * ours[1] / to[1] - to[2]
             if not np.isclose(registry.Quantity(x, unit).to(model).magnitude, expected, rtol=1e-6):
@@ -45,6 +51,12 @@ def unit_of(registry, group, name):
 def magnitude(core, quantity, group):
     """The number of a quantity in the engine's unit."""
     registry = quantity._REGISTRY
+    # pint takes one for the other, counted from 0 K.
+    if group == _TEMPERATURE and any("delta_" in name for name in quantity._units):
+        raise TypeError(f"{quantity} is a difference of temperatures and no temperature")
+    if group == _TEMPERATURE_DIFFERENCE and not quantity._is_multiplicative:
+        raise TypeError(f"{quantity} is a temperature and no difference of two: that is in "
+                        "delta_degC, delta_degF or kelvin")
     name = _calvex.unit(core, group) if group >= 0 else ""
     unit, by_model = unit_of(registry, group, name)
     value = quantity.to(unit).magnitude

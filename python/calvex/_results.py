@@ -1,17 +1,24 @@
 """Named tuples with units: what members with several results answer."""
 import functools
-import html
 from operator import itemgetter
 
-from .units import Value
+from ._value import Value
 
 
 def number_text(value):
     return f"{value:.10g}" if isinstance(value, (int, float)) else str(value)
 
 
+def texts(value, unit):
+    """A result and its unit; what has a unit of its own, as pint's quantities, says it."""
+    if isinstance(value, Value):
+        value, unit = value.value, value.unit
+    return number_text(value), "" if hasattr(value, "units") else unit
+
+
 def table_html(rows, title=""):
     """Rows of (name, value, unit, words)."""
+    import html  # for notebooks only
     cells = "".join(
         "<tr>" + "".join(f"<td style='text-align:{side}'>{html.escape(str(text))}</td>"
                          for side, text in zip(("left", "right", "left", "left"), row)) + "</tr>"
@@ -34,16 +41,21 @@ class Results(tuple):
 
     def __repr__(self):
         def row(name, value):
-            return f"{name}={number_text(value)} {self.units[name]}".rstrip()
+            return f"{name}={' '.join(texts(value, self.units[name]))}".rstrip()
         return f"{self._member}({', '.join(map(row, self._fields, self))})"
 
     def value(self, name):
         """A result with its unit."""
+        if name not in self._fields:
+            raise AttributeError(f"{self._member} has no result {name!r}; it has "
+                                 + ", ".join(self._fields))
         i = self._fields.index(name)
+        if isinstance(self[i], Value):
+            return self[i]
         return Value(self[i], self.units[name], self._groups[i])
 
     def _repr_html_(self):
-        return table_html([(name, number_text(value), self.units[name], "")
+        return table_html([(name, *texts(value, self.units[name]), "")
                            for name, value in self._asdict().items()], self._member)
 
     def __reduce__(self):

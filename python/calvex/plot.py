@@ -8,6 +8,7 @@
 `python3 -m calvex.plot hs -u T=C -u P=bar -o mollier.svg` does the same.
 """
 import argparse
+import io
 import math
 import sys
 from typing import NamedTuple
@@ -20,9 +21,12 @@ except ImportError as missing:
     raise ImportError("calvex.plot draws with matplotlib, which is not installed: "
                       "apt install python3-matplotlib, or pip install matplotlib") from missing
 from matplotlib import patheffects, pyplot, ticker
+from matplotlib.axes import Axes
 
 from . import _calvex
 from ._engine import Engine, default
+from ._members import groups
+from ._results import Results
 from ._state import PROPERTIES, State
 
 THEMES = {
@@ -59,6 +63,20 @@ KINDS = {
 }
 
 
+def absolute(engine):
+    """The engine, or where its pressures are a gauge's one with the absolute unit of the same size:
+    no logarithm is there of a gauge's zero, and no round pressures below it."""
+    factor, offset = _calvex.conversion(engine._core, PROPERTIES["P"][1])  # MPa = factor x + offset
+    if offset == 0:
+        return engine
+    _, _, model, catalogue, beside = groups()[PROPERTIES["P"][1]]
+    alike = [name for name, size, zero in (*catalogue, *beside)
+             if zero == 0 and math.isclose(size, factor * 1e6)]  # the catalogue's sizes are in Pa
+    other = engine.__copy__()
+    other.SetUserUnit("P", (*alike, model)[0])
+    return other
+
+
 def pretty(unit):
     """A unit's name as it is printed: "kJ/(kg·K)", "m³/kg", "°C"."""
     unit = {"C": "°C", "F": "°F", "bara": "bar", "Fraction": ""}.get(unit, unit)
@@ -85,22 +103,31 @@ class Diagram:
     """A diagram in an engine's units; `axes` and `figure` are matplotlib's.
 
     kind: "Ts", "hs", "logph" or "Pv". theme: "light" or "dark". axes: where to draw, else a figure
-    of its own. xlim, ylim: the window, in the engine's units.
+    of its own. xlim, ylim: the window, in the engine's units. size: of the figure, in inches.
+
+    Pressures of a diagram are absolute and say so: of an engine in barg it draws bara.
     """
 
     def __init__(self, kind, engine=None, *, theme="light", axes=None, xlim=None, ylim=None,
                  size=(8.0, 5.6)):
-        if theme not in THEMES:
-            raise ValueError(f"there is no theme {theme!r}; there are light and dark")
-        self.kind, self.engine, self.colours = KINDS[kind], engine or default, THEMES[theme]
-        self._core = self.engine._core
+        _one_of("kind of diagram", kind, KINDS)
+        _one_of("theme", theme, THEMES)
+        if engine is not None and not isinstance(engine, Engine):
+            raise TypeError(f"a diagram is drawn in the units of a calvex.Engine, not of {engine!r}")
+        if axes is not None and not isinstance(axes, Axes):
+            raise TypeError(f"axes are matplotlib's, as of pyplot.subplots(), not {axes!r}")
+        given = (engine or default)._kept()
+        self.kind, self.engine, self.colours = KINDS[kind], absolute(given), THEMES[theme]
+        window = self.kind.window
+        self.xlim = self._limits("x", self.kind.x, xlim, given, window[:2])
+        self.ylim = self._limits("y", self.kind.y, ylim, given, window[2:])
+        self._gauge = self.engine is not given
         self._own = axes is None
         if axes is None:
+            if not (np.shape(size) == (2,) and all(inches > 0 for inches in size)):
+                raise ValueError(f"size is width and height in inches, not {size!r}")
             axes = pyplot.figure(figsize=size, dpi=100).add_subplot()
         self.axes, self.figure = axes, axes.figure
-        window = self.kind.window
-        self.xlim = xlim or [self._user(self.kind.x, value) for value in window[:2]]
-        self.ylim = ylim or [self._user(self.kind.y, value) for value in window[2:]]
         self._labels = []  # boxes on the page that are taken
         self._frame()
         for family, (place, count) in self.kind.families.items():
@@ -109,16 +136,42 @@ class Diagram:
 
     # Units --------------------------------------------------------------------------------------
 
+    @property
+    def _core(self):
+        return self.engine._core
+
     def _user(self, name, value):
         factor, offset = _calvex.conversion(self._core, PROPERTIES[name][1])
         return (np.asarray(value, float) - offset) / factor
 
-    def _model(self, name, value):
-        factor, offset = _calvex.conversion(self._core, PROPERTIES[name][1])
+    def _model(self, name, value, engine=None):
+        factor, offset = _calvex.conversion((engine or self.engine)._core, PROPERTIES[name][1])
         return np.asarray(value, float) * factor + offset
 
     def _unit(self, name):
-        return pretty(self.engine._unit(PROPERTIES[name][1]))
+        unit = self.engine._unit(PROPERTIES[name][1])
+        # Beside an engine's gauge the sign of an absolute pressure stays.
+        return unit if name == "P" and self._gauge else pretty(unit)
+
+    def _limits(self, side, name, limits, engine, window):
+        """The window on one axis, in the diagram's units."""
+        if limits is None:
+            return [float(value) for value in self._user(name, window)]
+        try:
+            low, high = (float(limit) for limit in limits)
+        except (TypeError, ValueError):
+            raise TypeError(f"{side}lim is the lowest and the highest {PROPERTIES[name][2]}, such as "
+                            f"({window[0]:g}, {window[1]:g}), not {limits!r}") from None
+        if engine is not self.engine:
+            low, high = (float(self._user(name, self._model(name, limit, engine)))
+                         for limit in (low, high))
+        logarithmic = side in self.kind.logarithmic
+        if not (0.0 if logarithmic else -math.inf) < low < high < math.inf:
+            factor, offset = _calvex.conversion(engine._core, PROPERTIES[name][1])
+            above = f" above {0.0 - offset / factor:.6g} {engine._unit(PROPERTIES[name][1])}"
+            raise ValueError(f"{side}lim is the lowest and the highest {PROPERTIES[name][2]}"
+                             f"{above * logarithmic}, in this order, not {limits!r}")
+        return [low, high]
 
     # Lines: x and y of points, in the engine's units ----------------------------------------------
 
@@ -184,10 +237,10 @@ class Diagram:
             side = "x" if axis is axes.xaxis else "y"
             if side in self.kind.logarithmic:
                 scale("log")
-                axis.set_major_formatter(ticker.FuncFormatter(lambda value, _: f"{value:g}"))
+                axis.set_major_formatter(ticker.FuncFormatter(_plain_number))
                 axis.set_minor_formatter(ticker.NullFormatter())
             limits(self.xlim if side == "x" else self.ylim)
-            unit = self._unit(name)
+            unit = self._unit(name) + " (absolute)" * (name == "P" and self._gauge)
             axis.set_label_text(PROPERTIES[name][2] + (f", {unit}" if unit else ""))
             axis.label.set_color(colours["ink"])
         axes.tick_params(which="both", colors=colours["ink"], length=3)
@@ -272,16 +325,11 @@ class Diagram:
 
         Between two states of one pressure the line follows the isobar, through the wet region too;
         between others it is straight, as expansion lines are drawn. `closed` returns to the first.
-        A state of many points, such as an expansion in steps, is drawn as the line that it is.
+        A state of many points, such as an expansion in steps, is drawn as the line that it is. States
+        of any engine are drawn where they belong, whatever its units.
         """
         colour = colour or self.colours["process"]
-        if isinstance(process, State):
-            process = [process]
-        names, states = [], []
-        for item in process:
-            name, state = item if isinstance(item, tuple) else ("", item)
-            names.append(name)
-            states.append(state)
+        names, states = _named_states(process)
         ends = [self._ends(state) for state in states]
         line = [np.array(self._coordinates(states[0]))] if states else []
         pairs = list(zip(range(len(states)), range(1, len(states))))
@@ -306,12 +354,16 @@ class Diagram:
         return self
 
     def _coordinates(self, state):
-        return [np.ravel(getattr(state, name)) for name in (self.kind.x, self.kind.y)]
+        return [self._of_state(state, name) for name in (self.kind.x, self.kind.y)]
+
+    def _of_state(self, state, name):
+        values = np.ma.filled(np.ma.masked_invalid(getattr(state, name)), np.nan)
+        return np.ravel(self._user(name, self._model(name, values, state._engine)))
 
     def _ends(self, state):
         """The first and the last point of a state, as numbers."""
         def point(i):
-            return {name: float(np.ravel(getattr(state, name))[i])
+            return {name: float(self._of_state(state, name)[i])
                     for name in {self.kind.x, self.kind.y, "P", "h"}}
         first = point(0)
         return first, first if not state.shape else point(-1)
@@ -324,7 +376,8 @@ class Diagram:
     def save(self, path, **words):
         """Writes SVG, PNG or whatever the path's ending says; the same every time."""
         with matplotlib.rc_context({"svg.hashsalt": "calvex", "svg.fonttype": "path"}):
-            metadata = {"Date": None} if str(path).endswith(".svg") else None
+            svg = str(path).endswith(".svg") or words.get("format") == "svg"
+            metadata = {"Date": None} if svg else None
             self.figure.savefig(path, metadata=metadata, facecolor=self.colours["paper"], **words)
         return self
 
@@ -332,8 +385,51 @@ class Diagram:
         """Gives the figure's memory back."""
         pyplot.close(self.figure)
 
-    def _repr_html_(self):
-        return None  # the notebook shows the figure
+    # In a notebook, for a diagram that is the value of a cell: shown once, here, and not among the
+    # figures that matplotlib has open at the end of the cell.
+    def _repr_svg_(self):
+        return self._picture("svg").decode() if self._own else None
+
+    def _repr_png_(self):
+        return self._picture("png") if self._own else None
+
+    def _picture(self, kind):
+        file = io.BytesIO()
+        self.save(file, format=kind)
+        self.close()
+        return file.getvalue()
+
+    def __repr__(self):
+        kind = next(name for name, kind in KINDS.items() if kind == self.kind)
+        return f"<diagram {kind} of {self.engine!r}>"
+
+
+def _plain_number(value, _place):
+    return f"{value:g}"
+
+
+def _one_of(what, word, words):
+    if not isinstance(word, str) or word not in words:
+        *most, last = words
+        raise ValueError(f"there is no {what} {word!r}; there are {', '.join(most)} and {last}")
+
+
+def _named_states(process):
+    """(names, states) of a process."""
+    wanted = ('a process is a state or a list of states or of (name, state): '
+              'diagram.draw([("1", live), ("2", steam.state(P=10, h=work.HOut))])')
+    if isinstance(process, State):
+        process = [process]
+    if isinstance(process, (str, Results)) or not hasattr(process, "__iter__"):
+        raise TypeError(f"{wanted}; not {process!r}")
+    names, states = [], []
+    for item in process:
+        name, state = item if isinstance(item, tuple) and len(item) == 2 else ("", item)
+        if not isinstance(state, State) or not isinstance(name, str):
+            raise TypeError(f"{wanted}; it has a {type(item).__name__} that is neither")
+        names.append(name)
+        states.append(state)
+    return names, states
 
 
 def Ts(engine=None, **words):

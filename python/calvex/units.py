@@ -22,32 +22,14 @@ class Unit(NamedTuple):
     in_catalogue: bool
 
 
-class Value(NamedTuple):
-    """A number, or an array of them, with its unit."""
-
-    value: object
-    unit: str
-    group: int = -1
-
-    def to(self, unit):
-        """The same in another unit."""
-        return Value(convert(self.group, self.value, self.unit, unit), find(self.group, unit).name,
-                     self.group)
-
-    def __str__(self):
-        return f"{self.value} {self.unit}".rstrip()
-
-    def __float__(self):
-        return float(self.value)
-
-    def __array__(self, dtype=None):
-        return np.asarray(self.value, dtype)
-
-
 def group(word):
     """The number of a quantity by its letter, name or a common word: "T", "pressure", "flow"."""
     if isinstance(word, int):
+        if not 0 <= word < len(groups()):
+            raise ValueError(f"there is no quantity number {word}: they are 0 to {len(groups()) - 1}")
         return word
+    if not isinstance(word, str):
+        raise TypeError(f"a quantity is a text such as \"T\" or \"pressure\", not {word!r}")
     found = _calvex.find_group(word.replace("_", " "))
     if found is None:
         raise ValueError(f"{word!r} is no quantity with a unit; there are "
@@ -69,6 +51,9 @@ def names(word):
 def find(word, unit):
     """A unit of a quantity by its name or a common word for it."""
     number = group(word)
+    if not isinstance(unit, str):
+        raise TypeError(f"a unit of {groups()[number][0]} is a text, one of "
+                        f"{', '.join(names(number))}, not {unit!r}")
     found = _calvex.find_unit(number, unit)
     if isinstance(found, list):
         hint = f"; did you mean {' or '.join(found)}? m is milli, M is mega" if found else ""
@@ -83,8 +68,10 @@ def find(word, unit):
 def convert(word, value, given, wanted):
     """A number or an array of a quantity from one unit to another."""
     a, b = find(word, given), find(word, wanted)
+    if isinstance(value, (list, tuple)):
+        value = np.asarray(value)
+    if value is None or isinstance(value, (str, bytes)) or getattr(value, "dtype", None) == object:
+        raise TypeError(f"a number or an array of numbers is converted, not {value!r}")
     if a == b:
         return value
-    if not isinstance(value, (int, float)):
-        value = np.asarray(value) if isinstance(value, (list, tuple)) else value
     return (value + a.offset) * a.factor / b.factor - b.offset

@@ -20,7 +20,8 @@ constexpr npy_intp manyElements = 8192;
 // NumPy's own call of a ufunc.
 vectorcallfunc callOfNumPy = nullptr;
 
-PyTypeObject type{};
+PyTypeObject type{};        // Binding
+PyTypeObject memberType{};  // the ufunc over one
 
 // A column of the loop's argument; its steps are in bytes.
 direct::Column column(const char* data, npy_intp step) {
@@ -48,8 +49,8 @@ bool overlap(char** arguments, const npy_intp* steps, npy_intp n, std::size_t in
 
 }  // namespace
 
-Hooks& hooks() {
-  static Hooks all;
+PyObject*& hooks() {
+  static PyObject* all = nullptr;
   return all;
 }
 
@@ -64,8 +65,8 @@ struct UfuncBody {
     Failures* failures = Failures::current();
     std::optional<Failures> stray;
     if (failures == nullptr) failures = &stray.emplace(Errors::warn);
-    const auto fail = [&](std::size_t row, std::string_view reason) {
-      failures->add(arguments[inputs] + static_cast<npy_intp>(row) * steps[inputs], reason);
+    const auto fail = [&](std::size_t row, std::string_view reason, std::string_view cause) {
+      failures->add(arguments[inputs] + static_cast<npy_intp>(row) * steps[inputs], reason, cause);
     };
     try {
       run(binding, arguments, steps, n, fail);
@@ -74,7 +75,7 @@ struct UfuncBody {
         for (npy_intp i = 0; i < n; ++i)
           *reinterpret_cast<double*>(arguments[o] + i * steps[o]) = none;
       }
-      failures->add(arguments[inputs], failure.what());
+      failures->add(arguments[inputs], failure.what(), {});
     }
     std::feclearexcept(FE_ALL_EXCEPT);  // NumPy would warn of what the solver tried
     if (stray && !stray->empty()) warnOf(binding, *stray, n);
@@ -99,10 +100,13 @@ struct UfuncBody {
                                                {reinterpret_cast<double*>(arguments[inputs + o]),
                                                 step / npy_intp{sizeof(double)}}};
     }
-    const MemberRequest request{
-        binding.member_, {from.data(), inputs}, {to.data(), outputs}, {}, fail};
     const auto compute = [&](const Chunk& chunk) {
       Core::Loan loan(binding.core());
+      const auto tell = [&](std::size_t row, std::string_view reason) {
+        fail(row, reason, loan.engine().diagnostics().cause());
+      };
+      const MemberRequest request{
+          binding.member_, {from.data(), inputs}, {to.data(), outputs}, {}, tell};
       evaluate(request, loan.engine(), chunk.begin, chunk.end);
     };
     if (n > manyElements) {
@@ -129,12 +133,11 @@ struct UfuncBody {
   }
 };
 
-Binding::Binding(PyObject* core, const NumericMember& member, std::string doc)
+Binding::Binding(PyObject* core, const NumericMember& member)
     : core_(Ref::to(core)),
       member_(member),
       variant_(variantOf(member.member())),
       name_(member.member().name),
-      doc_(std::move(doc)),
       types_(member.inputs().size() + member.outputs().size(), NPY_DOUBLE),
       loop_{&UfuncBody::loop},
       data_{this},
@@ -169,8 +172,7 @@ PyTypeObject* Binding::resultType() {
     resultGeneration_ = core().generation();
     const Ref name = unicode(name_);
     if (!name) return nullptr;
-    resultType_ =
-        Ref(PyObject_CallFunctionObjArgs(hooks().resultType, core_.get(), name.get(), nullptr));
+    resultType_ = Ref(PyObject_CallMethod(hooks(), "result_type", "OO", core_.get(), name.get()));
   }
   return reinterpret_cast<PyTypeObject*>(resultType_.get());
 }
@@ -221,21 +223,22 @@ bool asNumber(PyObject* object, double& number) {
 
 PyObject* callScalar(Binding& binding, Errors errors, const double* inputs) {
   std::array<double, spreadsheet::maxOutputs> outputs;
-  std::string reason, cause;
+  Failure failure;
   const bool succeeded = binding.core().with([&](ZvThermoInt& engine) {
+    const EntryOfCall left(engine.diagnostics());
     if (binding.call(engine, inputs, outputs.data())) return true;
-    reason = engine.LastError();
-    cause = engine.diagnostics().cause();
+    failure = failureOf(engine, left);
     return false;
   });
+  const auto& [reason, cause] = failure;
   if (!succeeded) {
     if (errors == Errors::byKind || errors == Errors::raise) {
       return raiseFailure(binding.name(), reason, cause);
     }
     outputs.fill(none);
-    binding.core().reasons = {{}, {{0, 0}}, {reason}};
+    binding.core().reasons = {{}, {{0, 0}}, {withCause(reason, cause)}};
     if (errors == Errors::warn) {
-      const Ref text = decoded(std::string(binding.name()) + " failed: " + reason);
+      const Ref text = failureText(binding.name(), reason, cause);
       if (!text || PyErr_WarnFormat(calvexWarning(), 1, "%U", text.get()) < 0) {
         return nullptr;
       }
@@ -340,9 +343,7 @@ struct Words {
       if (PyUnicode_CompareWithASCIIString(name, "errors") == 0) {
         if (!readErrors(value, errors)) return false;
       } else if (PyUnicode_CompareWithASCIIString(name, "unit") == 0) {
-        const int wanted = PyObject_IsTrue(value);
-        if (wanted < 0) return false;
-        unit = wanted != 0;
+        unit = value != Py_False;
       } else {
         if (PyList_Append(names.get(), name) < 0) return false;
         arguments.push_back(value);
@@ -354,9 +355,9 @@ struct Words {
   }
 };
 
-// What only libraries that may be absent can answer is Python's.
-PyObject* callOthers(PyObject* self, PyObject* binding, PyObject* const* arguments,
-                     Py_ssize_t count, PyObject* words) {
+// A call's arguments as Python's own: hook(binding, ufunc, arguments, words).
+PyObject* callHook(const char* hook, PyObject* self, PyObject* const* arguments, Py_ssize_t count,
+                   PyObject* words) {
   const Ref values(PyTuple_New(count));
   const Ref named(PyDict_New());
   if (!values || !named) return nullptr;
@@ -368,17 +369,32 @@ PyObject* callOthers(PyObject* self, PyObject* binding, PyObject* const* argumen
       return nullptr;
     }
   }
-  return PyObject_CallFunctionObjArgs(hooks().others, binding, self, values.get(), named.get(),
-                                      nullptr);
+  return PyObject_CallMethod(hooks(), hook, "OOOO", reinterpret_cast<PyUFuncObject*>(self)->obj,
+                             self, values.get(), named.get());
+}
+
+// NumPy's word for a wrong argument gives way to one that names the member's inputs, where there is
+// one. Exceptions of other libraries, and the engine's own, stay.
+void explainMisuse(PyObject* self, PyObject* const* arguments, Py_ssize_t count, PyObject* words) {
+  PyObject* const raised = PyErr_Occurred();
+  if (raised != PyExc_TypeError && raised != PyExc_ValueError) return;
+  PyObject *kind = nullptr, *value = nullptr, *traceback = nullptr;
+  PyErr_Fetch(&kind, &value, &traceback);
+  const Ref text(callHook("misuse", self, arguments, count, words));
+  if (text && text.get() != Py_None) {
+    PyErr_SetObject(kind, text.get());
+    Py_XDECREF(kind);
+    Py_XDECREF(value);
+    Py_XDECREF(traceback);
+    return;
+  }
+  PyErr_Restore(kind, value, traceback);
 }
 
 // Called in NumPy's place: numbers go straight to the engine, arrays to NumPy's own call, with
 // somebody there to hear of failures.
-PyObject* callUfunc(PyObject* self, PyObject* const* arguments, std::size_t flags,
-                    PyObject* words) {
-  const Py_ssize_t count = PyVectorcall_NARGS(flags);
-  PyObject* const object = reinterpret_cast<PyUFuncObject*>(self)->obj;
-  Binding& binding = bindingOf(object);
+PyObject* callAny(PyObject* self, PyObject* const* arguments, Py_ssize_t count, PyObject* words) {
+  Binding& binding = bindingOf(reinterpret_cast<PyUFuncObject*>(self)->obj);
   const auto inputs = static_cast<Py_ssize_t>(binding.member().inputs().size());
 
   std::array<double, maxParameters> numbers;
@@ -401,12 +417,20 @@ PyObject* callUfunc(PyObject* self, PyObject* const* arguments, std::size_t flag
   const bool others = std::any_of(arguments, arguments + std::min(count, inputs), isOther);
   if (words != nullptr && !ours.take(arguments, count, words)) return nullptr;
   if (others || ours.unit || ours.rest) {
-    Ref result(callOthers(self, object, arguments, count, words));
+    Ref result(callHook("others", self, arguments, count, words));
     if (result.get() != Py_NotImplemented) return result.release();
   }
   if (scalar && !ours.rest) return callScalar(binding, ours.errors, numbers.data());
   return callArrays(self, binding, ours.errors,
                     words == nullptr ? arguments : ours.arguments.data(), count, ours.rest.get());
+}
+
+PyObject* callUfunc(PyObject* self, PyObject* const* arguments, std::size_t flags,
+                    PyObject* words) {
+  const Py_ssize_t count = PyVectorcall_NARGS(flags);
+  PyObject* const result = callAny(self, arguments, count, words);
+  if (result == nullptr) explainMisuse(self, arguments, count, words);
+  return result;
 }
 
 PyObject* newBinding(PyTypeObject* /*type*/, PyObject* /*arguments*/, PyObject* /*words*/) {
@@ -430,6 +454,21 @@ PyObject* getResultType(PyObject* self, void* /*closure*/) {
   return Py_XNewRef(reinterpret_cast<PyObject*>(bindingOf(self).resultType()));
 }
 
+// What help() and inspect ask of a member, in the engine's units of the moment.
+PyObject* getDoc(PyObject* self, void* /*closure*/) {
+  return PyObject_CallMethod(hooks(), "doc", "O", reinterpret_cast<PyUFuncObject*>(self)->obj);
+}
+PyObject* getSignature(PyObject* self, void* /*closure*/) {
+  return PyObject_CallMethod(hooks(), "signature", "O",
+                             reinterpret_cast<PyUFuncObject*>(self)->obj);
+}
+
+PyGetSetDef memberAttributes[] = {
+    {"__doc__", getDoc, nullptr, nullptr, nullptr},
+    {"__signature__", getSignature, nullptr, nullptr, nullptr},
+    {nullptr, nullptr, nullptr, nullptr, nullptr},
+};
+
 PyGetSetDef attributes[] = {
     {"result_type", getResultType, nullptr, "The named tuple of its results.", nullptr},
     {"core", getCore, nullptr, "The engine.", nullptr},
@@ -439,27 +478,27 @@ PyGetSetDef attributes[] = {
 
 }  // namespace
 
-Ref Binding::ufunc(PyObject* core, const NumericMember& member, std::string doc) {
+Ref Binding::ufunc(PyObject* core, const NumericMember& member) {
   Ref object(type.tp_alloc(&type, 0));
   if (!object) return object;
-  auto* const binding = new Binding(core, member, std::move(doc));
+  auto* const binding = new Binding(core, member);
   reinterpret_cast<BindingObject*>(object.get())->binding = binding;
   Ref ufunc(PyUFunc_FromFuncAndData(binding->loop_, binding->data_, binding->types_.data(), 1,
                                     static_cast<int>(member.inputs().size()),
                                     static_cast<int>(member.outputs().size()), PyUFunc_None,
-                                    binding->name_.c_str(), binding->doc_.c_str(), 0));
+                                    binding->name_.c_str(), "", 0));
   if (!ufunc) return ufunc;
   auto* const made = reinterpret_cast<PyUFuncObject*>(ufunc.get());
   made->obj = object.release();
   callOfNumPy = made->vectorcall;
   made->vectorcall = callUfunc;
+  Py_SET_TYPE(ufunc.get(), &memberType);
   return ufunc;
 }
 
 PyObject* Binding::of(PyObject* ufunc) {
-  if (!PyObject_TypeCheck(ufunc, &PyUFunc_Type)) return nullptr;
-  const auto* const body = reinterpret_cast<PyUFuncObject*>(ufunc);
-  return body->vectorcall == callUfunc ? body->obj : nullptr;
+  if (!Py_IS_TYPE(ufunc, &memberType)) return nullptr;
+  return reinterpret_cast<PyUFuncObject*>(ufunc)->obj;
 }
 
 bool addBinding(PyObject* module) {
@@ -471,8 +510,15 @@ bool addBinding(PyObject* module) {
   type.tp_dealloc = deleteBinding;
   type.tp_getset = attributes;
   type.tp_doc = "A member bound to an engine.";
-  return PyType_Ready(&type) == 0 &&
-         PyModule_AddObjectRef(module, "Binding", reinterpret_cast<PyObject*>(&type)) == 0;
+  // A ufunc that knows its inputs' names.
+  Py_SET_REFCNT(reinterpret_cast<PyObject*>(&memberType), 1);
+  memberType.tp_name = "calvex.Member";
+  memberType.tp_base = &PyUFunc_Type;
+  memberType.tp_flags = Py_TPFLAGS_DEFAULT;
+  memberType.tp_getset = memberAttributes;
+  return PyType_Ready(&type) == 0 && PyType_Ready(&memberType) == 0 &&
+         PyModule_AddObjectRef(module, "Binding", reinterpret_cast<PyObject*>(&type)) == 0 &&
+         PyModule_AddObjectRef(module, "Member", reinterpret_cast<PyObject*>(&memberType)) == 0;
 }
 
 }  // namespace calvex::python

@@ -8,18 +8,17 @@
 
 namespace calvex::python {
 
-/// Called for arguments that are neither numbers nor arrays of them, before NumPy sees them:
-/// hook(binding, ufunc, arguments, words) answers the result or NotImplemented.
-/// Called for the type of several results: hook(core, member name) answers a subclass of tuple.
-struct Hooks {
-  PyObject* others = nullptr;
-  PyObject* resultType = nullptr;
-};
-[[nodiscard]] Hooks& hooks();
+/// What is Python's to answer, as functions of one object:
+/// others(binding, ufunc, arguments, words), of arguments that are neither numbers nor arrays of
+/// them, before NumPy sees them: the result or NotImplemented;
+/// misuse(binding, ufunc, arguments, words), of a call that NumPy refused: what is wrong, or None;
+/// result_type(core, member name), of several results: a subclass of tuple;
+/// doc(binding) and signature(binding), for help().
+[[nodiscard]] PyObject*& hooks();
 
 class Binding {
  public:
-  Binding(PyObject* core, const NumericMember& member, std::string doc);
+  Binding(PyObject* core, const NumericMember& member);
 
   [[nodiscard]] Core& core() noexcept { return coreOf(core_.get()); }
   [[nodiscard]] PyObject* coreObject() const noexcept { return core_.get(); }
@@ -39,7 +38,7 @@ class Binding {
   [[nodiscard]] PyTypeObject* resultType();
 
   /// A ufunc over the member, which owns its binding; null with an exception.
-  [[nodiscard]] static Ref ufunc(PyObject* core, const NumericMember& member, std::string doc);
+  [[nodiscard]] static Ref ufunc(PyObject* core, const NumericMember& member);
   /// The binding of one of our ufuncs; null for others, without an exception.
   [[nodiscard]] static PyObject* of(PyObject* ufunc);
 
@@ -49,7 +48,6 @@ class Binding {
   NumericMember member_;
   const spreadsheet::Variant* variant_;
   std::string name_;
-  std::string doc_;
   std::vector<char> types_;
   PyUFuncGenericFunction loop_[1];
   void* data_[1];

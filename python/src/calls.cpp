@@ -2,6 +2,7 @@
 
 #include "functions.h"
 #include "numpy_api.h"
+#include "server/member_columns.h"
 #include "server/member_table.h"
 #include "server/zv_calvex.h"
 #include "ui/trace_view.h"
@@ -10,28 +11,37 @@ namespace calvex::python {
 
 namespace {
 
+// Raises a TypeError that names the argument: false.
+bool refuse(std::string_view name, const char* wanted, PyObject* object) {
+  if (const Ref text = unicode(name)) {
+    PyErr_Format(PyExc_TypeError, "%U is to be %s, not %R", text.get(), wanted, object);
+  }
+  return false;
+}
+
 // An argument as the parameter's type; false with an exception.
-bool fromPython(PyObject* object, ValueType type, Value& value) {
+bool fromPython(PyObject* object, std::string_view name, ValueType type, Value& value) {
   switch (type) {
     case ValueType::real: {
       const double number = PyFloat_AsDouble(object);
       value = number;
-      return number != -1.0 || PyErr_Occurred() == nullptr;
+      if (number != -1.0 || PyErr_Occurred() == nullptr) return true;
+      return refuse(name, "a number", object);
     }
     case ValueType::shortInteger:
     case ValueType::longInteger: {
       const long number = PyLong_AsLong(object);
-      if (number == -1 && PyErr_Occurred() != nullptr) return false;
+      if (number == -1 && PyErr_Occurred() != nullptr) {
+        return PyErr_ExceptionMatches(PyExc_OverflowError) == 0 &&
+               refuse(name, "a whole number", object);
+      }
       value = static_cast<double>(number);
       if (coerce(value, type)) return true;
       PyErr_Format(PyExc_OverflowError, "%ld is too large", number);
       return false;
     }
     case ValueType::text: {
-      if (!PyUnicode_Check(object)) {
-        PyErr_Format(PyExc_TypeError, "expected a text, not %R", object);
-        return false;
-      }
+      if (!PyUnicode_Check(object)) return refuse(name, "a text", object);
       std::optional<std::string> text = encoded(object);
       if (text) value = std::move(*text);
       return text.has_value();
@@ -68,13 +78,6 @@ Ref toPython(const Value& value) {
   return Ref::to(Py_None);
 }
 
-struct Failure {
-  std::string reason, cause;
-};
-void look(ZvThermoInt& engine, Failure& failure) {
-  failure = {engine.LastError(), engine.diagnostics().cause()};
-}
-
 }  // namespace
 
 Core* coreArgument(PyObject* object) {
@@ -108,21 +111,25 @@ PyObject* callMember(PyObject* /*module*/, PyObject* arguments) {
       }
       continue;
     }
-    if (next < count && !fromPython(PyTuple_GET_ITEM(given, next), parameters[i].type, values[i])) {
+    if (next < count && !fromPython(PyTuple_GET_ITEM(given, next), parameters[i].name,
+                                    parameters[i].type, values[i])) {
       return nullptr;
     }
     ++next;
   }
   if (next != count) {
-    PyErr_Format(PyExc_TypeError, "%U takes %zd arguments, but %zd were given", name, next, count);
+    PyErr_Format(PyExc_TypeError, "%zd arguments were given, %zd are taken", count, next);
     return nullptr;
   }
   Failure failure;
-  const int success = core->change([&](ZvThermoInt& engine) {
+  const auto invoke = [&](ZvThermoInt& engine) {
+    const EntryOfCall left(engine.diagnostics());
     const int answer = member->invoke(engine, values);
-    if (answer == 0) look(engine, failure);
+    if (answer == 0) failure = failureOf(engine, left);
     return answer;
-  });
+  };
+  const bool constant = NumericMember::of(*member).has_value();
+  const int success = constant ? core->with(invoke) : core->change(invoke);
   if (success == 0) return raiseFailure(member->name, failure.reason, failure.cause);
   const Ref results(PyList_New(0));
   for (std::size_t i = 0; results && i < parameters.size(); ++i) {
@@ -158,11 +165,12 @@ PyObject* putSetting(PyObject* /*module*/, PyObject* arguments) {
     return nullptr;
   }
   Value value;
-  if (!fromPython(given, member->parameters()[0].type, value)) return nullptr;
+  if (!fromPython(given, member->name, member->parameters()[0].type, value)) return nullptr;
   Failure failure;
   const int success = core->change([&](ZvThermoInt& engine) {
+    const EntryOfCall left(engine.diagnostics());
     const int answer = member->put(engine, {&value, 1});
-    if (answer == 0) look(engine, failure);
+    if (answer == 0) failure = failureOf(engine, left);
     return answer;
   });
   if (success == 0) return raiseFailure(member->name, failure.reason, failure.cause);

@@ -112,24 +112,43 @@ void Core::afterFork() {
 PyObject* calvexError() { return errorType; }
 PyObject* calvexWarning() { return warningType; }
 
-void raiseError(PyObject* text, std::string_view member, const std::string& reason) {
+Failure failureOf(const ZvThermoInt& engine, const EntryOfCall& left) {
+  const Diagnostics& diagnostics = engine.diagnostics();
+  if (left.hasReason()) return {diagnostics.lastError(), diagnostics.cause()};
+  if (diagnostics.tracing()) return {};
+  return {"tracing is off, so no reason was recorded (FunctionCallTracing = 1 turns it on).", {}};
+}
+
+std::string withCause(std::string_view reason, std::string_view cause) {
+  std::string all(reason);
+  if (!cause.empty()) all.append(" ").append(cause);
+  return all;
+}
+
+void raiseError(PyObject* text, std::string_view member, std::string_view reason,
+                std::string_view cause) {
   const Ref name = unicode(member);
   const Ref why = decoded(reason);
-  if (!name || !why) return;
+  const Ref behind = decoded(cause);
+  if (!name || !why || !behind) return;
   const Ref error(PyObject_CallOneArg(errorType, text));
   if (!error || PyObject_SetAttrString(error.get(), "member", name.get()) < 0 ||
-      PyObject_SetAttrString(error.get(), "reason", why.get()) < 0) {
+      PyObject_SetAttrString(error.get(), "reason", why.get()) < 0 ||
+      PyObject_SetAttrString(error.get(), "cause", behind.get()) < 0) {
     return;
   }
   PyErr_SetObject(errorType, error.get());
 }
 
-PyObject* raiseFailure(std::string_view member, const std::string& reason,
-                       const std::string& cause) {
-  std::string all = std::string(member) + " failed: ";
-  all += reason.empty() ? "the engine gave no reason." : reason;
-  if (!cause.empty()) all += " " + cause;
-  if (const Ref text = decoded(all)) raiseError(text.get(), member, reason);
+Ref failureText(std::string_view member, std::string_view reason, std::string_view cause) {
+  if (reason.empty()) reason = "the engine gave no reason.";
+  return decoded(std::string(member) + " failed: " + withCause(reason, cause));
+}
+
+PyObject* raiseFailure(std::string_view member, std::string_view reason, std::string_view cause) {
+  if (const Ref text = failureText(member, reason, cause)) {
+    raiseError(text.get(), member, reason, cause);
+  }
   return nullptr;
 }
 
@@ -167,12 +186,18 @@ int setErrors(PyObject* self, PyObject* value, void* /*closure*/) {
   return readErrors(value, coreOf(self).errors) ? 0 : -1;
 }
 
+PyObject* getGeneration(PyObject* self, void* /*closure*/) {
+  return PyLong_FromUnsignedLong(coreOf(self).generation());
+}
+
 PyObject* getChoices(PyObject* self, void* /*closure*/) {
   return Py_NewRef(reinterpret_cast<CoreObject*>(self)->choices);
 }
 
 PyGetSetDef attributes[] = {
     {"choices", getChoices, nullptr, "The units chosen, by group.", nullptr},
+    {"generation", getGeneration, nullptr,
+     "Another number after units or settings may have changed.", nullptr},
     {"errors", getErrors, setErrors,
      R"(What a failed call does: "raise", "warn", "ignore"; None: scalars raise, arrays warn.)",
      nullptr},
@@ -197,7 +222,9 @@ bool addCore(PyObject* module) {
   if (PyType_Ready(&type) < 0) return false;
   errorType = PyErr_NewExceptionWithDoc(
       "calvex.CalvexError",
-      "A call failed; `reason` is the engine's text in the user's units, `member` what was called.",
+      "A call failed; `reason` is the engine's text in the user's units, `cause` what is behind "
+      "it\n"
+      "where the text does not say so (else \"\"), `member` what was called.",
       PyExc_ValueError, nullptr);
   warningType = PyErr_NewExceptionWithDoc(
       "calvex.CalvexWarning", "Elements of an array failed and are NaN; counts them by reason.",

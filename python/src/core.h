@@ -15,6 +15,7 @@
 #include "direct/chunks.h"
 #include "engine/thermo_engine.h"
 #include "references.h"
+#include "server/client.h"
 
 namespace calvex::python {
 
@@ -113,11 +114,22 @@ struct CoreObject {
   return *reinterpret_cast<CoreObject*>(object)->core;
 }
 
+/// Why a call failed, and what is behind that; empty where the engine left no word of it.
+struct Failure {
+  std::string reason, cause;
+};
+/// Of a call that began when `left` was made.
+[[nodiscard]] Failure failureOf(const ZvThermoInt& engine, const EntryOfCall& left);
+/// A reason and what is behind it, which may be empty.
+[[nodiscard]] std::string withCause(std::string_view reason, std::string_view cause);
 /// Raises CalvexError with that text.
-void raiseError(PyObject* text, std::string_view member, const std::string& reason);
+void raiseError(PyObject* text, std::string_view member, std::string_view reason,
+                std::string_view cause);
+/// "HPT failed: ..."
+[[nodiscard]] Ref failureText(std::string_view member, std::string_view reason,
+                              std::string_view cause);
 /// Raises CalvexError with the engine's text and answers null.
-PyObject* raiseFailure(std::string_view member, const std::string& reason,
-                       const std::string& cause);
+PyObject* raiseFailure(std::string_view member, std::string_view reason, std::string_view cause);
 [[nodiscard]] PyObject* calvexError();
 [[nodiscard]] PyObject* calvexWarning();
 /// Adds the types and exceptions; false with an exception.

@@ -61,16 +61,35 @@ class Places {
 
 }  // namespace
 
-void Failures::add(const char* element, std::string_view text) {
+void Failures::add(const char* element, std::string_view reason, std::string_view cause) {
+  // Every cause may be another: beyond so many texts an element has its reason alone.
+  constexpr std::size_t mostTexts = 10'000;
   const std::scoped_lock lock(mutex_);
-  const auto [found, isNew] =
-      numbers_.try_emplace(std::string(text), static_cast<std::uint32_t>(texts_.size()));
-  if (isNew) {
-    texts_.emplace_back(text);
-    counts_.push_back(0);
+  Kind& kind = kinds_
+                   .try_emplace(std::string(reason),
+                                Kind{std::string(reason), std::string(cause), element, 0, false})
+                   .first->second;
+  ++kind.count;
+  if (kind.cause != cause) kind.severalCauses = true;
+  if (element < kind.first) {
+    kind.first = element;
+    kind.cause = cause;
   }
-  ++counts_[found->second];
+  const auto [found, isNew] = numbers_.try_emplace(
+      texts_.size() < mostTexts ? withCause(reason, cause) : std::string(reason),
+      static_cast<std::uint32_t>(texts_.size()));
+  if (isNew) texts_.push_back(found->first);
   rows_.push_back({element, found->second});
+}
+
+// The most frequent first, then as the array has them.
+std::vector<const Failures::Kind*> Failures::kinds() const {
+  std::vector<const Kind*> all;
+  for (const auto& entry : kinds_) all.push_back(&entry.second);
+  std::ranges::sort(all, [](const Kind* a, const Kind* b) {
+    return a->count != b->count ? a->count > b->count : a->first < b->first;
+  });
+  return all;
 }
 
 Ref Failures::summary(std::string_view member, std::size_t elements) const {
@@ -78,18 +97,18 @@ Ref Failures::summary(std::string_view member, std::size_t elements) const {
   if (!name) return {};
   Ref text(PyUnicode_FromFormat("%U failed for %zu of %zu elements", name.get(), rows_.size(),
                                 elements));
-  std::vector<std::size_t> order(texts_.size());
-  std::iota(order.begin(), order.end(), std::size_t{0});
-  std::ranges::stable_sort(order, std::greater{}, [&](std::size_t i) { return counts_[i]; });
+  const std::vector<const Kind*> all = kinds();
   constexpr std::size_t most = 5;
-  for (std::size_t i = 0; i < order.size() && i < most && text; ++i) {
-    const Ref reason = decoded(texts_[order[i]]);
+  for (std::size_t i = 0; i < all.size() && i < most && text; ++i) {
+    const Kind& kind = *all[i];
+    const Ref reason = decoded(
+        withCause(kind.reason, kind.severalCauses ? "The first: " + kind.cause : kind.cause));
     if (!reason) return {};
-    text = Ref(PyUnicode_FromFormat("%U%s %zu x %U", text.get(), i == 0 ? ":" : ";",
-                                    counts_[order[i]], reason.get()));
+    text = Ref(PyUnicode_FromFormat("%U%s %zu x %U", text.get(), i == 0 ? ":" : ";", kind.count,
+                                    reason.get()));
   }
-  if (order.size() > most && text) {
-    text = Ref(PyUnicode_FromFormat("%U; and %zu other reasons", text.get(), order.size() - most));
+  if (all.size() > most && text) {
+    text = Ref(PyUnicode_FromFormat("%U; and %zu other reasons", text.get(), all.size() - most));
   }
   return text;
 }
@@ -122,7 +141,8 @@ bool Failures::report(Core& core, std::string_view member, PyObject* result) {
   if (rows_.empty() || errors_ == Errors::ignore) return true;
   if (errors_ != Errors::raise) return warn(member, elements);
   const Ref text = summary(member, elements);
-  if (text) raiseError(text.get(), member, texts_.front());
+  const Kind& foremost = *kinds().front();
+  if (text) raiseError(text.get(), member, foremost.reason, foremost.cause);
   return false;
 }
 

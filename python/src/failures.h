@@ -24,8 +24,8 @@ class Failures {
   /// Null where a loop runs that was not called through us (ufunc.outer and its like).
   [[nodiscard]] static Failures* current() noexcept { return current_; }
 
-  /// Any thread: the element at that address failed.
-  void add(const char* element, std::string_view text);
+  /// Any thread: the element at that address failed, for that reason and what is behind it.
+  void add(const char* element, std::string_view reason, std::string_view cause);
   [[nodiscard]] Errors errors() const noexcept { return errors_; }
   [[nodiscard]] bool empty() const noexcept { return rows_.empty(); }
 
@@ -40,15 +40,24 @@ class Failures {
     const char* element;
     std::uint32_t text;
   };
+  /// A reason that elements share. Causes tell numbers of their own: the first element's stands for
+  /// all.
+  struct Kind {
+    std::string reason, cause;
+    const char* first;
+    std::size_t count;
+    bool severalCauses;
+  };
+  [[nodiscard]] std::vector<const Kind*> kinds() const;
   [[nodiscard]] Ref summary(std::string_view member, std::size_t elements) const;
 
   static thread_local Failures* current_;
   Errors errors_;
   Failures* outer_;
   std::mutex mutex_;
+  std::unordered_map<std::string, Kind> kinds_;
   std::unordered_map<std::string, std::uint32_t> numbers_;
-  std::vector<std::string> texts_;
-  std::vector<std::size_t> counts_;
+  std::vector<std::string> texts_;  ///< reasons with their causes, which rows refer to
   std::vector<Row> rows_;
 };
 

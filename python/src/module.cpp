@@ -3,6 +3,7 @@
 #include "numpy_api.h"
 // The two tables of NumPy's interface are filled above all else.
 #include "binding.h"
+#include "failures.h"
 #include "functions.h"
 #include "server/member_explanations.h"
 
@@ -12,8 +13,7 @@ namespace {
 
 PyObject* makeUfunc(PyObject* /*module*/, PyObject* arguments) {
   PyObject *object = nullptr, *name = nullptr;
-  const char* doc = nullptr;
-  if (!PyArg_ParseTuple(arguments, "OUs", &object, &name, &doc)) return nullptr;
+  if (!PyArg_ParseTuple(arguments, "OU", &object, &name)) return nullptr;
   const Member* const member = coreArgument(object) == nullptr ? nullptr : memberArgument(name);
   if (member == nullptr) return nullptr;
   const std::optional<NumericMember> numeric = NumericMember::of(*member);
@@ -21,7 +21,7 @@ PyObject* makeUfunc(PyObject* /*module*/, PyObject* arguments) {
     PyErr_Format(PyExc_TypeError, "%U does not compute numbers from numbers", name);
     return nullptr;
   }
-  return Binding::ufunc(object, *numeric, doc).release();
+  return Binding::ufunc(object, *numeric).release();
 }
 
 PyObject* bindingOfUfunc(PyObject* /*module*/, PyObject* ufunc) {
@@ -29,12 +29,15 @@ PyObject* bindingOfUfunc(PyObject* /*module*/, PyObject* ufunc) {
   return Py_NewRef(binding == nullptr ? Py_None : binding);
 }
 
-PyObject* setHooks(PyObject* /*module*/, PyObject* arguments) {
-  PyObject *others = nullptr, *resultType = nullptr;
-  if (!PyArg_ParseTuple(arguments, "OO", &others, &resultType)) return nullptr;
-  Py_XSETREF(hooks().others, Py_NewRef(others));
-  Py_XSETREF(hooks().resultType, Py_NewRef(resultType));
+PyObject* setHooks(PyObject* /*module*/, PyObject* object) {
+  Py_XSETREF(hooks(), Py_NewRef(object));
   Py_RETURN_NONE;
+}
+
+// The policy that a text means, or an exception that lists them.
+PyObject* checkErrors(PyObject* /*module*/, PyObject* object) {
+  Errors errors{};
+  return readErrors(object, errors) ? Py_NewRef(object) : nullptr;
 }
 
 PyObject* beforeFork(PyObject* /*module*/, PyObject* /*none*/) {
@@ -47,10 +50,18 @@ PyObject* afterFork(PyObject* /*module*/, PyObject* /*none*/) {
   Py_RETURN_NONE;
 }
 
+// Of the call that this one is inside of; else None.
+PyObject* errorsOfCall(PyObject* /*module*/, PyObject* /*none*/) {
+  const Failures* const call = Failures::current();
+  return errorsText(call == nullptr ? Errors::byKind : call->errors()).release();
+}
+
 PyMethodDef functions[] = {
-    {"ufunc", makeUfunc, METH_VARARGS, "ufunc(core, member, doc): a member as a NumPy ufunc."},
+    {"ufunc", makeUfunc, METH_VARARGS, "ufunc(core, member): a member as a NumPy ufunc."},
     {"binding", bindingOfUfunc, METH_O, "binding(ufunc): its member and engine; None for others."},
-    {"set_hooks", setHooks, METH_VARARGS, "set_hooks(others, result_type)."},
+    {"set_hooks", setHooks, METH_O, "set_hooks(object): see binding.h."},
+    {"errors_of_call", errorsOfCall, METH_NOARGS, "The policy of the call that is running."},
+    {"check_errors", checkErrors, METH_O, "check_errors(policy): itself, if it is one."},
     {"before_fork", beforeFork, METH_NOARGS, "Waits for all engines and holds them."},
     {"after_fork", afterFork, METH_NOARGS, "Lets them go, in both processes."},
     {"call", callMember, METH_VARARGS, "call(core, member, arguments)."},
@@ -70,7 +81,7 @@ PyMethodDef functions[] = {
     {"states", states, METH_VARARGS,
      "states(core, pair, first, second, letters): (values, phases, status)."},
     {"state_reason", stateReason, METH_VARARGS,
-     "state_reason(core, pair, first, second, letters): why it fails."},
+     "state_reason(core, pair, first, second, letters): why it fails, and what is behind that."},
     {nullptr, nullptr, 0, nullptr},
 };
 
@@ -93,7 +104,14 @@ bool importNumPy() { return _import_array() >= 0 && _import_umath() >= 0; }
 PyMODINIT_FUNC PyInit__calvex();   // NOLINT(bugprone-reserved-identifier)
 PyMODINIT_FUNC PyInit__calvex() {  // NOLINT(bugprone-reserved-identifier)
   using namespace calvex::python;
-  if (!importNumPy()) return nullptr;
+  if (!importNumPy()) {
+    if (PyErr_ExceptionMatches(PyExc_ModuleNotFoundError) != 0) {
+      PyErr_SetString(PyExc_ImportError,
+                      "calvex computes with NumPy, which this Python does not have: apt install "
+                      "python3-numpy, or pip install 'numpy<2'");
+    }
+    return nullptr;
+  }
   Ref module(PyModule_Create(&definition));
   if (!module || !addCore(module.get()) || !addBinding(module.get()) ||
       PyModule_AddStringConstant(module.get(), "version", CALVEX_VERSION) < 0) {

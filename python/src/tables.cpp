@@ -41,16 +41,17 @@ std::string_view typeName(ValueType type) {
   return "array";
 }
 
-// (name, type, direction, group, label, words, low, high)
+// (name, type, direction, group, label, words, low, high, above low, below high)
 Ref parameterRow(const Parameter& parameter, const ParameterExplanation& explained) {
   const Limits limits = explained.limits.value_or(Limits{});
   const std::string_view type = typeName(parameter.type);
   const std::string_view direction = directionName(parameter.direction);
   return Ref(Py_BuildValue(
-      "(s#s#s#is#s#dd)", parameter.name.data(), Py_ssize_t(parameter.name.size()), type.data(),
+      "(s#s#s#is#s#ddOO)", parameter.name.data(), Py_ssize_t(parameter.name.size()), type.data(),
       Py_ssize_t(type.size()), direction.data(), Py_ssize_t(direction.size()), int{parameter.group},
       explained.label.data(), Py_ssize_t(explained.label.size()), explained.words.data(),
-      Py_ssize_t(explained.words.size()), limits.low, limits.high));
+      Py_ssize_t(explained.words.size()), limits.low, limits.high,
+      limits.aboveLow ? Py_True : Py_False, limits.belowHigh ? Py_True : Py_False));
 }
 
 // (name, group, words) of a token's result.

@@ -1,7 +1,9 @@
 // What the engine's own calls cost, for the comparison with Python's: microseconds a scalar call,
-// and seconds for the direct road over many states, the best of several.
+// and seconds for the C interface over many points, the best of several.
 //
 //     calvex_python_cost POINTS
+#include <calvex/calvex.h>
+
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -9,8 +11,6 @@
 #include <limits>
 #include <vector>
 
-#include "direct/chunks.h"
-#include "direct/direct_road.h"
 #include "engine/thermo_engine.h"
 #include "equipment/turbines_compressors.h"
 
@@ -57,12 +57,22 @@ int main(int count, char** arguments) {
     P[i] = 0.1 + static_cast<double>(i * 7919 % 19'900) * 1e-3;
     Ts[i] = 300.0 + static_cast<double>(i * 104'729 % 700'000) * 1e-3;
   }
-  const direct::Result results[] = {{direct::Letter::H, {H.data()}}};
-  const direct::Request request{direct::Pair::PT, {P.data()}, {Ts.data()}, results};
+  calvex_engine* c = nullptr;
+  const calvex_column inputs[] = {{P.data(), 1}, {Ts.data(), 1}};
+  const calvex_output output{0, {H.data(), 1}};
+  calvex_rows rows{};
+  rows.count = n;
+  rows.inputs = inputs;
+  rows.input_count = 2;
+  rows.outputs = &output;
+  rows.output_count = 1;
+  int code = calvex_create(&c);
+  if (code == CALVEX_OK) code = calvex_find_member("HPT", CALVEX_TERMINATED, &rows.member);
   const double many = bestSeconds(5, [&] {
-    forEachChunk(n, {},
-                 [&](const Chunk& chunk) { direct::evaluate(request, chunk.begin, chunk.end); });
+    if (code == CALVEX_OK) code = calvex_columns(c, &rows, sizeof rows);
   });
+  calvex_destroy(c);
+  if (code != CALVEX_OK) return 1;
   std::printf("{\"XT\": %.4f, \"HPT\": %.4f, \"TurbineA\": %.4f, \"many\": %.6f}\n", xt, hpt,
               turbine, many);
 }

@@ -44,7 +44,7 @@ def calls():
 
 @pytest.fixture(scope="module")
 def answers(calls):
-    """What the command line prints: values, or the reason."""
+    """What the command line prints: values, or the reason with its cause."""
     lines = []
     for name, values in calls:
         tokens = [slot.name for slot in members.row(name).outputs] if name.startswith("XL") else []
@@ -59,7 +59,7 @@ def answers(calls):
 
 def values_of(reply, name):
     if reply["pSucc"] != 1:
-        return reply["lastError"]
+        return " ".join(filter(None, (reply["lastError"], reply.get("cause"))))
     row = members.row(name)
     if name.startswith("XL"):
         cells = next(value for value in reply.values() if isinstance(value, list))
@@ -75,7 +75,8 @@ def test_the_same_bits_one_by_one(calls, answers):
             result = getattr(calvex, name)(*values)
             got = list(result) if isinstance(result, tuple) else [result]
         except calvex.CalvexError as failure:
-            got, failed = failure.reason, failed + 1
+            got = " ".join(filter(None, (failure.reason, failure.cause)))
+            failed += 1
         if got != expected:
             wrong.append((name, values, got, expected))
     assert wrong == []

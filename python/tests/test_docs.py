@@ -31,6 +31,12 @@ def test_the_numbers_of_the_page_are_those(steam):
     with pytest.warns(calvex.CalvexWarning) as said:
         steam.HPT([100, 100], [500, 3000])
     assert str(said[0].message) in re.sub(r"\s+", " ", page)
+    h = steam.HPT(100, 500, unit="BTU/lb")
+    assert f"{h:.1f}" == "1450.6 Btu/lb" and '# "1450.6 Btu/lb"' in page
+    for call in (lambda: steam.TPH(100, 9000), lambda: steam.HPT(None, 500)):
+        with pytest.raises((calvex.CalvexError, TypeError)) as failure:
+            call()
+        assert str(failure.value) in re.sub(r"\s+", " ", page)
 
 
 def test_the_kept_diagram_is_the_one_that_is_drawn(tmp_path):

@@ -177,3 +177,82 @@ def test_methods_take_and_answer_texts(steam):
     assert steam.GetUserUnit("T") == "C"
     assert isinstance(steam.GetAlarms(), list)
     assert calvex.CritT() == 647.126 and steam.CritT() == pytest.approx(373.976)
+
+
+ABOVE = "Enthalpy {} kJ/kg is above any that water has at 100 bara: the highest is 8047.14 kJ/kg"
+
+
+def test_what_is_behind_a_failure_is_told(steam):
+    """As the command line tells it in its second line."""
+    with pytest.raises(calvex.CalvexError) as failure:
+        steam.TPH(100, 9000)
+    assert failure.value.reason == "Solution Error."
+    assert failure.value.cause.startswith(ABOVE.format(9000))
+    assert str(failure.value) == f"TPH failed: Solution Error. {failure.value.cause}"
+    with pytest.raises(calvex.CalvexError) as failure:
+        steam.HPT(100, 3000)
+    assert failure.value.cause == ""
+    with pytest.warns(calvex.CalvexWarning, match="Solution Error. Enthalpy 9000 kJ/kg is above"):
+        steam.TPH(100, 9000, errors="warn")
+    assert ABOVE.format(9000) in str(steam.reasons())
+
+
+def test_what_is_behind_the_failures_of_an_array_is_told(steam):
+    with pytest.warns(calvex.CalvexWarning) as said:
+        steam.TPH(100, [9000, 2800, 9100])
+    assert "failed for 2 of 3 elements: 2 x Solution Error. The first: " + ABOVE.format(9000) in str(
+        said[0].message)
+    first, none, last = steam.reasons()
+    assert first.startswith("Solution Error. " + ABOVE.format(9000)) and none == ""
+    assert last.startswith("Solution Error. " + ABOVE.format(9100))
+    with pytest.raises(calvex.CalvexError) as failure:
+        steam.TPH(100, [2800, 9000], errors="raise")
+    assert failure.value.reason == "Solution Error."
+    assert failure.value.cause.startswith(ABOVE.format(9000)) and ABOVE.format(9000) in str(
+        failure.value)
+    with pytest.warns(calvex.CalvexWarning, match=r"2 x Solution Error\. Pressure must be above 0"):
+        steam.HPT([0, 0], 500)
+
+
+def test_what_is_behind_a_state_that_is_none_is_told(steam):
+    with pytest.raises(calvex.CalvexError) as failure:
+        steam.state(P=100, h=9000)
+    assert failure.value.member == "state" and failure.value.reason == "Solution Error."
+    assert failure.value.cause.startswith(ABOVE.format(9000))
+    assert str(failure.value).endswith(failure.value.cause)
+    with pytest.warns(calvex.CalvexWarning, match="2 x Solution Error. The first: Enthalpy 9000"):
+        states = steam.state(P=100, h=[9000, 2800, 9100])
+    assert ABOVE.format(9100) in states.reasons()[2] and states.reasons()[1] == ""
+    assert ABOVE.format(9000) in steam.state(P=100, h=9000, errors="ignore").reasons()
+    with pytest.raises(calvex.CalvexError, match=r"Pressure must be above 0 bara\."):
+        steam.state(P=0, T=500)
+
+
+def test_many_causes_do_not_fill_the_memory(steam):
+    """Beyond 10,000 texts an element has its reason alone."""
+    n = 12_000
+    H = 9000 + np.arange(n) * 1e-3
+    steam.TPH(100, H, errors="ignore")
+    reasons = steam.reasons()
+    assert len(set(reasons)) == 10_001
+    assert all(reason.startswith("Solution Error.") for reason in reasons)
+
+
+def test_a_failure_without_a_word_does_not_tell_the_last_ones(steam):
+    with pytest.raises(calvex.CalvexError, match="Temperature parameter"):
+        steam.HPT(100, 3000)
+    with pytest.raises(calvex.CalvexError) as failure:
+        steam.GetCustomTraceText(5)
+    assert str(failure.value) == "GetCustomTraceText failed: the engine gave no reason."
+    assert failure.value.reason == failure.value.cause == ""
+    steam.FunctionCallTracing = 0
+    for call in (lambda: steam.TPH(100, 9000), lambda: setattr(steam, "SolverIter", -1)):
+        with pytest.raises(calvex.CalvexError, match="tracing is off, so no reason was recorded"):
+            call()
+    with pytest.raises(ValueError, match="AppLevel is 0, 2 or 3, not 9"):
+        steam.AppLevel = 9
+    with pytest.raises(ValueError, match="need AppLevel 3"):
+        steam.SetCustomUserUnitIndex(0, "X", 1, 0)
+    steam.AppLevel = 3
+    steam.SetCustomUserUnitIndex("T", "X", 1, 0)
+    assert steam.unit("T") == "X"

@@ -68,3 +68,22 @@ def test_a_killed_worker_loses_and_doubles_nothing(tmp_path):
         P, T, _ = np.load(tmp_path / f"in-{number:05}.npy")
         h, _, _ = np.load(tmp_path / f"out-{number:05}.npy")
         np.testing.assert_allclose(h, calvex.HPT(P, T, errors="ignore"), rtol=1e-10)
+
+
+@pytest.mark.parametrize("words, said", [
+    ("--workers 0", "--workers: 0 is no number of 1 or more"),
+    ("--workers -2", "--workers: -2 is no"), ("--rows -5", "--rows: -5 is no number of 1 or more"),
+    ("--rows many", "--rows: many is no"), ("--partition 0", "--partition: 0 is no"),
+    ("--folder /none", "--folder: there is no folder /none"),
+])
+def test_the_historian_refuses_what_it_cannot_do(words, said):
+    run = subprocess.run([sys.executable, FOLDER / "historian.py", *words.split()], text=True,
+                         capture_output=True, env=ENVIRONMENT, timeout=60)
+    assert run.returncode == 2 and said in run.stderr and "Traceback" not in run.stderr
+
+
+def test_a_worker_that_dies_with_nobody_left_is_followed_by_another(tmp_path):
+    run = subprocess.run([sys.executable, FOLDER / "historian.py", "--rows", "40000", "--partition",
+                          "10000", "--workers", "1", "--kill", "--folder", str(tmp_path)], text=True,
+                         capture_output=True, env=ENVIRONMENT, timeout=100)
+    assert run.returncode == 0 and "40000 rows in 4 partitions, 1 workers" in run.stdout, run.stderr

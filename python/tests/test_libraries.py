@@ -1,4 +1,7 @@
 """pandas, xarray, dask and pint take members as they are."""
+import decimal
+import fractions
+
 import calvex
 import numpy as np
 import pytest
@@ -76,6 +79,43 @@ def test_dask_tells_engines_apart(steam):
     assert values["K"] - values["C"] == pytest.approx([273.15, 273.15])
 
 
+def test_the_policy_of_a_call_is_that_of_its_blocks(recwarn):
+    P = dask_array.from_array(np.array([100.0, -50.0]), chunks=1)
+    named = xarray.DataArray(P, dims="t")
+    for given in (P, named):
+        lazy = calvex.Engine(T="C").HPT(given, 500, errors="ignore")
+        assert np.isnan(np.asarray(lazy.compute())).tolist() == [False, True]
+        lazy = calvex.Engine(T="C", errors="ignore").HPT(given, 500)
+        assert np.isnan(np.asarray(lazy.compute())).tolist() == [False, True]
+        assert not recwarn.list
+        with pytest.raises(calvex.CalvexError):
+            calvex.Engine(T="C").HPT(given, 500, errors="raise").compute()
+        with pytest.raises(calvex.CalvexError):
+            calvex.Engine(T="C", errors="raise").HPT(given, 500).compute()
+    grid = calvex.HPT(P, dask_array.from_array(np.array([[500.0], [400.0]])), errors="ignore")
+    assert grid.compute().shape == (2, 2)
+
+
+def test_decimals_and_fractions_are_numbers(steam):
+    h = steam.HPT(100, 500)
+    assert steam.HPT(decimal.Decimal("100"), 500) == h == steam.HPT(fractions.Fraction(100), 500)
+    assert steam.HPT(decimal.Decimal(100), [500])[0] == pytest.approx(h, rel=1e-10)
+    assert steam.state(P=decimal.Decimal(100), T=500).h == pytest.approx(h, rel=1e-10)
+
+
+def test_columns_with_gaps(steam):
+    P = pandas.Series([100, None], dtype="Int64")
+    assert steam.HPT(P, 500).isna().tolist() == [False, True]
+    assert steam.state(P=P, T=500, errors="ignore").h.isna().tolist() == [False, True]
+    for wrong in (lambda: steam.state(P=pandas.Series(["a", 3]), T=500),
+                  lambda: steam.HPT(pandas.Series(["a", 3]), 500)):
+        with pytest.raises(TypeError, match="numbers"):
+            wrong()
+    for like in (pandas.Series([1.0, 2.0]), xarray.DataArray([1.0, 2.0], dims="t")):
+        with pytest.raises(ValueError, match="do not go together"):
+            steam.state(P=like, T=[500, 500, 500])
+
+
 def test_equipment_of_dask_arrays(steam):
     flow = dask_array.from_array(np.linspace(1, 5, 100), chunks=10)
     work = steam.TurbineA(3374, 100, 10, 0.8, flow)
@@ -118,6 +158,27 @@ class TestPint:
             steam.TurbineA(3374, 100, 10, 0.8, 5).Power / 1000)
         state = steam.state(P=self.quantity(10, "MPa"), T=self.quantity(500, "degC"))
         assert state.h == pytest.approx(steam.HPT(100, 500))
+
+    GAS_TURBINE = (5000, 0.3, 15, 520, 40, 400, 105, 4)
+
+    @pytest.mark.parametrize("unit", ["C", "F", "K", "R"])
+    def test_differences_of_temperatures_are_not_counted_from_0_kelvin(self, unit):
+        engine = calvex.Engine(T="C", P="bar", DT=unit)
+        expected = calvex.Engine(T="C", P="bar").GasTurbineA(*self.GAS_TURBINE, 15, 0.03)
+        for least in (self.quantity(15, "delta_degC"), self.quantity(27, "delta_degF"),
+                      self.quantity(15, "kelvin")):
+            result = engine.GasTurbineA(*self.GAS_TURBINE, least, 0.03)
+            assert result.M_BaseLoad.magnitude == pytest.approx(expected.M_BaseLoad, rel=1e-9)
+        with pytest.raises(TypeError, match="is a temperature and no difference"):
+            engine.GasTurbineA(*self.GAS_TURBINE, self.quantity(15, "degC"), 0.03)
+        with pytest.raises(TypeError, match="is a difference of temperatures and no temperature"):
+            engine.HPT(100, self.quantity(500, "delta_degC"))
+        with pytest.raises(TypeError, match="is a difference"):
+            engine.state(P=100, T=self.quantity(500, "delta_degC"))
+
+    def test_results_of_quantities_are_printed_with_their_unit_once(self, steam):
+        work = steam.TurbineA(self.quantity(3374, "kJ/kg"), 100, 10, 0.8, 5)
+        assert "2364.95" in repr(work) and "kilowatt" in repr(work) and " kW" not in repr(work)
 
     def test_every_model_unit_has_its_quantity(self):
         from calvex import _members, _pint

@@ -56,7 +56,7 @@ def test_members_that_compute_numbers_are_ufuncs():
     assert len(ufuncs) > 150
     for name in ufuncs:
         member = getattr(calvex, name)
-        assert type(member) is np.ufunc
+        assert isinstance(member, np.ufunc)
         assert member.nin == len(members.row(name).inputs)
         assert member.nout == len(members.row(name).outputs)
 

@@ -2,7 +2,9 @@
 
 CALVEX_KEEP_PICTURES=1 keeps what is drawn now: look at it then.
 """
+import copy
 import os
+import pickle
 import subprocess
 import sys
 
@@ -130,3 +132,112 @@ def test_the_command_draws_and_tells_what_is_wrong(tmp_path):
     assert wrong.returncode == 1 and "'Grad' is not a unit of Temperature" in wrong.stderr
     assert run("xy", "-o", tmp_path / "x.svg").returncode == 2
     assert not (tmp_path / "x.svg").exists()
+
+
+GAUGES = {"barg": "bara", "psig": "psia", "mbarg": "mbar", "kPag": "kPa", "MPag": "MPa",
+          "kgf/cm2g": "kgf/cm²"}
+
+
+def test_every_gauge_has_its_absolute_unit():
+    units = [*calvex._members.groups()[1][3], *calvex._members.groups()[1][4]]
+    assert {unit[0] for unit in units if unit[2] != 0} == set(GAUGES)
+    for gauge, unit in GAUGES.items():
+        engine = plot.absolute(calvex.Engine(P=gauge, T="C"))
+        assert (engine.unit("P"), engine.unit("T")) == (unit, "C")
+    same = calvex.Engine(P="bar")
+    assert plot.absolute(same) is same
+
+
+@pytest.mark.parametrize("kind", plot.KINDS)
+def test_the_diagram_of_a_gauge_is_absolute_and_says_so(kind, recwarn):
+    diagram = plot.Diagram(kind, calvex.Engine(T="C", P="barg"))
+    like = plot.Diagram(kind, calvex.Engine(T="C", P="bar"))
+    lines = [[line.get_xydata() for line in d.axes.lines] for d in (diagram, like)]
+    assert len(lines[0]) == len(lines[1]) > 10
+    for one, other in zip(*lines):
+        np.testing.assert_allclose(one, other, rtol=1e-9)
+    texts = [text.get_text() for text in diagram.axes.texts]
+    labels = diagram.axes.get_xlabel() + diagram.axes.get_ylabel()
+    assert not any("barg" in text for text in (*texts, labels))
+    if "P" in diagram.kind.families:
+        assert sum(text.endswith(" bara") for text in texts) >= 5
+    if "P" in (diagram.kind.x, diagram.kind.y):
+        assert "pressure, bara (absolute)" in labels
+    assert not recwarn.list
+    for each in (diagram, like):
+        each.close()
+
+
+def test_the_window_of_a_gauge_is_given_in_its_unit():
+    diagram = plot.logph(calvex.Engine(P="barg"), ylim=(0, 99))
+    assert diagram.axes.get_ylim() == pytest.approx((1.01325, 100.01325))
+    diagram.close()
+    with pytest.raises(ValueError, match=r"pressure above -1\.01325 barg, in this order"):
+        plot.logph(calvex.Engine(P="barg"), ylim=(-2, 99))
+
+
+def test_states_of_other_engines_are_drawn_where_they_belong(steam):
+    diagram = plot.hs(steam).draw([calvex.state(P=10, T=773.15)])
+    point = diagram.axes.lines[-1].get_xydata()[0]
+    assert point == pytest.approx([6.59706, 3374.0], rel=1e-5)
+    diagram.close()
+    gauge = calvex.Engine(T="C", P="barg", H="J/kg")
+    diagram = plot.logph(gauge).draw(gauge.state(P=99, T=500))
+    assert diagram.axes.lines[-1].get_xydata()[0] == pytest.approx([gauge.HPT(99, 500), 100.01325])
+    diagram.close()
+
+
+@pytest.mark.parametrize("wrong, kind, said", [
+    (lambda e: plot.Diagram("xy"), ValueError, "'xy'; there are Ts, hs, logph and Pv"),
+    (lambda e: plot.Diagram(3), ValueError, "there are Ts"),
+    (lambda e: plot.hs("steam"), TypeError, "units of a calvex.Engine, not of 'steam'"),
+    (lambda e: plot.hs(e, axes=3), TypeError, "axes are matplotlib's"),
+    (lambda e: plot.hs(e, size=3), ValueError, "width and height in inches"),
+    (lambda e: plot.hs(e, xlim=3), TypeError, "the lowest and the highest entropy"),
+    (lambda e: plot.hs(e, xlim=(9, 5)), ValueError, r"in this order, not \(9, 5\)"),
+    (lambda e: plot.logph(e, ylim=(0, 100)), ValueError, "pressure above 0 bara"),
+    (lambda e: plot.Ts(e, ylim=(0, float("nan"))), ValueError, "in this order"),
+])
+def test_a_wrong_diagram_is_refused_and_leaves_no_figure(steam, wrong, kind, said):
+    before = matplotlib.pyplot.get_fignums()
+    with pytest.raises(kind, match=said):
+        wrong(steam)
+    assert matplotlib.pyplot.get_fignums() == before
+
+
+@pytest.mark.parametrize("wrong", [3, "1", [3], [("1", 3)], [(3, "1")]])
+def test_what_is_no_process_is_refused(steam, wrong):
+    diagram = plot.Ts(steam)
+    lines = len(diagram.axes.lines)
+    with pytest.raises(TypeError, match="a process is a state or a list of states"):
+        diagram.draw(wrong)
+    with pytest.raises(TypeError, match="a process is a state or a list of states"):
+        diagram.draw(steam.TurbineA(3374, 100, 10, 0.8, 5))
+    assert len(diagram.axes.lines) == lines
+    diagram.close()
+
+
+@pytest.mark.parametrize("again", [lambda d: pickle.loads(pickle.dumps(d)), copy.deepcopy])
+def test_diagrams_are_pickled_and_copied(steam, again, tmp_path):
+    diagram = plot.Ts(steam).draw(rankine(steam), closed=True)
+    other = again(diagram).save(tmp_path / "b.svg")
+    diagram.save(tmp_path / "a.svg")
+    assert (tmp_path / "a.svg").read_bytes() == (tmp_path / "b.svg").read_bytes()
+    lines = len(diagram.axes.lines)
+    other.draw(steam.state(P=1, T=300))
+    assert len(other.axes.lines) > lines == len(diagram.axes.lines)
+    for each in (diagram, other):
+        each.close()
+
+
+def test_a_diagram_shows_itself_in_a_notebook_once(steam):
+    diagram = plot.Ts(steam)
+    number = diagram.figure.number
+    assert diagram._repr_svg_().startswith("<?xml") and "<svg" in diagram._repr_svg_()
+    assert diagram._repr_png_().startswith(b"\x89PNG")
+    assert number not in matplotlib.pyplot.get_fignums()
+    figure, axes = matplotlib.pyplot.subplots()
+    others = plot.Ts(steam, axes=axes)  # the figure is somebody else's to show
+    assert others._repr_svg_() is others._repr_png_() is None
+    assert figure.number in matplotlib.pyplot.get_fignums()
+    matplotlib.pyplot.close(figure)

@@ -32,7 +32,7 @@ def test_engines_are_copied_with_units_and_settings(again):
 def test_members_results_and_states_are_pickled(steam):
     for thing in (steam.HPT, calvex.HPT):
         again = pickle.loads(pickle.dumps(thing))
-        assert type(again) is np.ufunc and again(50, 500) == thing(50, 500)
+        assert isinstance(again, np.ufunc) and again(50, 500) == thing(50, 500)
     assert pickle.loads(pickle.dumps(np.add)) is np.add
     assert pickle.loads(pickle.dumps(steam.SetUserUnit)).__name__ == "SetUserUnit"
     work = steam.TurbineA(3374, 100, 10, 0.8, 5)
@@ -102,6 +102,31 @@ def test_units_may_change_while_others_compute():
     assert wrong == []
 
 
+def test_a_state_is_in_one_unit_while_others_change_it():
+    engine = calvex.Engine()
+    kelvin = calvex.TSatP(1.0)
+    expected = {"K": kelvin, "C": kelvin - 273.15}
+    stop, wrong = threading.Event(), []
+
+    def compute():
+        while not stop.is_set():
+            state = engine.state(P=1.0, x=0.5)
+            if abs(state.T - expected[state.unit("T")]) > 1e-6:
+                wrong.append((state.T, state.unit("T")))
+    threads = [threading.Thread(target=compute) for _ in range(4)]
+    for thread in threads:
+        thread.start()
+    for _ in range(300):
+        for unit in ("C", "K"):
+            engine.SetUserUnit("T", unit)
+            if engine.state(P=1.0, x=0.5).unit("T") != unit:
+                wrong.append(unit)
+    stop.set()
+    for thread in threads:
+        thread.join()
+    assert wrong == []
+
+
 def _enthalpies(engine, T):
     return engine.HPT(100, T)
 
@@ -164,7 +189,7 @@ def _fail(engine):
 
 
 LEAKS = {
-    "a million scalar calls": (1_000_000, lambda e: e.XT(100.0)),
+    "a million scalar calls": (1_000_000, lambda e: e.HPT(100.0, 500.0)),
     "named tuples": (100_000, lambda e: e.QTS_PH(10, 3000)),
     "failures": (30_000, _fail),
     "arrays": (3_000, lambda e: e.XT(np.linspace(10, 300, 100))),
@@ -172,6 +197,11 @@ LEAKS = {
     "grids": (30, lambda e: e.XT(np.full((200, 300), 20.0).T)),
     "engines with members": (300, lambda e: calvex.Engine(T="F").XT(100)),
     "states": (10_000, lambda e: e.state(P=100, T=500).w),
+    "states that fail": (3_000, lambda e: e.state(P=100, h=[9000, 2800], errors="ignore").reasons()),
+    "failures with causes": (3_000, lambda e: e.TPH(100, [9000.0, 2800.0], errors="ignore")),
+    "units that change": (300, lambda e: (e.SetUserUnit("T", "C"), e.state(P=100, T=500))),
+    "values and their sums": (10_000, lambda e: e.XT(100, unit=True) + e.XT(100, unit=True)),
+    "signatures and help": (1_000, lambda e: (e.HPT.__doc__, e.HPT.__signature__)),
     "pickles": (300, lambda e: pickle.loads(pickle.dumps(e)).XT(100)),
     "values": (10_000, lambda e: e.XT(100, unit=True)),
     "traces": (1_000, lambda e: str(e.trace())),
@@ -202,6 +232,14 @@ def test_a_library_that_is_absent_is_no_obstacle():
                          env={**os.environ, "PYTHONPATH": str(PACKAGE)}, cwd=ROOT)
     scalar, array = map(float, run.stdout.split())
     assert scalar == pytest.approx(array) == pytest.approx(3373.998, abs=1e-3)
+
+
+def test_without_numpy_it_says_what_is_missing():
+    program = "import sys\nsys.modules['numpy'] = None\nimport calvex\ncalvex.HPT(10, 773.15)"
+    run = subprocess.run([sys.executable, "-c", program], capture_output=True, text=True,
+                         env={**os.environ, "PYTHONPATH": str(PACKAGE)}, cwd=ROOT)
+    assert run.returncode == 1 and run.stderr.splitlines()[-1].startswith(
+        "ImportError: calvex computes with NumPy, which this Python does not have: apt install")
 
 
 # Prints the most threads that there are while an array is computed, beside the one that counts.

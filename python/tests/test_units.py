@@ -36,6 +36,12 @@ def test_units_that_the_catalogue_lacks_are_taken_too():
         assert engine.TSatP(29.9212) == pytest.approx(100, abs=0.05)
 
 
+def test_what_an_engine_prints_makes_another():
+    engine = calvex.Engine(T="°C", P="bar", flow="t/h", power="MW", duty="kW", errors="warn")
+    again = eval(repr(engine))
+    assert repr(again) == repr(engine) and again.unit("flow") == engine.unit("flow") == "te/h"
+
+
 def test_units_that_do_not_exist_are_refused_with_those_that_do():
     with pytest.raises(ValueError, match="'Grad' is not a unit of Temperature.*C, F, K, R"):
         calvex.Engine(T="Grad")
@@ -120,6 +126,17 @@ def test_any_pair_gives_the_state(steam, pair):
     for name in ("P", "T", "h", "s", "rho", "w"):
         assert getattr(again, name) == pytest.approx(getattr(first, name), rel=1e-8)
     assert again.phase == "supercritical"
+
+
+def test_words_name_the_properties_of_a_pair(steam):
+    h = steam.state(P=100, T=500).h
+    assert steam.state(pressure=100, temperature=500).h == h
+    assert steam.state(pressure=100, enthalpy=h).T == pytest.approx(500)
+    for word in ("x", "q", "quality", "vapour_fraction"):
+        assert steam.state(P=100, **{word: 0.5}).phase == "two-phase"
+    assert steam.state(T=500, specific_volume=steam.VPT(100, 500)).P == pytest.approx(100)
+    with pytest.raises(TypeError, match="'w' is none"):
+        steam.state(P=100, w=500)
 
 
 def test_phases_and_mixtures(steam):

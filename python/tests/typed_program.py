@@ -11,6 +11,8 @@ assert_type(calvex.HPT(10, 773.15), float)
 assert_type(steam.HPT(100, 500), float)
 assert_type(steam.HPT(100, [480, 500, 520]), "np.ndarray[Any, np.dtype[np.float64]]")
 assert_type(steam.HPT(100, 500, unit=True), Value)
+assert_type(steam.HPT(100, 500, unit="BTU/lb"), Value)
+assert_type(steam.HPT(100, 500, unit=True).unit, str)
 assert_type(steam.TurbineA(3374, 100, 10, 0.8, 5).Power, float)
 power, temperature, *rest = steam.TurbineA(3374, 100, 10, 0.8, 5)
 assert_type(steam.SatPolish, int)
@@ -27,6 +29,7 @@ try:
     steam.HPT(100, 3000, errors="raise")
 except calvex.CalvexError as failure:
     assert_type(failure.reason, str)
+    assert_type(failure.cause, str)
 
 steam.HPT(100)  # wrong
 steam.HPT("a", errors="explode")  # wrong
