@@ -110,8 +110,7 @@ Words completions(std::string_view before, std::string_view word) {
   } catch (const UsageError&) {  // within quotes
   }
   std::ranges::sort(found);
-  const auto repeated = std::ranges::unique(found);
-  found.erase(repeated.begin(), repeated.end());
+  found.erase(std::unique(found.begin(), found.end()), found.end());
   return found;
 }
 
