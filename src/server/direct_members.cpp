@@ -1,5 +1,7 @@
 #include "server/direct_members.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace calvex {
@@ -57,6 +59,30 @@ std::optional<direct::Units> directUnits(const UserUnits& units) {
     all.at(static_cast<std::size_t>(i)) = {factor, from.offset - to.offset / factor, from.name};
   }
   return all;
+}
+
+DirectReason directReason(direct::Pair pair, double first, double second,
+                          std::span<const direct::Letter> letters, const direct::Units& units,
+                          const ZvThermoInt& engine) {
+  DirectReason reason{direct::reason(pair, first, second, letters, units), {}};
+  if (reason.text.empty()) return reason;
+  ZvThermoInt asked;
+  asked.TakeSettings(engine);
+  asked.SetSatPolish(2);
+  const short status = messageNumber(reason.text);
+  // Those of the properties wanted first; the others refuse in the same words what all refuse.
+  for (const bool wanted : {true, false}) {
+    for (const Member& member : memberTable()) {
+      const std::optional<DirectMember> direct = directMember(member);
+      if (!direct || direct->pair != pair || direct->ofLiquid) continue;
+      if ((std::ranges::find(letters, direct->result) != letters.end()) != wanted) continue;
+      std::array<Value, 3> arguments{Value{}, first, second};
+      if (member.invoke(asked, arguments) != 0) continue;
+      if (messageNumber(asked.LastError()) != status) continue;
+      return {asked.LastError(), asked.diagnostics().cause()};
+    }
+  }
+  return reason;
 }
 
 bool hasDirectSettings(const ZvThermoInt& engine) {
