@@ -12,6 +12,10 @@
 /// assigned.
 #pragma once
 
+#if __cplusplus < 202002L && (!defined _MSVC_LANG || _MSVC_LANG < 202002L)
+#error "calvex.hpp needs C++20: -std=c++20"
+#endif
+
 #include <array>
 #include <cstddef>
 #include <initializer_list>

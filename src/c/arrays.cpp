@@ -1,6 +1,7 @@
 // Arrays: the direct road, and members over columns.
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 #include <limits>
@@ -183,8 +184,8 @@ int evaluate(calvex_engine& engine, const calvex_request& asked) {
     if (asked.phase.data != nullptr) putPhases(phases, chunk.begin, asked.phase, count);
   });
   keepFirstFailure(asked.status, n, [&](std::size_t i) {
-    std::vector<direct::Letter> letters;
-    for (const direct::Result& result : results) letters.push_back(result.letter);
+    std::vector<direct::Letter> letters(results.size());
+    std::ranges::transform(results, letters.begin(), &direct::Result::letter);
     tell(engine,
          directReason(pair, at(first, i), at(second, i), letters, units, engine.client.engine()));
   });

@@ -34,8 +34,9 @@ struct calvex_engine {
 
   /// A failure that the engine has answered.
   int fail(calvex::c::Misuse failure) noexcept {
+    const int code = failure.code;
     keep(std::move(failure));
-    return failure.code;
+    return code;
   }
 
   [[nodiscard]] std::string_view lastError() const noexcept {
