@@ -76,6 +76,38 @@ const Use uses[] = {
        char text[100];
        return calvex_member_text(0x8a, CALVEX_MEMBER_TITLE, text, sizeof text, nullptr);
      }},
+    {"an unknown unit", [](calvex_engine* e) { return calvex_set_unit(e, "P", 1, "psix", 4); }},
+    {"a call that fails without a word",
+     [](calvex_engine* e) {
+       return calvex_call_named(e, "GetCellRef", 10, nullptr, 0, nullptr, 0);
+     }},
+    {"a text that does not fit",
+     [](calvex_engine* e) {
+       char letter = '?';
+       return calvex_unit(e, 0, &letter, 1, nullptr);
+     }},
+    {"the reason of a state",
+     [](calvex_engine* e) {
+       char text[400];
+       return calvex_direct_reason(e, 'P', 'H', 1.0, 1e5, "T", 1, text, sizeof text, nullptr);
+     }},
+    {"columns of which one row fails",
+     [](calvex_engine* e) {
+       const double P = 1.0, T[] = {700.0, 3000.0};
+       double h[2];
+       short status[2];
+       const calvex_column inputs[] = {{&P, 0}, {T, 1}};
+       const calvex_output output{0, {h, 1}};
+       calvex_rows rows{};
+       rows.member = 0x33;
+       rows.count = 2;
+       rows.inputs = inputs;
+       rows.input_count = 2;
+       rows.outputs = &output;
+       rows.output_count = 1;
+       rows.status = {status, 1};
+       return calvex_columns(e, &rows, sizeof rows);
+     }},
     {"columns",
      [](calvex_engine* e) {
        const double P = 1.0, T = 700.0;
