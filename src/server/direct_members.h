@@ -26,13 +26,15 @@ struct DirectMember {
 /// units server, or none that values can be told in.
 [[nodiscard]] std::optional<direct::Units> directUnits(const UserUnits& units);
 
-/// Why a state of the direct road fails (Windows-1252), in the words of the member that refuses it;
-/// both empty when it does not.
+/// Why a state of the direct road fails; both texts are empty when it does not.
 struct DirectReason {
-  std::string text;
-  std::string cause;  ///< what is behind it where its text does not say so
+  std::string text;   ///< the member's message
+  std::string cause;  ///< what is behind it, where its text does not say all
 };
-/// \param units the engine's, whose members are asked.
+/// As the member says it that answers the letter refused, called anew: some 10 us to 1 ms. Where no
+/// member does (a viscosity from enthalpy, anything from enthalpy and entropy), as another one of
+/// the same state does.
+/// \param units the engine's, by `directUnits`; the inputs are in these.
 [[nodiscard]] DirectReason directReason(direct::Pair pair, double first, double second,
                                         std::span<const direct::Letter> letters,
                                         const direct::Units& units, const ZvThermoInt& engine);

@@ -79,7 +79,8 @@ TEST(Wrapper, AnEngineThatWasMovedAwaySaysSo) {
   gone = std::move(here);
   EXPECT_EQ(gone.unit("T"), "C");
   EXPECT_EQ(here.handle(), nullptr);  // NOLINT(bugprone-use-after-move)
-  gone = std::move(gone);             // NOLINT(clang-diagnostic-self-move)
+  Engine& itself = gone;
+  gone = std::move(itself);
   EXPECT_EQ(gone.unit("T"), "C");
 }
 
