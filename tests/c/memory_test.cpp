@@ -15,18 +15,24 @@ thread_local bool refused = false;
 
 }  // namespace
 
-// The array and nothrow forms end in these.
-[[gnu::noinline]] void* operator new(std::size_t size) {
+// The forms for arrays end in these.
+[[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
   if (left == 0) {
     refused = true;
-    throw std::bad_alloc();
+    return nullptr;
   }
   if (left > 0) --left;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
+  return std::malloc(size == 0 ? 1 : size);
+}
+[[gnu::noinline]] void* operator new(std::size_t size) {
+  if (void* memory = operator new(size, std::nothrow)) return memory;
   throw std::bad_alloc();
 }
 [[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
 [[gnu::noinline]] void operator delete(void* memory, std::size_t /*size*/) noexcept {
+  std::free(memory);
+}
+[[gnu::noinline]] void operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept {
   std::free(memory);
 }
 
