@@ -2,8 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <memory>
+#include <random>
 #include <string>
 #include <vector>
 
@@ -397,6 +399,44 @@ TEST(C, MisuseAnswersACodeAndATextAndWritesNothing) {
   EXPECT_EQ(calvex_trace_take(e, nullptr), CALVEX_NULL);
   EXPECT_EQ(calvex_trace_text(e, 0, nullptr, 0, nullptr), CALVEX_UNKNOWN);  // no picture yet
   EXPECT_EQ(h, untouched);
+}
+
+// Any member with any number of any values: a code, a text where it fails, and then no output.
+TEST(C, NonsenseAnswersACodeAndWritesNothing) {
+  const Engine engine = makeEngine();
+  calvex_engine* const e = engine.get();
+  std::mt19937 random(1984);
+  const double numbers[] = {0.0,   1.0,    -1.0,   10.0, 700.0, 3000.0, 0.5,
+                            1e308, -1e308, 5e-324, inf,  nan,   32768.0};
+  const char* const words[] = {"",           "T",    "P",      "C",     "bar",          "Pow",
+                               "Pow, T_Out", "\xFF", "\u96EA", nullptr, "no such word", "%s%n"};
+  int answered = 0;
+  for (int i = 0; i < 20000; ++i) {
+    int number = static_cast<int>(random() % 220);
+    calvex_member facts{};
+    const bool known = calvex_member_facts(number, &facts, sizeof facts) == CALVEX_OK;
+    const bool fits = random() % 4 != 0;  // else any counts
+    double given[8], results[16];
+    const char* texts[4];
+    for (double& x : given) x = numbers[random() % std::size(numbers)];
+    for (const char*& text : texts) text = words[random() % std::size(words)];
+    for (double& x : results) x = untouched;
+    const std::size_t inputs = fits && known ? facts.input_count : random() % 9;
+    const std::size_t wordCount = fits && known ? facts.text_count : random() % 5;
+    const std::size_t outputs = fits && known ? facts.output_count : random() % 17;
+    if (inputs > std::size(given) || wordCount > std::size(texts)) continue;
+    const int code = calvex_call_texts(e, number, random() % 50 == 0 ? nullptr : given, inputs,
+                                       random() % 50 == 0 ? nullptr : texts, nullptr, wordCount,
+                                       random() % 50 == 0 ? nullptr : results, outputs);
+    EXPECT_NE(code, CALVEX_INTERNAL) << number;
+    if (code == CALVEX_OK) {
+      ++answered;
+      continue;
+    }
+    EXPECT_NE(lastError(engine), "") << number;
+    for (const double x : results) EXPECT_EQ(x, untouched) << number;
+  }
+  EXPECT_GT(answered, 1000);
 }
 
 TEST(C, EveryFunctionWithAnEngineKnowsNone) {
