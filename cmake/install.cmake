@@ -65,8 +65,12 @@ while(components)
     continue()
   endif()
   # The licences go with each of them; outside of packages one copy is enough.
+  set(always)
+  if(NOT component STREQUAL library)
+    set(always EXCLUDE_FROM_ALL)
+  endif()
   install(FILES LICENSE THIRD-PARTY-NOTICES.md CHANGELOG.md
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${name} COMPONENT ${component})
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${name} COMPONENT ${component} ${always})
   string(TOUPPER ${component} upper)
   set(CPACK_DEBIAN_${upper}_PACKAGE_NAME ${name})
   set(CPACK_DEBIAN_${upper}_FILE_NAME DEB-DEFAULT)

@@ -9,7 +9,7 @@
 #include "encoding.h"
 #include "failure.h"
 #include "quantities.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 
 namespace calvex::cli {
 

@@ -12,7 +12,7 @@
 #include "numbers.h"
 #include "quantities.h"
 #include "server/member_explanations.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 #include "units/unit_words.h"
 
 namespace calvex::cli {
@@ -134,21 +134,6 @@ void collectWarnings(const ZvFunctionCall& node, const UserUnits& units,
   }
 }
 
-// Why a member refuses that leaves no word of it.
-std::string silentReason(const Call& call) {
-  if (call.member->name == "SetCustomUserUnitIndex") {
-    return fmt::format("custom units need AppLevel 3 and a group number 0 to {}",
-                       unitGroupCount - 1);
-  }
-  if (!call.isPut || call.member->name != "AppLevel") return {};
-  const short level = std::get<short>(call.arguments.front());
-  return level == 1 ? "there is no units server here"
-                    : fmt::format(
-                          "{} is not 0 or 2 (units of the catalogue), 1 (a units server) or "
-                          "3 (units of one's own)",
-                          level);
-}
-
 // What the user of a setting's new value should know.
 std::string settingNotice(const Member& member, const Value& value) {
   if (member.name != "SatPolish") return {};
@@ -161,17 +146,8 @@ std::string settingNotice(const Member& member, const Value& value) {
 // For a call that names a unit group and units of it: what is wrong with the names, with the
 // nearest ones; empty when nothing is.
 std::string unitHint(const Call& call) {
-  std::vector<Value> arguments = call.arguments;
-  try {
-    forEachUnitName(
-        *call.member, arguments, [](const std::string& text) { return findGroup(toUtf8(text)); },
-        [](UnitGroup group, const std::string& text) {
-          static_cast<void>(findUnit(group, toUtf8(text)));
-        });
-  } catch (const UsageError& error) {
-    return error.what();
-  }
-  return {};
+  const std::optional<Unknown> unknown = unknownName(*call.member, call.arguments);
+  return unknown ? fmt::format("{}\n{}", unknown->reason, unknown->known) : std::string();
 }
 
 // The messages of the spreadsheet members' tokens.
@@ -196,9 +172,7 @@ std::string limitsText(const Limits& limits, const Parameter& parameter, const U
 
 const Member& memberNamed(std::string_view name) {
   if (const Member* member = findMember(name)) return *member;
-  std::vector<std::string> names;
-  for (const Member& member : memberTable()) names.emplace_back(member.name);
-  const std::string suggestion = didYouMean(name, names);
+  const std::string suggestion = didYouMeanMember(name);
   throw UsageError(fmt::format("there is no member {}{}", inQuotes(name),
                                suggestion.empty() ? "; 'calvex members' lists them" : suggestion));
 }
@@ -308,24 +282,18 @@ Outcome perform(Client& client, Call call) {
 }
 
 std::string failureText(const Outcome& outcome) {
-  const std::string_view name = outcome.call.member->name;
-  if (!outcome.tracing) {
-    return fmt::format(
-        "{} failed; tracing is off, so no reason was recorded "
-        "(FunctionCallTracing 1 turns it on)",
-        name);
-  }
+  const Call& call = outcome.call;
   if (!outcome.reasonRecorded) {
-    const std::string reason = silentReason(outcome.call);
-    return reason.empty() ? fmt::format("{} failed and gave no reason", name)
-                          : fmt::format("{} failed: {}", name, reason);
+    return silentFailure(*call.member, call.isPut, call.arguments, outcome.tracing);
   }
-  return fmt::format("{} failed: {}", name, outcome.lastError);
+  return fmt::format("{} failed: {}", call.member->name, outcome.lastError);
 }
 
 std::string hint(const Outcome& outcome) {
   const Call& call = outcome.call;
-  if (!outcome.reasonRecorded && !silentReason(call).empty()) return {};
+  if (!outcome.reasonRecorded && !silentReason(*call.member, call.isPut, call.arguments).empty()) {
+    return {};
+  }
   if (outcome.reasonRecorded && isTokenError(outcome.lastError)) {
     std::vector<std::string_view> names;
     for (const spreadsheet::Token& token : tokensOf(*call.member)) names.push_back(token.text);

@@ -8,7 +8,7 @@
 #include "call.h"
 #include "encoding.h"
 #include "failure.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 #include "units/unit_words.h"
 
 namespace calvex::cli {
@@ -88,37 +88,19 @@ const UnitGroupRow& row(UnitGroup group) {
 }
 
 UnitGroup findGroup(std::string_view keyword) {
-  std::vector<std::string> keywords;
-  std::vector<std::string_view> firsts;
   for (int group = 0; group < unitGroupCount; ++group) {
-    for (const std::string_view candidate : row(UnitGroup(group)).keywords) {
-      if (candidate == keyword) return UnitGroup(group);
-      // Every word stands in the catalogue twice, the second time in small letters.
-      if (candidate != lowerCase(candidate)) keywords.emplace_back(candidate);
-    }
-    firsts.push_back(row(UnitGroup(group)).keywords.front());
+    if (std::ranges::count(row(UnitGroup(group)).keywords, keyword) != 0) return UnitGroup(group);
   }
   if (const std::optional<UnitGroup> group = findGroupWord(keyword)) return *group;
-  throw UsageError(fmt::format("{} is not a unit group{}\nGroups: {} (calvex units explains them)",
-                               inQuotes(keyword), didYouMean(keyword, keywords),
-                               fmt::join(firsts, ", ")));
+  const Unknown unknown = unknownGroup(keyword);
+  throw UsageError(
+      fmt::format("{}\n{} (calvex units explains them)", unknown.reason, unknown.known));
 }
 
 const ZvUomLiteKeyword& findUnit(UnitGroup group, std::string_view unit) {
-  const UnitWord found = findUnitWord(group, unit);
-  if (found.unit != nullptr) return *found.unit;
-  std::vector<std::string> names, candidates;
-  for (const ZvUomLiteKeyword& known : row(group).units) names.push_back(toUtf8(known.name));
-  for (const ZvUomLiteKeyword& known : unitsBesideCatalogue(group)) names.emplace_back(known.name);
-  for (const ZvUomLiteKeyword* known : found.candidates) candidates.push_back(toUtf8(known->name));
-  std::string help = didYouMean(unit, names);
-  if (!found.refusal.empty()) help = fmt::format("; {}", found.refusal);
-  if (!candidates.empty()) {
-    help = fmt::format("; did you mean {}? Write it so: m is milli, M is mega",
-                       fmt::join(candidates, " or "));
-  }
-  throw UsageError(fmt::format("{} is not a unit of {}{}\nUnits: {}", inQuotes(unit),
-                               row(group).displayName, help, fmt::join(names, ", ")));
+  if (const ZvUomLiteKeyword* found = findUnitWord(group, unit).unit) return *found;
+  const Unknown unknown = unknownUnit(group, unit);
+  throw UsageError(fmt::format("{}\n{}", unknown.reason, unknown.known));
 }
 
 std::string settingWarning(const std::string& choice) {

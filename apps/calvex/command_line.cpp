@@ -11,7 +11,7 @@
 #include "encoding.h"
 #include "quantities.h"
 #include "server/member_explanations.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 #include "terminal.h"
 
 namespace calvex::cli {

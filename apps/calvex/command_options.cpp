@@ -9,7 +9,7 @@
 #include "client.h"
 #include "command_line.h"
 #include "encoding.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 
 namespace calvex::cli {
 

@@ -8,7 +8,7 @@
 #include "command_line.h"
 #include "diagnostics/formatting.h"
 #include "encoding.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 
 namespace calvex::cli {
 

@@ -9,7 +9,7 @@
 #include "config.h"
 #include "diagnostics/formatting.h"
 #include "encoding.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 #include "units/unit_words.h"
 
 namespace calvex::cli {

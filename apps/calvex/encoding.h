@@ -9,9 +9,6 @@
 
 namespace calvex::cli {
 
-/// 'word' as it stands in a message: well-formed, on one line and not too long.
-[[nodiscard]] std::string inQuotes(std::string_view word);
-
 /// Characters that a terminal shows, for aligned columns (one column each).
 [[nodiscard]] std::size_t width(std::string_view utf8);
 

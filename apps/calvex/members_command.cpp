@@ -12,7 +12,7 @@
 #include "member_help.h"
 #include "output.h"
 #include "server/member_explanations.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 
 namespace calvex::cli {
 

@@ -12,7 +12,7 @@
 #include "failure.h"
 #include "numbers.h"
 #include "server/member_explanations.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 
 namespace calvex::cli {
 

@@ -11,7 +11,7 @@
 #include "encoding.h"
 #include "numbers.h"
 #include "output.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 
 namespace calvex::cli {
 

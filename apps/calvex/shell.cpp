@@ -10,7 +10,7 @@
 #include "encoding.h"
 #include "line_editor.h"
 #include "script.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 #include "units/unit_words.h"
 
 namespace calvex::cli {

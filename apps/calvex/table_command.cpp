@@ -14,7 +14,7 @@
 #include "output.h"
 #include "progress.h"
 #include "quantities.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 #include "water.h"
 
 namespace calvex::cli {

@@ -9,7 +9,7 @@
 #include "encoding.h"
 #include "numbers.h"
 #include "output.h"
-#include "suggestions.h"
+#include "server/suggestions.h"
 #include "units/unit_words.h"
 
 namespace calvex::cli {

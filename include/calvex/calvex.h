@@ -11,7 +11,8 @@
  *     calvex_destroy(engine);
  *
  * Every function answers a code: 0 for success, a positive number when the engine has no answer, a
- * negative one for misuse. On failure nothing is written. No exception and no abort comes out.
+ * negative one for misuse. On failure nothing is written. No exception and no abort comes out. Why
+ * a function with an engine fails `calvex_last_error` and `calvex_last_cause` tell.
  *
  * Texts are UTF-8. A text that goes in has its size beside it, CALVEX_TERMINATED where a zero byte
  * ends it. A text that comes out is asked for as
@@ -22,11 +23,15 @@
  * a size of 0 that is all (`text` may be NULL); a text that does not fit is cut between two
  * characters, ended with a zero byte, and the answer is CALVEX_TOO_SMALL.
  *
- * An engine serves one thread at a time. There may be any number of engines, at work at the same
- * time: they share nothing. Functions without an engine may be called at any time by any thread.
+ * An engine serves one thread at a time: that goes for each function that takes it, those that only
+ * read its texts included. There may be any number of engines, at work at the same time: they share
+ * nothing. Functions without an engine may be called at any time by any thread. Threads that
+ * `calvex_direct` and `calvex_columns` start are theirs and gone when they return.
  *
- * Where a structure is passed, its size is passed with it: what a later version adds at its end, a
- * program that was built before does not see.
+ * Facts and requests are passed with the size of their structure (sizeof), to which a later version
+ * may add fields at the end. A program goes on with a later library as it was built. With an
+ * earlier library than it was built for, new fields of facts are 0, and a request is refused
+ * (CALVEX_COUNT). The structures that stand in lists or in other structures stay as they are.
  */
 #ifndef CALVEX_CALVEX_H
 #define CALVEX_CALVEX_H
@@ -50,8 +55,8 @@ extern "C" {
 enum calvex_code {
   CALVEX_OK = 0,
   CALVEX_NULL = -1,    /**< a pointer is NULL that must not be */
-  CALVEX_UNKNOWN = -2, /**< no member, group, letter, row or node of that name or number */
-  CALVEX_COUNT = -3,   /**< not as many values as there must be, or too many to exist */
+  CALVEX_UNKNOWN = -2, /**< no member, group, unit, letter, row or node of that name or number */
+  CALVEX_COUNT = -3,   /**< not as many values or bytes as there must be, or too many to exist */
   CALVEX_VALUE = -4,   /**< not a value of the kind that there must be */
   CALVEX_ENCODING =
       -5, /**< not UTF-8, or a character that the engine's texts (Windows-1252) lack */
@@ -73,7 +78,8 @@ typedef struct calvex_engine calvex_engine;
  * line (SatPolish 2), errors and warnings in the trace (TraceLevel 1). */
 CALVEX_API int calvex_create(calvex_engine** engine);
 
-/** NULL is no engine and no misuse. */
+/** NULL is no engine and no misuse. An engine is destroyed once, and not used afterwards: what else
+ * happens is undefined. Set the pointer to NULL where it lives on. */
 CALVEX_API int calvex_destroy(calvex_engine* engine);
 
 /** Trace and settings as at the beginning. The units stay. */
@@ -82,11 +88,13 @@ CALVEX_API int calvex_reset(calvex_engine* engine);
 /** Takes over another engine's units and the settings that results depend on. */
 CALVEX_API int calvex_take_settings(calvex_engine* engine, const calvex_engine* other);
 
-/** The text of the last failure of this engine, misuse included; a success does not empty it. */
+/** The text of the last failure of this engine, misuse included: that of the call just made, if it
+ * failed. A success does not empty it; these two functions do not change it. */
 CALVEX_API int calvex_last_error(const calvex_engine* engine, char* text, size_t size,
                                  size_t* needed);
 
-/** What is behind the last failure where its text does not say so; mostly empty. */
+/** What is behind the last failure where its text does not say so; mostly empty. Of an unknown unit
+ * or group: those that there are. */
 CALVEX_API int calvex_last_cause(const calvex_engine* engine, char* text, size_t size,
                                  size_t* needed);
 
@@ -217,7 +225,8 @@ CALVEX_API int calvex_group_text(int group, int what, char* text, size_t size, s
 CALVEX_API int calvex_unit_count(int group, size_t* count);
 CALVEX_API int calvex_unit_name(int group, size_t index, char* text, size_t size, size_t* needed);
 
-/** Chooses a unit in plain words: ("pressure", "bar"), ("T", "°C"). */
+/** Chooses a unit in plain words: ("pressure", "bar"), ("T", "°C"). CALVEX_UNKNOWN: there is no
+ * such group, or it has no such unit; the engine's texts tell the nearest, and all. */
 CALVEX_API int calvex_set_unit(calvex_engine* engine, const char* group, size_t group_size,
                                const char* unit, size_t unit_size);
 /** The unit of a group that the engine's values have now. */
@@ -276,7 +285,8 @@ typedef struct calvex_codes {
 } calvex_codes;
 
 /** Told of a row that fails, by the thread that has the row; several may call at once unless
- * `threads` is 1. `text` holds during the call. */
+ * `threads` is 1. `text`, the reason and the cause behind it, holds during the call, which must not
+ * use the engine. */
 typedef void (*calvex_reason)(void* context, size_t row, const char* text, size_t text_size);
 
 /** One property of every point by its letter (P T H S U R V Q A G M K C D Z W N E I J B L) with its
@@ -314,11 +324,13 @@ typedef struct calvex_request {
 } calvex_request;
 
 /** Computes the states. A failed point's results are NaN and its neighbours untouched; the code is
- * that of the request, not of its points. It leaves no trace. */
+ * that of the request, not of its points. Where `status` is asked for, the first point that fails
+ * is the engine's last failure. It leaves no trace. */
 CALVEX_API int calvex_direct(calvex_engine* engine, const calvex_request* request,
                              size_t request_size);
 
-/** Why a point fails, in the engine's units; empty when it does not. */
+/** Why a point fails, in the engine's units; empty when it does not. The same becomes the engine's
+ * last failure, so that `calvex_last_cause` tells what is behind it. */
 CALVEX_API int calvex_direct_reason(calvex_engine* engine, char first_letter, char second_letter,
                                     double first, double second, const char* letters,
                                     size_t letter_count, char* text, size_t size, size_t* needed);
@@ -345,7 +357,8 @@ typedef struct calvex_rows {
 /** A member for each row of columns, with the engine's units and settings: every member that
  * computes numbers from numbers; an XL member's outputs are those that its tokens name. Answers are
  * the member's to 1e-10, mostly by the direct road. A failed row's outputs are NaN; the code is
- * that of the request. It leaves no trace. */
+ * that of the request. Where `status` is asked for, the first row that fails is the engine's last
+ * failure. It leaves no trace. */
 CALVEX_API int calvex_columns(calvex_engine* engine, const calvex_rows* rows, size_t rows_size);
 
 /** Name and unit group (-1: none) of an input or output for `calvex_columns`: "P", "TOut". */

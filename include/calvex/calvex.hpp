@@ -7,8 +7,14 @@
 ///     steam.unit("pressure", "bar");
 ///     const double h = steam.HPT(100, 500);  // throws calvex::Error where there is no answer
 ///
-/// An engine serves one thread at a time; make one for each thread. Texts are UTF-8.
+/// An engine serves one thread at a time; make one for each thread. Texts are UTF-8. An engine that
+/// was moved away answers every call with calvex::Error, code CALVEX_NULL, until another is
+/// assigned.
 #pragma once
+
+#if __cplusplus < 202002L && (!defined _MSVC_LANG || _MSVC_LANG < 202002L)
+#error "calvex.hpp needs C++20: -std=c++20"
+#endif
 
 #include <array>
 #include <cstddef>
@@ -26,15 +32,28 @@
 
 namespace calvex {
 
-/// A call that failed, with the engine's text.
+/// A call that failed: `what()` is the reason and, where there is one, the cause behind it.
 class Error : public std::runtime_error {
  public:
-  Error(int code, const std::string& text) : std::runtime_error(text), code_(code) {}
+  Error(int code, const std::string& reason, const std::string& cause = {})
+      : std::runtime_error(cause.empty() ? reason : reason + ' ' + cause),
+        code_(code),
+        reasonSize_(reason.size()) {}
   /// The number of the engine's message, or a negative code of calvex.h.
   [[nodiscard]] int code() const noexcept { return code_; }
+  /// The engine's text.
+  [[nodiscard]] std::string_view reason() const noexcept {
+    return std::string_view(what()).substr(0, reasonSize_);
+  }
+  /// What is behind the reason where it does not say so itself; mostly empty.
+  [[nodiscard]] std::string_view cause() const noexcept {
+    const std::string_view all = what();
+    return all.size() > reasonSize_ ? all.substr(reasonSize_ + 1) : std::string_view();
+  }
 
  private:
   int code_;
+  std::size_t reasonSize_;
 };
 
 /// An answer with rows and columns.
@@ -55,11 +74,12 @@ class Core {
   ~Core() { calvex_destroy(engine_); }
   Core(Core&& other) noexcept : engine_(std::exchange(other.engine_, nullptr)) {}
   Core& operator=(Core&& other) noexcept {
-    std::swap(engine_, other.engine_);
+    Core moved(std::move(other));
+    std::swap(engine_, moved.engine_);
     return *this;
   }
 
-  /// For the functions of calvex.h.
+  /// For the functions of calvex.h; NULL when it was moved away.
   [[nodiscard]] calvex_engine* handle() const noexcept { return engine_; }
 
   /// Trace and settings as at the beginning. The units stay.
@@ -74,19 +94,25 @@ class Core {
   /// The unit of a quantity.
   [[nodiscard]] std::string unit(std::string_view group) const {
     int number = 0;
-    if (const int code = calvex_find_group(group.data(), group.size(), &number);
-        code != CALVEX_OK) {
-      throw Error(code, std::string(group) + " is not a unit group");
+    if (calvex_find_group(group.data(), group.size(), &number) != CALVEX_OK) {
+      // Fails as well, and tells what groups there are.
+      check(calvex_set_unit(engine_, group.data(), group.size(), "", 0));
     }
     return text([&](char* target, std::size_t size, std::size_t* needed) {
       return calvex_unit(engine_, number, target, size, needed);
     });
   }
 
-  /// What the last call has failed of.
+  /// What the last failure was, and what is behind it: of a call, or of the first state of `states`
+  /// that failed, where `status` was asked for.
   [[nodiscard]] std::string lastError() const {
     return text([&](char* target, std::size_t size, std::size_t* needed) {
       return calvex_last_error(engine_, target, size, needed);
+    });
+  }
+  [[nodiscard]] std::string lastCause() const {
+    return text([&](char* target, std::size_t size, std::size_t* needed) {
+      return calvex_last_cause(engine_, target, size, needed);
     });
   }
 
@@ -103,7 +129,11 @@ class Core {
               std::span<const StateResult> results, std::span<short> status = {},
               std::span<short> phase = {}) {
     const std::size_t n = first.size();
-    bool fits = pair.size() == 2 && second.size() == n;
+    if (pair.size() != 2) {
+      throw Error(CALVEX_UNKNOWN,
+                  "A pair is two letters, such as PH, not \"" + std::string(pair) + "\".");
+    }
+    bool fits = second.size() == n;
     const auto target = [&](auto span) {
       fits = fits && (span.empty() || span.size() == n);
       return span.empty() ? nullptr : span.data();
@@ -118,7 +148,10 @@ class Core {
     calvex_request request{};
     request.status = {target(status), 1};
     request.phase = {target(phase), 1};
-    if (!fits) throw Error(CALVEX_COUNT, "spans of states have different sizes");
+    if (!fits) {
+      throw Error(CALVEX_COUNT, "Every span of states has as many elements as the first, " +
+                                    std::to_string(n) + ", or is left out.");
+    }
     request.first_letter = pair[0];
     request.second_letter = pair[1];
     request.count = n;
@@ -179,15 +212,16 @@ class Core {
   void check(int code) const {
     if (code == CALVEX_OK) return;
     if (code == CALVEX_MEMORY) throw std::bad_alloc();
-    throw Error(code, engine_ == nullptr ? "there is no engine" : lastError());
+    if (engine_ == nullptr) throw Error(code, "There is no engine: it was moved away.");
+    throw Error(code, lastError(), lastCause());
   }
 
   template <class Get>
-  static std::string text(Get get) {
+  std::string text(Get get) const {
     std::size_t needed = 1;
-    get(nullptr, 0, &needed);
+    check(get(nullptr, 0, &needed));
     std::string answer(needed, '\0');
-    get(answer.data(), answer.size(), &needed);
+    check(get(answer.data(), answer.size(), &needed));
     answer.pop_back();
     return answer;
   }

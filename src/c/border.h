@@ -17,28 +17,24 @@
 
 namespace calvex::c {
 
-/// A call that breaks the rules of the interface: its code and, for an engine to keep, why.
+/// A call that breaks the rules of the interface: its code and, for an engine to keep, why, and
+/// what is behind it. Texts are sentences, as the engine's are, and name the arguments of calvex.h.
 struct Misuse {
   int code;
   std::string text;
+  std::string cause = {};
 };
 
-/// A text given by its size.
-inline std::string_view textOf(const char* text, std::size_t size) {
-  if (text == nullptr) {
-    if (size == 0) return {};
-    throw Misuse{CALVEX_NULL, "a text is NULL"};
-  }
-  if (size == CALVEX_TERMINATED) return text;
-  if (size > PTRDIFF_MAX) throw Misuse{CALVEX_COUNT, "a text is longer than memory"};
-  return {text, size};
-}
+/// A text given by its size; `name` is the argument's.
+std::string_view textOf(const char* text, std::size_t size, std::string_view name);
 
 /// The engine's own text for one in UTF-8.
 std::string engineText(std::string_view utf8);
 
-/// Hands a text out.
-int giveText(std::string_view utf8, char* text, std::size_t size, std::size_t* needed) noexcept;
+/// Hands a text out, whole or cut: CALVEX_OK, CALVEX_NULL or CALVEX_TOO_SMALL.
+int copyText(std::string_view utf8, char* text, std::size_t size, std::size_t* needed) noexcept;
+/// The same. \throws Misuse when it is not handed out whole.
+int giveText(std::string_view utf8, char* text, std::size_t size, std::size_t* needed);
 
 /// The code of the engine's error of that text.
 int codeOf(std::string_view error) noexcept;
@@ -46,43 +42,37 @@ int codeOf(std::string_view error) noexcept;
 /// \throws Misuse when there is none.
 const Member& memberOf(int number);
 
-inline void require(const void* pointer, const char* name) {
-  if (pointer == nullptr) throw Misuse{CALVEX_NULL, std::string(name) + " is NULL"};
-}
-inline void requireIndex(std::size_t index, std::size_t count, const char* what) {
-  if (index >= count) {
-    throw Misuse{CALVEX_UNKNOWN, "there is no " + std::string(what) + " " + std::to_string(index) +
-                                     ": there are " + std::to_string(count)};
-  }
-}
+void require(const void* pointer, const char* name);
+void requireIndex(std::size_t index, std::size_t count, const char* what);
+/// The sizes of structures: these are the first versions, so that none is smaller.
+void requireFactsSize(std::size_t size, std::size_t known);
+void requireRequestSize(std::size_t size, std::size_t known);
 
-/// Copies the facts. This is the first version of the structures: none is smaller.
+/// Copies the facts. What a later version has behind them is 0.
 template <class Facts>
 void giveFacts(const Facts& facts, Facts* target, std::size_t size) {
-  require(target, "the structure for facts");
-  if (size < sizeof facts) {
-    throw Misuse{CALVEX_COUNT, "the size is not that of a structure known here"};
-  }
+  require(target, "facts");
+  requireFactsSize(size, sizeof facts);
   std::memcpy(target, &facts, sizeof facts);
+  std::memset(reinterpret_cast<char*>(target) + sizeof facts, 0, size - sizeof facts);
 }
-/// Reads a request, of which this is the first version.
+/// Reads a request. What a later version asks for behind it cannot be done, and is refused.
 template <class Request>
-Request requestOf(const Request* source, std::size_t size) {
-  require(source, "the request");
-  if (size != sizeof(Request)) {
-    throw Misuse{CALVEX_COUNT, "the request's size is not that of a structure known here"};
-  }
+Request requestOf(const Request* source, std::size_t size, const char* name) {
+  require(source, name);
+  requireRequestSize(size, sizeof(Request));
   return *source;
 }
 
-/// Runs a body that answers a code; `keep` takes what goes wrong, a text of its own or a literal.
+/// Runs a body that answers a code; `keep` takes what goes wrong, a Misuse or a literal.
 template <class Body, class Keep>
 int guarded(Body&& body, Keep&& keep) noexcept {
   try {
     return body();
   } catch (Misuse& misuse) {
-    keep(std::move(misuse.text));
-    return misuse.code;
+    const int code = misuse.code;
+    keep(std::move(misuse));
+    return code;
   } catch (const std::bad_alloc&) {
     keep("Out of memory.");
     return CALVEX_MEMORY;

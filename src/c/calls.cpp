@@ -1,10 +1,14 @@
 // Calls of members, and what they answer besides numbers.
+#include <fmt/format.h>
+
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <span>
 
 #include "c/engine.h"
 #include "diagnostics/messages.h"
+#include "server/member_columns.h"
 #include "units/encoding.h"
 
 using namespace calvex;
@@ -25,8 +29,8 @@ struct Inputs {
   Value take(const Member& member, const Parameter& parameter) {
     if (parameter.type == ValueType::text) {
       const std::size_t i = nextText++;
-      return c::engineText(
-          c::textOf(texts[i], textSizes == nullptr ? CALVEX_TERMINATED : textSizes[i]));
+      return c::engineText(c::textOf(
+          texts[i], textSizes == nullptr ? CALVEX_TERMINATED : textSizes[i], parameter.name));
     }
     const double number = numbers[nextNumber++];
     switch (parameter.type) {
@@ -47,10 +51,10 @@ struct Inputs {
     if (number >= low && number <= high && number == std::trunc(number)) {
       return static_cast<Integer>(number);
     }
-    throw Misuse{CALVEX_VALUE, std::string(parameter.name) + " of " + std::string(member.name) +
-                                   " is a whole number from " +
-                                   std::to_string(std::numeric_limits<Integer>::min()) + " to " +
-                                   std::to_string(std::numeric_limits<Integer>::max())};
+    throw Misuse{CALVEX_VALUE,
+                 fmt::format("{} of {} must be a whole number from {} to {}, not {}.",
+                             parameter.name, member.name, std::numeric_limits<Integer>::min(),
+                             std::numeric_limits<Integer>::max(), number)};
   }
 };
 
@@ -58,15 +62,48 @@ bool isNumber(const Parameter& parameter) {
   return parameter.type != ValueType::text && parameter.type != ValueType::array;
 }
 
-// As many as there must be, and there.
-void require(const Member& member, const char* what, std::size_t expected, std::size_t count,
-             const void* values) {
-  if (count != expected) {
-    throw Misuse{CALVEX_COUNT, std::string(member.name) + " has " + std::to_string(expected) + " " +
-                                   what + ", but " + std::to_string(count) +
-                                   (count == 1 ? " was given" : " were given")};
+bool isNumberIn(const Parameter& parameter) { return isNumber(parameter) && parameter.isInput(); }
+bool isNumberOut(const Parameter& parameter) { return isNumber(parameter) && !parameter.isInput(); }
+bool isTextIn(const Parameter& parameter) {
+  return parameter.type == ValueType::text && parameter.isInput();
+}
+
+// The parameters of one kind, and the arguments of a call that have them.
+struct Kind {
+  bool (*has)(const Parameter&);
+  const char* what;
+  const char* values;
+  const char* count;
+};
+constexpr Kind numbersIn{isNumberIn, "takes {} number", "inputs", "input_count"};
+constexpr Kind textsIn{isTextIn, "takes {} text", "texts", "text_count"};
+constexpr Kind numbersOut{isNumberOut, "gives {} number", "outputs", "output_count"};
+
+// "HPT takes 2 numbers (P, T)"
+std::string described(const Member& member, const Kind& kind) {
+  std::size_t count = 0;
+  std::string names;
+  for (const Parameter& parameter : member.parameters()) {
+    if (!kind.has(parameter)) continue;
+    names.append(count++ == 0 ? " (" : ", ").append(parameter.name);
   }
-  if (expected != 0) c::require(values, what);
+  if (count != 0) names += ')';
+  return fmt::format("{} {}{}{}", member.name, fmt::format(fmt::runtime(kind.what), count),
+                     count == 1 ? "" : "s", names);
+}
+
+// As many values as there must be, and there.
+void require(const Member& member, const Kind& kind, std::size_t count, const void* values) {
+  const auto expected =
+      static_cast<std::size_t>(std::ranges::count_if(member.parameters(), kind.has));
+  if (count != expected) {
+    throw Misuse{CALVEX_COUNT,
+                 fmt::format("{}, but {} is {}.", described(member, kind), kind.count, count)};
+  }
+  if (expected != 0 && values == nullptr) {
+    throw Misuse{CALVEX_NULL,
+                 fmt::format("{}, but {} is NULL.", described(member, kind), kind.values)};
+  }
 }
 
 // A result that the member left out is no number; of whole numbers there is none, so it is 0.
@@ -77,37 +114,44 @@ double toDouble(const Value& value, ValueType type) {
   return type == ValueType::real ? std::numeric_limits<double>::quiet_NaN() : 0.0;
 }
 
-// The failure of a call that the engine refused.
-int refused(calvex_engine& engine, const Member& member, const EntryOfCall& left) {
-  const Diagnostics& diagnostics = engine.client.engine().diagnostics();
-  if (left.hasReason()) {
-    return engine.fail(c::codeOf(diagnostics.lastError()), toUtf8(diagnostics.lastError()),
-                       toUtf8(diagnostics.cause()));
+// What the call could have named instead: a unit, or a token of a spreadsheet member.
+std::string namesFor(const Member& member, std::span<const Value> arguments,
+                     std::string_view error) {
+  if (const std::optional<Unknown> unknown = unknownName(member, arguments)) {
+    return unknown->known + ".";
   }
-  const std::string name(member.name);
-  return engine.fail(static_cast<int>(Message::errorFrame),
-                     diagnostics.tracing() ? name + " failed and gave no reason"
-                                           : name +
-                                                 " failed; tracing is off, so no reason was "
-                                                 "recorded (FunctionCallTracing 1 turns it on)");
+  const auto numeric = NumericMember::of(member);
+  if (!numeric || !member.name.starts_with("XL") || error.find("oken") == std::string_view::npos) {
+    return {};
+  }
+  std::string names;
+  for (const NumericMember::Slot& slot : numeric->outputs()) {
+    names.append(names.empty() ? "Tokens: " : ", ").append(slot.name);
+  }
+  return names + ".";
+}
+
+// The failure of a call that the engine refused.
+int refused(calvex_engine& engine, const Member& member, bool isPut,
+            std::span<const Value> arguments, const EntryOfCall& left) {
+  const Diagnostics& diagnostics = engine.client.engine().diagnostics();
+  if (!left.hasReason()) {
+    return engine.fail({static_cast<int>(Message::errorFrame),
+                        silentFailure(member, isPut, arguments, diagnostics.tracing()) + ".",
+                        {}});
+  }
+  const std::string& error = diagnostics.lastError();
+  const std::string& cause = diagnostics.cause();
+  return engine.fail({c::codeOf(error), toUtf8(error),
+                      cause.empty() ? namesFor(member, arguments, error) : toUtf8(cause)});
 }
 
 int call(calvex_engine& engine, const Member& member, Inputs inputs, double* outputs,
          std::size_t outputCount) {
   const std::span<const Parameter> parameters = member.parameters();
-  std::size_t numbers = 0;
-  std::size_t texts = 0;
-  std::size_t results = 0;
-  for (const Parameter& parameter : parameters) {
-    if (isNumber(parameter)) {
-      ++(parameter.isInput() ? numbers : results);
-    } else if (parameter.type == ValueType::text && parameter.isInput()) {
-      ++texts;
-    }
-  }
-  require(member, "numbers that go in", numbers, inputs.numbers.size(), inputs.numbers.data());
-  require(member, "texts that go in", texts, inputs.textCount, inputs.texts);
-  require(member, "numbers that come out", results, outputCount, outputs);
+  require(member, numbersIn, inputs.numbers.size(), inputs.numbers.data());
+  require(member, textsIn, inputs.textCount, inputs.texts);
+  require(member, numbersOut, outputCount, outputs);
 
   engine.answer.clear();
   std::vector<Value>& arguments = engine.arguments;
@@ -119,10 +163,10 @@ int call(calvex_engine& engine, const Member& member, Inputs inputs, double* out
       arguments[i] = inputs.take(member, parameters[i]);
     }
   }
-  const UnitChoice choice = texts == 0 ? UnitChoice{} : nameUnits(member, arguments);
+  const UnitChoice choice = inputs.textCount == 0 ? UnitChoice{} : nameUnits(member, arguments);
   const EntryOfCall left(engine.client.engine().diagnostics());
   if (engine.client.invoke(member, arguments, choice).success == 0) {
-    return refused(engine, member, left);
+    return refused(engine, member, false, arguments, left);
   }
   for (std::size_t i = 0; i < parameters.size(); ++i) {
     if (!parameters[i].isOutput()) continue;
@@ -140,17 +184,18 @@ int call(calvex_engine& engine, const Member& member, Inputs inputs, double* out
 int put(calvex_engine& engine, int number, bool isText, Inputs inputs) {
   const Member& member = c::memberOf(number);
   const std::string name(member.name);
-  if (!member.isProperty) throw Misuse{CALVEX_VALUE, name + " is not a setting"};
-  if (member.put == nullptr) throw Misuse{CALVEX_VALUE, name + " can only be read"};
+  if (!member.isProperty) throw Misuse{CALVEX_VALUE, name + " is not a setting."};
+  if (member.put == nullptr) throw Misuse{CALVEX_VALUE, name + " can only be read."};
   const Parameter& parameter = member.parameters().front();
   if ((parameter.type == ValueType::text) != isText) {
-    throw Misuse{CALVEX_VALUE, name + (isText ? " is a number" : " is a text")};
+    throw Misuse{CALVEX_VALUE, name + (isText ? " is a number, for calvex_put."
+                                              : " is a text, for calvex_put_text.")};
   }
   engine.answer.clear();
   Value value = inputs.take(member, parameter);
   const EntryOfCall left(engine.client.engine().diagnostics());
   const bool done = engine.client.object().put(member, {&value, 1}).success != 0;
-  return done ? CALVEX_OK : refused(engine, member, left);
+  return done ? CALVEX_OK : refused(engine, member, true, {&value, 1}, left);
 }
 
 const Cell& cellOf(const calvex_engine& engine, std::size_t row, std::size_t column) {
@@ -174,10 +219,12 @@ int calvex_call_named(calvex_engine* engine, const char* name, size_t name_size,
                       size_t output_count) {
   if (engine == nullptr) return CALVEX_NULL;
   return engine->guarded([&] {
-    const std::string_view wanted = c::textOf(name, name_size);
+    const std::string_view wanted = c::textOf(name, name_size, "name");
     const Member* member = findMember(wanted);
     if (member == nullptr) {
-      throw Misuse{CALVEX_UNKNOWN, "there is no member " + std::string(wanted)};
+      const std::string hint = didYouMeanMember(wanted);
+      throw Misuse{CALVEX_UNKNOWN, fmt::format("There is no member {}{}", inQuotes(wanted),
+                                               hint.empty() ? "." : hint)};
     }
     return call(*engine, *member, {{inputs, input_count}}, outputs, output_count);
   });
@@ -209,15 +256,26 @@ int calvex_set_unit(calvex_engine* engine, const char* group, size_t group_size,
   return engine->guarded([&] {
     const char* const texts[] = {group, unit};
     const size_t sizes[] = {group_size, unit_size};
-    return call(*engine, *findMember("SetUserUnit"), {{}, texts, sizes, 2}, nullptr, 0);
+    const Member& member = *findMember("SetUserUnit");
+    static_cast<void>(c::textOf(group, group_size, "group"));  // so called by its own name
+    static_cast<void>(c::textOf(unit, unit_size, "unit"));
+    const int code = call(*engine, member, {{}, texts, sizes, 2}, nullptr, 0);
+    if (code <= CALVEX_OK) return code;
+    // The engine's text does not tell what the word may have meant.
+    if (std::optional<Unknown> unknown = unknownName(member, engine->arguments)) {
+      const bool asks = unknown->reason.ends_with('?');
+      throw Misuse{CALVEX_UNKNOWN, std::move(unknown->reason) + (asks ? "" : "."),
+                   std::move(unknown->known) + "."};
+    }
+    return code;
   });
 }
 
 int calvex_answer_size(calvex_engine* engine, size_t* rows, size_t* columns) {
   if (engine == nullptr) return CALVEX_NULL;
   return engine->guarded([&] {
-    c::require(rows, "the number of rows");
-    c::require(columns, "the number of columns");
+    c::require(rows, "rows");
+    c::require(columns, "columns");
     *rows = engine->answer.size();
     *columns = engine->answer.empty() ? 0 : engine->answer.front().size();
     return CALVEX_OK;
@@ -228,7 +286,7 @@ int calvex_answer_kind(calvex_engine* engine, size_t row, size_t column, int* ki
   if (engine == nullptr) return CALVEX_NULL;
   return engine->guarded([&] {
     const Cell& cell = cellOf(*engine, row, column);
-    c::require(kind, "the kind");
+    c::require(kind, "kind");
     *kind = std::holds_alternative<double>(cell) ? CALVEX_CELL_NUMBER : CALVEX_CELL_TEXT;
     return CALVEX_OK;
   });
@@ -238,8 +296,8 @@ int calvex_answer_number(calvex_engine* engine, size_t row, size_t column, doubl
   if (engine == nullptr) return CALVEX_NULL;
   return engine->guarded([&] {
     const auto* value = std::get_if<double>(&cellOf(*engine, row, column));
-    c::require(number, "the number");
-    if (value == nullptr) throw Misuse{CALVEX_VALUE, "the cell has a text"};
+    c::require(number, "number");
+    if (value == nullptr) throw Misuse{CALVEX_VALUE, "The cell has a text, not a number."};
     *number = *value;
     return CALVEX_OK;
   });
@@ -250,7 +308,7 @@ int calvex_answer_text(calvex_engine* engine, size_t row, size_t column, char* t
   if (engine == nullptr) return CALVEX_NULL;
   return engine->guarded([&] {
     const auto* value = std::get_if<std::string>(&cellOf(*engine, row, column));
-    if (value == nullptr) throw Misuse{CALVEX_VALUE, "the cell has a number"};
+    if (value == nullptr) throw Misuse{CALVEX_VALUE, "The cell has a number, not a text."};
     return c::giveText(toUtf8(*value), text, size, needed);
   });
 }

@@ -33,9 +33,9 @@ struct calvex_engine {
   }
 
   /// A failure that the engine has answered.
-  int fail(int code, std::string text, std::string cause = {}) noexcept {
-    keep(std::move(text));
-    cause_ = std::move(cause);
+  int fail(calvex::c::Misuse failure) noexcept {
+    const int code = failure.code;
+    keep(std::move(failure));
     return code;
   }
 
@@ -49,9 +49,9 @@ struct calvex_engine {
   std::string cause_;
   std::string_view plain_;  ///< instead of `error_`: a text that needs no memory
 
-  void keep(std::string&& text) noexcept {
-    error_ = std::move(text);
-    cause_.clear();
+  void keep(calvex::c::Misuse&& failure) noexcept {
+    error_ = std::move(failure.text);
+    cause_ = std::move(failure.cause);
     plain_ = {};
   }
   void keep(const char* text) noexcept {

@@ -4,7 +4,7 @@
 #include "c/engine.h"
 #include "diagnostics/messages.h"
 
-using calvex::c::giveText;
+using calvex::c::copyText;
 using calvex::c::guarded;
 
 extern "C" {
@@ -33,22 +33,22 @@ int calvex_reset(calvex_engine* engine) {
 int calvex_take_settings(calvex_engine* engine, const calvex_engine* other) {
   if (engine == nullptr) return CALVEX_NULL;
   return engine->guarded([&] {
-    calvex::c::require(other, "the other engine");
+    calvex::c::require(other, "other");
     if (other != engine) engine->client.takeSettings(other->client);
     return CALVEX_OK;
   });
 }
 
 int calvex_last_error(const calvex_engine* engine, char* text, size_t size, size_t* needed) {
-  return engine == nullptr ? CALVEX_NULL : giveText(engine->lastError(), text, size, needed);
+  return engine == nullptr ? CALVEX_NULL : copyText(engine->lastError(), text, size, needed);
 }
 
 int calvex_last_cause(const calvex_engine* engine, char* text, size_t size, size_t* needed) {
-  return engine == nullptr ? CALVEX_NULL : giveText(engine->lastCause(), text, size, needed);
+  return engine == nullptr ? CALVEX_NULL : copyText(engine->lastCause(), text, size, needed);
 }
 
 int calvex_version(char* text, size_t size, size_t* needed) {
-  return giveText(calvex::messageText(calvex::Message::version), text, size, needed);
+  return copyText(calvex::messageText(calvex::Message::version), text, size, needed);
 }
 
 }  // extern "C"

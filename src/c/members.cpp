@@ -134,7 +134,7 @@ int calvex_member_at(size_t index, int* member) {
 int calvex_find_member(const char* name, size_t name_size, int* member) {
   if (member == nullptr) return CALVEX_NULL;
   return guarded([&] {
-    const Member* found = findMember(c::textOf(name, name_size));
+    const Member* found = findMember(c::textOf(name, name_size, "name"));
     if (found == nullptr) return static_cast<int>(CALVEX_UNKNOWN);
     *member = found->dispatchId;
     return static_cast<int>(CALVEX_OK);

@@ -86,7 +86,7 @@ extern "C" {
 int calvex_trace_take(calvex_engine* engine, size_t* count) {
   if (engine == nullptr) return CALVEX_NULL;
   return engine->guarded([&] {
-    c::require(count, "the number of nodes");
+    c::require(count, "count");
     std::vector<TraceNode> nodes;
     append(nodes, engine->client.engine().diagnostics().root(), CALVEX_NONE);
     engine->trace = std::move(nodes);

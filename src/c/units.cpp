@@ -12,7 +12,8 @@ namespace {
 
 UnitGroup groupOf(int group) {
   if (!isUnitGroup(group)) {
-    throw Misuse{CALVEX_UNKNOWN, "there is no unit group " + std::to_string(group)};
+    throw Misuse{CALVEX_UNKNOWN, "There is no unit group " + std::to_string(group) +
+                                     ": they are 0 to " + std::to_string(unitGroupCount - 1) + "."};
   }
   return UnitGroup(group);
 }
@@ -49,7 +50,7 @@ int calvex_group_count(size_t* count) {
 int calvex_find_group(const char* word, size_t word_size, int* group) {
   if (group == nullptr) return CALVEX_NULL;
   return guarded([&] {
-    const std::optional<UnitGroup> found = findGroupWord(c::textOf(word, word_size));
+    const std::optional<UnitGroup> found = findGroupWord(c::textOf(word, word_size, "word"));
     if (!found) return static_cast<int>(CALVEX_UNKNOWN);
     *group = static_cast<int>(*found);
     return static_cast<int>(CALVEX_OK);
@@ -91,7 +92,7 @@ int calvex_unit(calvex_engine* engine, int group, char* text, size_t size, size_
 int calvex_unit_notice(int group, const char* unit, size_t unit_size, char* text, size_t size,
                        size_t* needed) {
   return guarded([&] {
-    const UnitWord found = findUnitWord(groupOf(group), c::textOf(unit, unit_size));
+    const UnitWord found = findUnitWord(groupOf(group), c::textOf(unit, unit_size, "unit"));
     if (found.unit == nullptr) return static_cast<int>(CALVEX_UNKNOWN);
     return giveText(found.notice, text, size, needed);
   });

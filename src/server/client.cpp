@@ -1,5 +1,7 @@
 #include "server/client.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <new>
 
@@ -35,6 +37,20 @@ UnitChoice nameUnits(const Member& member, std::span<Value> arguments) {
     }
   });
   return choice;
+}
+
+std::optional<Unknown> unknownName(const Member& member, std::span<const Value> arguments) {
+  std::optional<Unknown> unknown;
+  const auto atGroup = [&](const std::string& text) {
+    const std::optional<UnitGroup> group = findGroupWord(toUtf8(text));
+    if (!group && !unknown) unknown = unknownGroup(toUtf8(text));
+    return group;
+  };
+  forEachUnitName(member, arguments, atGroup, [&](UnitGroup group, const std::string& text) {
+    if (unknown || findUnitWord(group, toUtf8(text)).unit != nullptr) return;
+    unknown = unknownUnit(group, toUtf8(text));
+  });
+  return unknown;
 }
 
 void Client::reset() {
@@ -112,6 +128,36 @@ ZvCalvex::Result Client::invoke(const Member& member, std::span<Value> arguments
   const ZvCalvex::Result result = object_->invoke(member, arguments);
   if (result.success != 0 && choice.units.size() == 1) followUnit(*choice.group);
   return result;
+}
+
+std::string silentReason(const Member& member, bool isPut, std::span<const Value> arguments) {
+  if (member.name == "SetCustomUserUnitIndex") {
+    return fmt::format("custom units need AppLevel 3 and a group number 0 to {}",
+                       unitGroupCount - 1);
+  }
+  if (member.name == "SetCellRef" || member.name == "GetCellRef") {
+    return "the trace has no columns for book, sheet and cell; SetupExcelTracing makes them";
+  }
+  if (member.name == "SetCustomTraceText" || member.name == "GetCustomTraceText") {
+    return "the trace has no column of that number, counted from 0; AddCustomTraceTitle adds one";
+  }
+  if (!isPut || member.name != "AppLevel") return {};
+  const short level = std::get<short>(arguments.front());
+  return level == 1 ? "there is no units server here"
+                    : fmt::format(
+                          "{} is not 0 or 2 (units of the catalogue), 1 (a units server) or "
+                          "3 (units of one's own)",
+                          level);
+}
+
+std::string silentFailure(const Member& member, bool isPut, std::span<const Value> arguments,
+                          bool tracing) {
+  const std::string reason = silentReason(member, isPut, arguments);
+  if (!reason.empty()) return fmt::format("{} failed: {}", member.name, reason);
+  return fmt::format("{} failed{}", member.name,
+                     tracing ? " and gave no reason"
+                             : "; tracing is off, so no reason was recorded (FunctionCallTracing "
+                               "1 turns it on)");
 }
 
 }  // namespace calvex

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "server/suggestions.h"
 #include "server/zv_calvex.h"
 
 namespace calvex {
@@ -38,8 +39,8 @@ struct UnitChoice {
 /// Walks over the arguments that name a group and units of it: atGroup(text) answers the group,
 /// atUnit(group, text) follows for each unit. A group may also be given by its number. A custom
 /// unit has whatever name its maker gives it.
-template <class AtGroup, class AtUnit>
-void forEachUnitName(const Member& member, std::span<Value> arguments, AtGroup atGroup,
+template <class ValueOrConst, class AtGroup, class AtUnit>
+void forEachUnitName(const Member& member, std::span<ValueOrConst> arguments, AtGroup atGroup,
                      AtUnit atUnit) {
   if (member.name == "SetCustomUserUnitIndex") return;
   std::optional<UnitGroup> group;
@@ -60,6 +61,10 @@ void forEachUnitName(const Member& member, std::span<Value> arguments, AtGroup a
 /// Replaces words for groups and units by the catalogue's own. A word that is not known stays, for
 /// the engine to refuse.
 [[nodiscard]] UnitChoice nameUnits(const Member& member, std::span<Value> arguments);
+
+/// The first of a call's words that names no unit group, or no unit of it; nothing when all do.
+[[nodiscard]] std::optional<Unknown> unknownName(const Member& member,
+                                                 std::span<const Value> arguments);
 
 /// One client object of a module of its own.
 class Client {
@@ -117,5 +122,13 @@ class EntryOfCall {
   const Diagnostics& diagnostics_;
   const ZvFunctionCall* newestBefore_;
 };
+
+/// Why a member refused that leaves no word of it, as far as its arguments tell; mostly empty.
+[[nodiscard]] std::string silentReason(const Member& member, bool isPut,
+                                       std::span<const Value> arguments);
+
+/// "GetCellRef failed: ...": of a call that left no reason. Without a full stop.
+[[nodiscard]] std::string silentFailure(const Member& member, bool isPut,
+                                        std::span<const Value> arguments, bool tracing);
 
 }  // namespace calvex

@@ -184,7 +184,9 @@ class MemberRows {
     for (const MemberRequest::Output& output : request_.outputs) put(output.value, row, none);
     if (!wantsReasons(request_)) return;
     put(request_.status, row, messageNumber(engine_.LastError()));
-    if (request_.reason) request_.reason(row, engine_.LastError());
+    if (request_.reason) {
+      request_.reason(row, request_.withCause ? withCause() : engine_.LastError());
+    }
     engine_.ClearTraceInfo();
   }
 
@@ -193,6 +195,11 @@ class MemberRows {
   }
 
  private:
+  [[nodiscard]] std::string withCause() const {
+    const std::string& cause = engine_.diagnostics().cause();
+    return engine_.LastError() + (cause.empty() ? "" : " " + cause);
+  }
+
   const MemberRequest& request_;
   ZvThermoInt& engine_;
   RowCall call_;

@@ -67,6 +67,8 @@ struct MemberRequest {
   /// Told of each row that fails, with the member's last error (Windows-1252; empty when it gave
   /// none), by the thread that has the row.
   std::function<void(std::size_t row, std::string_view reason)> reason{};
+  /// Whether that has the cause behind it, where there is one: "Pressure ... . Pressure 0 is ...".
+  bool withCause = false;
 };
 
 /// Computes the rows [begin, end) on this thread with this engine, whose trace is empty afterwards.

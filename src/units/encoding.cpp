@@ -7,6 +7,10 @@ namespace calvex {
 
 namespace {
 
+constexpr char32_t replacement = 0xFFFD;
+
+bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
+
 // Characters of the bytes 80 to 9F; all others are those of Latin-1.
 constexpr std::array<char32_t, 32> upperControls = {
     0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  // 80
@@ -81,6 +85,17 @@ std::optional<std::string> toWindows1252(std::string_view utf8) {
     }
   }
   return bytes;
+}
+
+std::string inQuotes(std::string_view word) {
+  constexpr int longest = 60;
+  std::string text = "'";
+  for (int i = 0; i < longest && !word.empty(); ++i) {
+    const char32_t character = takeCharacter(word).value_or(replacement);
+    appendUtf8(text, isControl(character) ? replacement : character);
+  }
+  if (!word.empty()) text += "...";
+  return text + "'";
 }
 
 }  // namespace calvex

@@ -21,4 +21,7 @@ void appendUtf8(std::string& utf8, char32_t character);
 /// Nothing when the text is not UTF-8 or has a character that Windows-1252 lacks.
 [[nodiscard]] std::optional<std::string> toWindows1252(std::string_view utf8);
 
+/// 'word' as it stands in a message, UTF-8: well-formed, on one line and not too long.
+[[nodiscard]] std::string inQuotes(std::string_view word);
+
 }  // namespace calvex

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 #include <string>
 #include <vector>
@@ -102,6 +103,90 @@ TEST_F(CArrays, AFailedPointIsNaNAndTellsWhyAndItsNeighboursStay) {
       calvex_direct_reason(engine(), 'P', 'T', 10.0, 700.0, "H", 1, text, sizeof text, nullptr),
       CALVEX_OK);
   EXPECT_STREQ(text, "");
+}
+
+// The member tells both; the arrays tell the same.
+TEST_F(CArrays, AFailedPointTellsTheMembersReasonAndCause) {
+  const auto last = [&](auto get) {
+    char text[400];
+    EXPECT_EQ(get(engine(), text, sizeof text, nullptr), CALVEX_OK);
+    return std::string(text);
+  };
+  ASSERT_EQ(calvex_set_unit(engine(), "P", 1, "bar", 3), CALVEX_OK);
+  const struct {
+    const char* name;
+    double first, second;
+  } calls[] = {{"HSatPQ", 0.005, 0.5},
+               {"TPH", 100.0, 20000.0},
+               {"APH", 10.0, 1500.0},
+               {"HPT", 0.0, 700.0},
+               {"TPS", 10.0, -1.0}};
+  for (const auto& [name, first, second] : calls) {
+    const double given[] = {first, second};
+    double result = 0.0;
+    const int code = calvex_call_named(engine(), name, CALVEX_TERMINATED, given, 2, &result, 1);
+    EXPECT_GT(code, 0) << name;
+    const std::string error = last(calvex_last_error), cause = last(calvex_last_cause);
+    EXPECT_NE(cause, "") << name;
+
+    const std::string pair = name + std::strlen(name) - 2;
+    char text[400];
+    ASSERT_EQ(calvex_direct_reason(engine(), pair[0], pair[1], first, second, name, 1, text,
+                                   sizeof text, nullptr),
+              CALVEX_OK);
+    EXPECT_EQ(text, error);
+    EXPECT_EQ(last(calvex_last_error), error);
+    EXPECT_EQ(last(calvex_last_cause), cause);
+
+    const double firsts[] = {10.0, first, 11.0};
+    const double seconds[] = {pair == "PQ" ? 0.5 : pair == "PS" ? 7.0 : 3000.0, second, -1.0};
+    double values[3];
+    short status[3];
+    const calvex_result wanted{name[0], {values, 1}, {nullptr, 0}, {nullptr, 0}};
+    calvex_request request{};
+    request.first_letter = pair[0];
+    request.second_letter = pair[1];
+    request.count = 3;
+    request.first = {firsts, 1};
+    request.second = {seconds, 1};
+    request.results = &wanted;
+    request.result_count = 1;
+    request.status = {status, 1};
+    if (pair != "PT") {
+      ASSERT_EQ(calvex_direct(engine(), &request, sizeof request), CALVEX_OK);
+      EXPECT_EQ(status[0], 0) << name;
+      EXPECT_EQ(status[1], code) << name;
+      EXPECT_NE(status[2], 0) << name;
+      EXPECT_EQ(last(calvex_last_error), error) << name;
+      EXPECT_EQ(last(calvex_last_cause), cause) << name;
+    }
+
+    std::vector<std::string> told;
+    const calvex_column inputs[] = {{&first, 0}, {&second, 0}};
+    const calvex_output output{0, {values, 1}};
+    calvex_rows rows{};
+    ASSERT_EQ(calvex_find_member(name, CALVEX_TERMINATED, &rows.member), CALVEX_OK);
+    rows.count = 1;
+    rows.inputs = inputs;
+    rows.input_count = 2;
+    rows.outputs = &output;
+    rows.output_count = 1;
+    rows.status = {status, 1};
+    rows.context = &told;
+    rows.reason = [](void* context, std::size_t, const char* reason, std::size_t size) {
+      static_cast<std::vector<std::string>*>(context)->emplace_back(reason, size);
+    };
+    ASSERT_EQ(calvex_columns(engine(), &rows, sizeof rows), CALVEX_OK);
+    EXPECT_EQ(status[0], code) << name;
+    EXPECT_EQ(told, std::vector<std::string>{error + " " + cause});
+    EXPECT_EQ(last(calvex_last_error), error) << name;
+    EXPECT_EQ(last(calvex_last_cause), cause) << name;
+  }
+  char text[10];
+  ASSERT_EQ(
+      calvex_direct_reason(engine(), 'P', 'T', 10.0, 700.0, "H", 1, text, sizeof text, nullptr),
+      CALVEX_OK);
+  EXPECT_EQ(last(calvex_last_error) + last(calvex_last_cause), "");
 }
 
 TEST_F(CArrays, TheDirectRoadHasTheEnginesUnitsAlsoBesideTheCatalogue) {

@@ -15,18 +15,24 @@ thread_local bool refused = false;
 
 }  // namespace
 
-// The array and nothrow forms end in these.
-[[gnu::noinline]] void* operator new(std::size_t size) {
+// The forms for arrays end in these.
+[[gnu::noinline]] void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
   if (left == 0) {
     refused = true;
-    throw std::bad_alloc();
+    return nullptr;
   }
   if (left > 0) --left;
-  if (void* memory = std::malloc(size == 0 ? 1 : size)) return memory;
+  return std::malloc(size == 0 ? 1 : size);
+}
+[[gnu::noinline]] void* operator new(std::size_t size) {
+  if (void* memory = operator new(size, std::nothrow)) return memory;
   throw std::bad_alloc();
 }
 [[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
 [[gnu::noinline]] void operator delete(void* memory, std::size_t /*size*/) noexcept {
+  std::free(memory);
+}
+[[gnu::noinline]] void operator delete(void* memory, const std::nothrow_t& /*tag*/) noexcept {
   std::free(memory);
 }
 
@@ -75,6 +81,38 @@ const Use uses[] = {
      [](calvex_engine*) {
        char text[100];
        return calvex_member_text(0x8a, CALVEX_MEMBER_TITLE, text, sizeof text, nullptr);
+     }},
+    {"an unknown unit", [](calvex_engine* e) { return calvex_set_unit(e, "P", 1, "psix", 4); }},
+    {"a call that fails without a word",
+     [](calvex_engine* e) {
+       return calvex_call_named(e, "GetCellRef", 10, nullptr, 0, nullptr, 0);
+     }},
+    {"a text that does not fit",
+     [](calvex_engine* e) {
+       char letter = '?';
+       return calvex_unit(e, 0, &letter, 1, nullptr);
+     }},
+    {"the reason of a state",
+     [](calvex_engine* e) {
+       char text[400];
+       return calvex_direct_reason(e, 'P', 'H', 1.0, 1e5, "T", 1, text, sizeof text, nullptr);
+     }},
+    {"columns of which one row fails",
+     [](calvex_engine* e) {
+       const double P = 1.0, T[] = {700.0, 3000.0};
+       double h[2];
+       short status[2];
+       const calvex_column inputs[] = {{&P, 0}, {T, 1}};
+       const calvex_output output{0, {h, 1}};
+       calvex_rows rows{};
+       rows.member = 0x33;
+       rows.count = 2;
+       rows.inputs = inputs;
+       rows.input_count = 2;
+       rows.outputs = &output;
+       rows.output_count = 1;
+       rows.status = {status, 1};
+       return calvex_columns(e, &rows, sizeof rows);
      }},
     {"columns",
      [](calvex_engine* e) {

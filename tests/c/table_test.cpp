@@ -170,6 +170,7 @@ TEST(CTable, ASizeOfNoStructureIsRefused) {
   for (const std::size_t size : {std::size_t{0}, sizeof facts.number, sizeof facts - 1}) {
     EXPECT_EQ(calvex_member_facts(0x33, &facts, size), CALVEX_COUNT) << size;
   }
+  EXPECT_EQ(calvex_member_facts(0x33, &facts, SIZE_MAX), CALVEX_COUNT);
   EXPECT_EQ(facts.kind, -7);
 
   calvex_engine* engine = nullptr;
@@ -180,6 +181,17 @@ TEST(CTable, ASizeOfNoStructureIsRefused) {
   }
   EXPECT_EQ(calvex_direct(engine, &request, sizeof request + 1), CALVEX_COUNT);
   calvex_destroy(engine);
+}
+
+// As a program sees it that was built for a later version than the library.
+TEST(CTable, FieldsThatThisVersionLacksAre0) {
+  struct Later {
+    calvex_member facts;
+    int added[3];
+  } later{{}, {1, 2, 3}};
+  ASSERT_EQ(calvex_member_facts(0x33, &later.facts, sizeof later), CALVEX_OK);
+  EXPECT_EQ(later.facts.number, 0x33);
+  for (const int added : later.added) EXPECT_EQ(added, 0);
 }
 
 }  // namespace

@@ -1,11 +1,15 @@
-#include "suggestions.h"
+#include "server/suggestions.h"
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
 #include <algorithm>
 
-namespace calvex::cli {
+#include "server/member_table.h"
+#include "units/encoding.h"
+#include "units/unit_words.h"
+
+namespace calvex {
 
 std::string lowerCase(std::string_view text) {
   std::string lower(text);
@@ -85,4 +89,41 @@ std::string didYouMean(std::string_view word, const std::vector<std::string>& na
   return fmt::format("; did you mean {}?", fmt::join(found, " or "));
 }
 
-}  // namespace calvex::cli
+std::string didYouMeanMember(std::string_view name) {
+  std::vector<std::string> names;
+  for (const Member& member : memberTable()) names.emplace_back(member.name);
+  return didYouMean(name, names);
+}
+
+Unknown unknownGroup(std::string_view word) {
+  std::vector<std::string> keywords;
+  std::vector<std::string_view> firsts;
+  for (const UnitGroupRow& row : unitGroupTable()) {
+    for (const std::string_view keyword : row.keywords) {
+      // Every word stands in the catalogue twice, the second time in small letters.
+      if (keyword != lowerCase(keyword)) keywords.emplace_back(keyword);
+    }
+    firsts.push_back(row.keywords.front());
+  }
+  return {fmt::format("{} is not a unit group{}", inQuotes(word), didYouMean(word, keywords)),
+          fmt::format("Groups: {}", fmt::join(firsts, ", "))};
+}
+
+Unknown unknownUnit(UnitGroup group, std::string_view word) {
+  const UnitGroupRow& row = unitGroupTable()[static_cast<std::size_t>(group)];
+  std::vector<std::string> names, candidates;
+  for (const ZvUomLiteKeyword& unit : row.units) names.push_back(toUtf8(unit.name));
+  for (const ZvUomLiteKeyword& unit : unitsBesideCatalogue(group)) names.emplace_back(unit.name);
+  const UnitWord found = findUnitWord(group, word);
+  for (const ZvUomLiteKeyword* unit : found.candidates) candidates.push_back(toUtf8(unit->name));
+  std::string help = didYouMean(word, names);
+  if (!found.refusal.empty()) help = fmt::format("; {}", found.refusal);
+  if (!candidates.empty()) {
+    help = fmt::format("; did you mean {}? Write it so: m is milli, M is mega",
+                       fmt::join(candidates, " or "));
+  }
+  return {fmt::format("{} is not a unit of {}{}", inQuotes(word), row.displayName, help),
+          fmt::format("Units: {}", fmt::join(names, ", "))};
+}
+
+}  // namespace calvex

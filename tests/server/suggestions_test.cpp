@@ -1,8 +1,8 @@
-#include "suggestions.h"
+#include "server/suggestions.h"
 
 #include <gtest/gtest.h>
 
-namespace calvex::cli {
+namespace calvex {
 namespace {
 
 TEST(Suggestions, SwappedNeighboursAreOneStep) {
@@ -35,4 +35,4 @@ TEST(Suggestions, TheBeginningOfANameFindsIt) {
 }
 
 }  // namespace
-}  // namespace calvex::cli
+}  // namespace calvex
