@@ -41,17 +41,6 @@ Phase phaseOf(double T, double density, double P) {
   return density > constants::criticalDensity ? Phase::liquid : Phase::vapour;
 }
 
-// The vapour fraction that the members give a state of one phase: by the side of the saturation
-// line that they start from, which ends at the critical value of the pressure or temperature given.
-double qualityOfOnePhase(Pair pair, double first, double second, double density) {
-  const bool beyond = firstOf(pair) == Letter::P   ? first >= constants::criticalPressure
-                      : firstOf(pair) == Letter::T ? first >= constants::criticalTemperature
-                                                   : false;
-  const bool isLiquid =
-      beyond ? liquidLike(secondOf(pair), second) : density > constants::criticalDensity;
-  return isLiquid ? 0.0 : 1.0;
-}
-
 constexpr Letters transportRanges =
     bit(Letter::M) | bit(Letter::K) | bit(Letter::N) | bit(Letter::E);
 
@@ -87,7 +76,25 @@ struct Point {
   }
   [[nodiscard]] double T() const { return group().states.T[at]; }
   [[nodiscard]] double density() const { return group().states.density[at]; }
+  [[nodiscard]] bool byMember() const {
+    return group().states.way[at] == static_cast<double>(Way::member);
+  }
 };
+
+// The vapour fraction that the members give a state of one phase: by the side of the saturation
+// line that they start from, which ends at the critical value of the pressure or temperature given.
+// No member answers it from (P, T) or (h, s): there a liquid is what is dense.
+double qualityOfOnePhase(const Point& point, double first, double second) {
+  const Pair pair = point.pair;
+  const bool fromP = firstOf(pair) == Letter::P;
+  const bool ownRule = pair == Pair::PT || pair == Pair::HS;
+  if (!ownRule && point.byMember()) return point.group().states.quality[point.at];
+  const bool beyond =
+      !ownRule && first >= (fromP ? constants::criticalPressure : constants::criticalTemperature);
+  const bool isLiquid =
+      beyond ? liquidLike(secondOf(pair), second) : point.density() > constants::criticalDensity;
+  return isLiquid ? 0.0 : 1.0;
+}
 
 // The letters' own reasons to fail, in the order in which they were asked for.
 int statusOf(const Point& point, Letter letter, double P) {
@@ -188,8 +195,7 @@ const Block& collect(const Request& request, const Answers& answers, Letter lett
     } else if (given != nullptr) {
       values[i] = (*given)[i];
     } else if (letter == Letter::Q && !answers.isTwo[i]) {
-      values[i] = qualityOfOnePhase(pair, answers.first[i], answers.second[i],
-                                    Point(answers, i, pair).density());
+      values[i] = qualityOfOnePhase(Point(answers, i, pair), answers.first[i], answers.second[i]);
     } else {
       values[i] = Point(answers, i, pair).value(letter);
     }

@@ -369,6 +369,8 @@ void solveTwoPhasesBlock(Pair pair, const Wanted& wanted, int count, States& sta
     } else {
       line = fromP ? equilibriumAtP(a, chunk(states.T), liquid, vapour)
                    : equilibriumAtT(a, liquid, vapour);
+      // The line ends at the triple point, whose rounded pressure belongs to a little less.
+      line.T = max(line.T, N(constants::triplePointTemperature));
     }
     const N quality = qualityOf(second, chunk(states.second), line);
     MaskOf<N> found = line.found;

@@ -1,5 +1,6 @@
 #include "direct/member_road.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string_view>
 
@@ -28,6 +29,19 @@ int numberOf(std::string_view text) {
   const std::string_view noSolution = messageText(Message::noSolution);
   const bool is = text.starts_with(noSolution.substr(0, noSolution.find('%')));
   return static_cast<int>(is ? Message::noSolution : Message::solutionError);
+}
+
+FoundState mixtureAtT(double T, double quality) {
+  const PhaseEquilibrium line = equilibriumAtT(T);
+  return {true, T, line.liquidDensity, line.vapourDensity, line.P, quality};
+}
+
+// The line ends at the triple point, whose rounded pressure belongs to a little less.
+FoundState mixtureAtP(double P, double quality) {
+  const PhaseEquilibrium line = equilibriumAtP(P);
+  const double T =
+      std::clamp(line.T, constants::triplePointTemperature, constants::criticalTemperature);
+  return {true, T, line.liquidDensity, line.vapourDensity, P, quality};
 }
 
 Property propertyOfSecond(Pair pair) {
@@ -120,16 +134,6 @@ std::string MemberRoad::refusal(Pair pair, double first, double second) {
   }
 }
 
-void MemberRoad::onLine(double T, double quality, FoundState& state) {
-  state.twoPhases = true;
-  state.T = T;
-  const PhaseEquilibrium line = equilibriumAtT(T);
-  state.pressure = line.P;
-  state.density = line.liquidDensity;
-  state.vapour = line.vapourDensity;
-  state.quality = quality;
-}
-
 int MemberRoad::solve(Pair pair, double first, double second, FoundState& state) {
   Phases phases = Phases::one;
   switch (pair) {
@@ -139,11 +143,10 @@ int MemberRoad::solve(Pair pair, double first, double second, FoundState& state)
       }
       break;
     case Pair::PQ:
-      onLine(model_.TSatP(first), second, state);
-      state.pressure = first;
+      state = mixtureAtP(first, second);
       return 0;
     case Pair::TQ:
-      onLine(first, second, state);
+      state = mixtureAtT(first, second);
       return 0;
     case Pair::HS:
       return stateFromHS(first, second, state);
@@ -160,9 +163,8 @@ int MemberRoad::solve(Pair pair, double first, double second, FoundState& state)
     if (firstOf(pair) == Letter::T && first < constants::triplePointTemperature) {
       return outOfRangeUnit;
     }
-    const double quality = found.quality;
-    onLine(found.temperature, quality, state);
-    if (firstOf(pair) == Letter::P) state.pressure = first;
+    state = firstOf(pair) == Letter::P ? mixtureAtP(first, found.quality)
+                                       : mixtureAtT(first, found.quality);
   } else {
     state = {false, found.temperature, found.density, 0.0, 0.0, found.quality};
   }

@@ -33,7 +33,6 @@ class MemberRoad {
 
  private:
   int solve(Pair pair, double first, double second, FoundState& state);
-  void onLine(double T, double quality, FoundState& state);
 
   Diagnostics diagnostics_;
   SteamModel model_;

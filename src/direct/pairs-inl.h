@@ -77,8 +77,9 @@ struct Decision {
 // (P, T): the border of the table decides, next to it the exact line as far as the tables know it.
 template <class N>
 Decision<N> decidePT(const N& P, const N& T) {
-  const MaskOf<N> sane =
-      within(P, 1e-12, highestPressure) && within(T, 260.0 - 1e-9, highestTemperature + 1e-3);
+  const MaskOf<N> sane = within(P, 1e-12, highestPressure) &&
+                         T >= N(constants::lowestTemperature) &&
+                         T <= N(constants::highestTemperature);
   const N safeP = select(sane, P, N(1.0));
   const N logP = log(safeP);
   Decision<N> d;
