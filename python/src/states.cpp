@@ -124,8 +124,10 @@ PyObject* stateReason(PyObject* /*module*/, PyObject* arguments) {
   if (core == nullptr) return nullptr;
   const std::optional<direct::Pair> pair = readPair(pairName);
   if (!pair) return nullptr;
-  const direct::Units units = core->with([](ZvThermoInt& engine) { return unitsOf(engine); });
-  return decoded(direct::reason(*pair, first, second, readLetters(wanted), units)).release();
+  const DirectReason reason = core->with([&](ZvThermoInt& engine) {
+    return directReason(*pair, first, second, readLetters(wanted), unitsOf(engine), engine);
+  });
+  return decoded(reason.text).release();
 }
 
 }  // namespace calvex::python

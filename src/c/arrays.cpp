@@ -197,9 +197,10 @@ int calvex_direct_reason(calvex_engine* engine, char first_letter, char second_l
     std::vector<direct::Letter> all;
     for (const char letter : wanted) all.push_back(letterOf(letter));
     direct::prepare(pair);
-    const std::string reason = direct::reason(pair, swapped ? second : first,
-                                              swapped ? first : second, all, unitsOf(*engine));
-    return c::giveText(toUtf8(reason), text, size, needed);
+    const DirectReason reason =
+        directReason(pair, swapped ? second : first, swapped ? first : second, all,
+                     unitsOf(*engine), engine->client.engine());
+    return c::giveText(toUtf8(reason.text), text, size, needed);
   });
 }
 

@@ -9,7 +9,6 @@
 #include "direct/blocks.h"
 #include "direct/kernels.h"
 #include "direct/member_road.h"
-#include "direct/reasons.h"
 #include "direct/starting_tables.h"
 #include "steam/constants.h"
 
@@ -203,7 +202,12 @@ const Block& collect(const Request& request, const Answers& answers, Letter lett
   return values;
 }
 
-void readColumn(const Column& column, const Unit& unit, std::size_t begin, int count, double* to) {
+// A bound that the client writes in a unit of its own may come back from the conversion a little
+// beyond itself: it is meant, as it is to the members.
+constexpr double roundingOfUnits = 1e-11;
+
+void readColumn(const Column& column, const Unit& unit, std::span<const double> bounds,
+                std::size_t begin, int count, double* to) {
   const double* from = column.data + static_cast<std::ptrdiff_t>(begin) * column.stride;
   if (column.stride == 1) {
     std::copy_n(from, count, to);
@@ -212,6 +216,10 @@ void readColumn(const Column& column, const Unit& unit, std::size_t begin, int c
   }
   if (isModelUnit(unit)) return;
   for (int i = 0; i < count; ++i) to[i] = toModel(unit, to[i]);
+  for (const double bound : bounds) {
+    const double near = roundingOfUnits * bound;
+    for (int i = 0; i < count; ++i) to[i] = std::fabs(to[i] - bound) <= near ? bound : to[i];
+  }
 }
 
 template <class T>
@@ -233,8 +241,8 @@ void evaluateBlock(const Request& request, const Order& order, std::size_t begin
   const Unit& unitB = units[static_cast<std::size_t>(b)];
   const auto n = static_cast<std::size_t>(count);
   Answers answers;
-  readColumn(request.first, unitA, begin, count, answers.first.data());
-  readColumn(request.second, unitB, begin, count, answers.second.data());
+  readColumn(request.first, unitA, boundsOf(request.pair, a), begin, count, answers.first.data());
+  readColumn(request.second, unitB, boundsOf(request.pair, b), begin, count, answers.second.data());
   if (b == Letter::V) {
     for (std::size_t i = 0; i < n; ++i) answers.second[i] = volumeToDensity(answers.second[i]);
   }
@@ -389,15 +397,6 @@ double evaluate(Pair pair, double first, double second, Letter letter) noexcept 
   double value = nothing;
   evaluate(pair, first, second, {&letter, 1}, &value);
   return value;
-}
-
-std::string reason(Pair pair, double first, double second, std::span<const Letter> letters,
-                   const Units& units) {
-  const double a = toModel(units[static_cast<std::size_t>(firstOf(pair))], first);
-  const double b = toModel(units[static_cast<std::size_t>(secondOf(pair))], second);
-  std::array<double, letterCount> values;
-  const int status = evaluate(pair, a, b, letters, values.data());
-  return status == 0 ? std::string() : reasonText(status, pair, a, b, letters, units);
 }
 
 int saturationPressure(double T, double& P, double* slope) noexcept {

@@ -1,5 +1,6 @@
 #include "server/direct_members.h"
 
+#include <array>
 #include <cmath>
 
 namespace calvex {
@@ -17,6 +18,70 @@ std::optional<direct::Pair> pairOf(direct::Letter first, direct::Letter second) 
   }
   return std::nullopt;
 }
+
+// The solver's settings by default.
+constexpr double tolerance = 1e-9;
+constexpr short iterations = 200;
+
+// The member of a letter from two others, on the line with "Sat" between them.
+const Member* memberOf(direct::Letter result, direct::Letter first, direct::Letter second) {
+  const auto name = [](direct::Letter letter) {
+    return "PTHSURVQAGMKCDZWNEIJBL"[static_cast<std::size_t>(letter)];
+  };
+  std::string text(1, name(result));
+  if (second == direct::Letter::Q) text += "Sat";
+  return findMember(text + name(first) + name(second));
+}
+
+// A state asked for by the direct road, in the client's units.
+struct Asked {
+  direct::Pair pair;
+  double first;
+  double second;
+  const direct::Units& units;
+
+  short evaluate(direct::Letter letter, double& value) const {
+    short status = 0;
+    const direct::Result results[] = {{letter, {&value}}};
+    direct::Request request{pair, {&first}, {&second}, results};
+    request.status = {&status};
+    request.units = &units;
+    direct::evaluate(request, 0, 1);
+    return status;
+  }
+
+  // The first refusal by a member, or else by what all members ask of their inputs.
+  DirectReason reason(direct::Letter letter, short status, ZvThermoInt& engine) const {
+    using direct::Letter;
+    const auto refuses = [&](const Member* member, double a, double b) {
+      std::array<Value, 3> arguments{Value{}, a, b};
+      return member != nullptr && member->invoke(engine, arguments) == 0;
+    };
+    const auto said = [&] {
+      return DirectReason{engine.LastError(), engine.diagnostics().cause()};
+    };
+    if (pair == direct::Pair::HS) {
+      const auto notNegative = [&](Letter input, double x) {
+        const Quantity& row = quantity(static_cast<Quantity::Letter>(input));
+        return engine.notNegative(row.name, row.group, engine.units().toInternal(row.group, x));
+      };
+      if (!notNegative(Letter::H, first) || !notNegative(Letter::S, second)) return said();
+    }
+    // A mixture has what H stands for, and not what A does.
+    const Letter like = ofMixture(letter) ? Letter::H : Letter::A;
+    for (const Letter result : {letter, like, Letter::T, Letter::P}) {
+      if (refuses(memberOf(result, firstOf(pair), secondOf(pair)), first, second)) return said();
+    }
+    // The range of a correlation, or no speed of sound.
+    double P = 0.0;
+    double T = 0.0;
+    if (evaluate(Letter::P, P) == 0 && evaluate(Letter::T, T) == 0 &&
+        refuses(memberOf(letter, Letter::P, Letter::T), P, T)) {
+      return said();
+    }
+    return {std::string(messageText(status)), {}};
+  }
+};
 
 }  // namespace
 
@@ -60,10 +125,27 @@ std::optional<direct::Units> directUnits(const UserUnits& units) {
 }
 
 bool hasDirectSettings(const ZvThermoInt& engine) {
-  constexpr double tolerance = 1e-9;
-  constexpr short iterations = 200;
   return engine.SatPolish() == 2 && engine.SolverTol() == tolerance &&
          engine.SolverIter() == iterations;
+}
+
+DirectReason directReason(direct::Pair pair, double first, double second,
+                          std::span<const direct::Letter> letters, const direct::Units& units,
+                          const ZvThermoInt& engine) {
+  const direct::Letter given = firstOf(pair);
+  const Asked asked{pair, first, second, units};
+  for (const direct::Letter letter : letters.empty() ? std::span(&given, 1) : letters) {
+    double value = 0.0;
+    if (const short status = asked.evaluate(letter, value); status != 0) {
+      ZvThermoInt own;
+      own.TakeSettings(engine);
+      own.SetSatPolish(2);
+      own.SetSolverTol(tolerance);
+      own.SetSolverIter(iterations);
+      return asked.reason(letter, status, own);
+    }
+  }
+  return {};
 }
 
 }  // namespace calvex

@@ -299,6 +299,16 @@ TEST(BothRoadsOnTheLine, AgreeOnTheWholeLineAtItsEnds) {
         }
       }
     }
+    // Where the phases are nearly alike, the densities by P are not those by the temperature of P.
+    constexpr double alike[][2] = {{22.034966885935944, 0.15377175947592689},
+                                   {22.035876903320645, 0.63114444891575716},
+                                   {22.032645394246938, 0.12761877207494055}};
+    for (const auto& [P, Q] : alike) {
+      if (!fromP) break;
+      double expected = 0.0;
+      const int success = engine.RSatPQ(&expected, P, Q);
+      agree(Letter::R, P, Q, success, expected);
+    }
   }
 }
 
