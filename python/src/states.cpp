@@ -254,24 +254,23 @@ PyObject* stateReason(PyObject* /*module*/, PyObject* arguments) {
   const std::optional<direct::Pair> pair = readPair(pairName);
   if (!pair) return nullptr;
   const std::vector<direct::Letter> which = readLetters(wanted);
-  std::string reason, cause;
+  DirectReason reason;
   Core::Loan loan(*core);
   direct::Request request{*pair, {&first, 0}, {&second, 0}, {}};
   for (const direct::Letter letter : which) {
     const Member* const member = memberOf(*pair, letter);
     double value = 0.0;
     const auto tell = [&](std::size_t /*row*/, std::string_view text) {
-      reason = text;
-      cause = loan.engine().diagnostics().cause();
+      reason = {std::string(text), loan.engine().diagnostics().cause()};
     };
     if (member != nullptr) askMember(*member, request, {&value}, {}, tell, loan.engine(), 1);
-    if (!reason.empty()) break;
+    if (!reason.text.empty()) break;
   }
-  if (reason.empty()) {
-    reason = direct::reason(*pair, first, second, which, unitsOf(loan.engine()));
+  if (reason.text.empty()) {
+    reason = directReason(*pair, first, second, which, unitsOf(loan.engine()), loan.engine());
   }
-  const Ref why = decoded(reason);
-  const Ref behind = decoded(cause);
+  const Ref why = decoded(reason.text);
+  const Ref behind = decoded(reason.cause);
   return why && behind ? PyTuple_Pack(2, why.get(), behind.get()) : nullptr;
 }
 

@@ -120,6 +120,7 @@ void solveAsMember(const Order& order, const Places& left, int leftCount, int fi
     answers.isTwo[i] = found.twoPhases;
     answers.place[i] = static_cast<short>(to);
     const auto at = static_cast<std::size_t>(to);
+    group.states.way[at] = static_cast<double>(Way::member);
     group.states.T[at] = found.T;
     group.states.density[at] = found.density;
     group.states.vapour[at] = found.vapour;

@@ -9,7 +9,6 @@
 #include "direct/blocks.h"
 #include "direct/kernels.h"
 #include "direct/member_road.h"
-#include "direct/reasons.h"
 #include "direct/starting_tables.h"
 #include "steam/constants.h"
 
@@ -39,17 +38,6 @@ Phase phaseOf(double T, double density, double P) {
     return Phase::supercritical;
   }
   return density > constants::criticalDensity ? Phase::liquid : Phase::vapour;
-}
-
-// The vapour fraction that the members give a state of one phase: by the side of the saturation
-// line that they start from, which ends at the critical value of the pressure or temperature given.
-double qualityOfOnePhase(Pair pair, double first, double second, double density) {
-  const bool beyond = firstOf(pair) == Letter::P   ? first >= constants::criticalPressure
-                      : firstOf(pair) == Letter::T ? first >= constants::criticalTemperature
-                                                   : false;
-  const bool isLiquid =
-      beyond ? liquidLike(secondOf(pair), second) : density > constants::criticalDensity;
-  return isLiquid ? 0.0 : 1.0;
 }
 
 constexpr Letters transportRanges =
@@ -87,7 +75,25 @@ struct Point {
   }
   [[nodiscard]] double T() const { return group().states.T[at]; }
   [[nodiscard]] double density() const { return group().states.density[at]; }
+  [[nodiscard]] bool byMember() const {
+    return group().states.way[at] == static_cast<double>(Way::member);
+  }
 };
+
+// The vapour fraction that the members give a state of one phase: by the side of the saturation
+// line that they start from, which ends at the critical value of the pressure or temperature given.
+// No member answers it from (P, T) or (h, s): there a liquid is what is dense.
+double qualityOfOnePhase(const Point& point, double first, double second) {
+  const Pair pair = point.pair;
+  const bool fromP = firstOf(pair) == Letter::P;
+  const bool ownRule = pair == Pair::PT || pair == Pair::HS;
+  if (!ownRule && point.byMember()) return point.group().states.quality[point.at];
+  const bool beyond =
+      !ownRule && first >= (fromP ? constants::criticalPressure : constants::criticalTemperature);
+  const bool isLiquid =
+      beyond ? liquidLike(secondOf(pair), second) : point.density() > constants::criticalDensity;
+  return isLiquid ? 0.0 : 1.0;
+}
 
 // The letters' own reasons to fail, in the order in which they were asked for.
 int statusOf(const Point& point, Letter letter, double P) {
@@ -188,8 +194,7 @@ const Block& collect(const Request& request, const Answers& answers, Letter lett
     } else if (given != nullptr) {
       values[i] = (*given)[i];
     } else if (letter == Letter::Q && !answers.isTwo[i]) {
-      values[i] = qualityOfOnePhase(pair, answers.first[i], answers.second[i],
-                                    Point(answers, i, pair).density());
+      values[i] = qualityOfOnePhase(Point(answers, i, pair), answers.first[i], answers.second[i]);
     } else {
       values[i] = Point(answers, i, pair).value(letter);
     }
@@ -197,7 +202,12 @@ const Block& collect(const Request& request, const Answers& answers, Letter lett
   return values;
 }
 
-void readColumn(const Column& column, const Unit& unit, std::size_t begin, int count, double* to) {
+// A bound that the client writes in a unit of its own may come back from the conversion a little
+// beyond itself: it is meant, as it is to the members.
+constexpr double roundingOfUnits = 1e-11;
+
+void readColumn(const Column& column, const Unit& unit, std::span<const double> bounds,
+                std::size_t begin, int count, double* to) {
   const double* from = column.data + static_cast<std::ptrdiff_t>(begin) * column.stride;
   if (column.stride == 1) {
     std::copy_n(from, count, to);
@@ -206,6 +216,10 @@ void readColumn(const Column& column, const Unit& unit, std::size_t begin, int c
   }
   if (isModelUnit(unit)) return;
   for (int i = 0; i < count; ++i) to[i] = toModel(unit, to[i]);
+  for (const double bound : bounds) {
+    const double near = roundingOfUnits * bound;
+    for (int i = 0; i < count; ++i) to[i] = std::fabs(to[i] - bound) <= near ? bound : to[i];
+  }
 }
 
 template <class T>
@@ -227,8 +241,8 @@ void evaluateBlock(const Request& request, const Order& order, std::size_t begin
   const Unit& unitB = units[static_cast<std::size_t>(b)];
   const auto n = static_cast<std::size_t>(count);
   Answers answers;
-  readColumn(request.first, unitA, begin, count, answers.first.data());
-  readColumn(request.second, unitB, begin, count, answers.second.data());
+  readColumn(request.first, unitA, boundsOf(request.pair, a), begin, count, answers.first.data());
+  readColumn(request.second, unitB, boundsOf(request.pair, b), begin, count, answers.second.data());
   if (b == Letter::V) {
     for (std::size_t i = 0; i < n; ++i) answers.second[i] = volumeToDensity(answers.second[i]);
   }
@@ -383,15 +397,6 @@ double evaluate(Pair pair, double first, double second, Letter letter) noexcept 
   double value = nothing;
   evaluate(pair, first, second, {&letter, 1}, &value);
   return value;
-}
-
-std::string reason(Pair pair, double first, double second, std::span<const Letter> letters,
-                   const Units& units) {
-  const double a = toModel(units[static_cast<std::size_t>(firstOf(pair))], first);
-  const double b = toModel(units[static_cast<std::size_t>(secondOf(pair))], second);
-  std::array<double, letterCount> values;
-  const int status = evaluate(pair, a, b, letters, values.data());
-  return status == 0 ? std::string() : reasonText(status, pair, a, b, letters, units);
 }
 
 int saturationPressure(double T, double& P, double* slope) noexcept {

@@ -21,7 +21,6 @@
 #include <array>
 #include <cstddef>
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace calvex::direct {
@@ -145,12 +144,6 @@ int evaluate(Pair pair, double first, double second, std::span<const Letter> let
 /// null. Status and NaN as above.
 int saturationPressure(double T, double& P, double* slope = nullptr) noexcept;
 int saturationTemperature(double P, double& T, double* slope = nullptr) noexcept;
-
-/// The text of a failed point, as the member says it, in the units given: computed anew from the
-/// inputs, empty if the point does not fail.
-[[nodiscard]] std::string reason(Pair pair, double first, double second,
-                                 std::span<const Letter> letters,
-                                 const Units& units = modelUnits());
 
 /// The instruction sets that this machine can run, best first, by name ("AVX3", "AVX2", "SSE4",
 /// "EMU128", "one lane"). The best one is used.

@@ -84,6 +84,9 @@ constexpr Letters curvatureLetters = bit(Letter::K) | bit(Letter::C) | bit(Lette
                                      bit(Letter::J) | bit(Letter::B) | bit(Letter::L);
 constexpr Letters energyLetters = bit(Letter::P) | bit(Letter::H) | bit(Letter::S) |
                                   bit(Letter::U) | bit(Letter::A) | bit(Letter::G) | bit(Letter::Z);
+// They take the internal energy, the Helmholtz energy.
+constexpr Letters ofInternalEnergy = bit(Letter::H) | bit(Letter::S) | bit(Letter::U);
+constexpr Letters ofHelmholtz = bit(Letter::S) | bit(Letter::A) | bit(Letter::G);
 constexpr Letters transportLetters = bit(Letter::M) | bit(Letter::K) | bit(Letter::N);
 
 // Order of the temperature part that letters need.
@@ -113,10 +116,27 @@ HWY_NOINLINE void putProperties(Letters letters, const TemperaturePartOf<M>& par
   if ((letters & (curvatureLetters | energyLetters)) == 0) return;
 
   const HelmholtzPointOf<M> point(part, density);
+  const M u = (letters & ofInternalEnergy) != 0 ? point.internalEnergy() : T;
+  const M A = (letters & ofHelmholtz) != 0 ? point.helmholtz() : T;
+  const auto energy = [&](Letter letter) {
+    switch (letter) {
+      case Letter::H:
+        return point.enthalpy(u);
+      case Letter::S:
+        return point.entropy(u, A);
+      case Letter::U:
+        return u;
+      case Letter::A:
+        return A;
+      case Letter::G:
+        return point.gibbs(A);
+      default:
+        return Properties::ofFirstDerivatives(propertyOf(letter), part, point);
+    }
+  };
   for (Letters rest = letters & energyLetters; rest != 0; rest &= rest - 1) {
-    const auto letter = static_cast<std::size_t>(std::countr_zero(rest));
-    put(Properties::ofFirstDerivatives(propertyOf(static_cast<Letter>(letter)), part, point), at,
-        letter, values);
+    const auto letter = std::countr_zero(rest);
+    put(energy(static_cast<Letter>(letter)), at, static_cast<std::size_t>(letter), values);
   }
   if ((letters & curvatureLetters) == 0) return;
   const auto d = point.derivatives();
@@ -170,9 +190,9 @@ HWY_INLINE Saturated<N> saturated(const TemperaturePartOf<N>& part,
                                   const HelmholtzPointOf<N>& point, const N& density,
                                   bool derivatives, const N& lineSlope) {
   Saturated<N> phase;
-  phase.h = point.enthalpy();
-  phase.s = point.entropy();
   phase.u = point.internalEnergy();
+  phase.h = point.enthalpy(phase.u);
+  phase.s = point.entropy(phase.u, point.helmholtz());
   phase.v = 1.0 / density;
   if (derivatives) {
     const N& T = part.T();
@@ -369,6 +389,8 @@ void solveTwoPhasesBlock(Pair pair, const Wanted& wanted, int count, States& sta
     } else {
       line = fromP ? equilibriumAtP(a, chunk(states.T), liquid, vapour)
                    : equilibriumAtT(a, liquid, vapour);
+      // The line ends at the triple point, whose rounded pressure belongs to a little less.
+      line.T = max(line.T, N(constants::triplePointTemperature));
     }
     const N quality = qualityOf(second, chunk(states.second), line);
     MaskOf<N> found = line.found;

@@ -1,7 +1,7 @@
 #include "direct/member_road.h"
 
+#include <algorithm>
 #include <cmath>
-#include <string_view>
 
 #include "diagnostics/thermo_exception.h"
 #include "direct/enthalpy_entropy.h"
@@ -12,22 +12,42 @@ namespace calvex::direct {
 
 namespace {
 
+using namespace constants;
+
 constexpr int outOfRangeUnit = static_cast<int>(Message::outOfRangeUnit);
 constexpr int outOfRange = static_cast<int>(Message::outOfRange);
+constexpr int solutionError = static_cast<int>(Message::solutionError);
+
+// Lowest, highest, and where the ranges of transport correlations end; with a pressure the line's
+// ends, the last two, are no bounds. K, MPa.
+constexpr double temperatures[] = {
+    lowestTemperature,      highestTemperature, celsiusZero, 1073.15, 823.15,
+    triplePointTemperature, criticalTemperature};
+constexpr double pressures[] = {0.0, highestPressure, 100.0, 350.0, 500.0, 1000.0};
+constexpr double temperaturesOfLine[] = {triplePointTemperature, criticalTemperature};
+constexpr double pressuresOfLine[] = {triplePointPressure, criticalPressure};
+constexpr double qualities[] = {0.0, 1.0};
 
 // The comparisons are written so that a NaN is out of range.
 int checkRange(double x, double low, double high) {
   return x >= low && x <= high ? 0 : outOfRangeUnit;
 }
+int checkInput(Pair pair, Letter input, double x) {
+  const std::span<const double> bounds = boundsOf(pair, input);
+  if (bounds.empty()) return x >= 0.0 ? 0 : outOfRange;
+  return checkRange(x, bounds[0], bounds[1]);
+}
 
-int numberOf(std::string_view text) {
-  for (const Message message : {Message::maximumIterations, Message::solutionError,
-                                Message::twoPhase, Message::unknownSolverCode}) {
-    if (text.starts_with(messageText(message))) return static_cast<int>(message);
-  }
-  const std::string_view noSolution = messageText(Message::noSolution);
-  const bool is = text.starts_with(noSolution.substr(0, noSolution.find('%')));
-  return static_cast<int>(is ? Message::noSolution : Message::solutionError);
+FoundState mixtureAtT(double T, double quality) {
+  const PhaseEquilibrium line = equilibriumAtT(T);
+  return {true, T, line.liquidDensity, line.vapourDensity, line.P, quality};
+}
+
+// The line ends at the triple point, whose rounded pressure belongs to a little less.
+FoundState mixtureAtP(double P, double quality) {
+  const PhaseEquilibrium line = equilibriumAtP(P);
+  const double T = std::clamp(line.T, triplePointTemperature, criticalTemperature);
+  return {true, T, line.liquidDensity, line.vapourDensity, P, quality};
 }
 
 Property propertyOfSecond(Pair pair) {
@@ -45,50 +65,42 @@ Property propertyOfSecond(Pair pair) {
 
 }  // namespace
 
-int checkInputs(Pair pair, double first, double second) noexcept {
-  using namespace constants;
-  switch (pair) {
-    case Pair::PT:
-      if (const int status = checkRange(second, 260.0, 2500.0); status != 0) return status;
-      return checkRange(first, 0.0, 3000.0);
-    case Pair::PQ:
-      if (const int status = checkRange(first, triplePointPressure, criticalPressure); status != 0)
-        return status;
-      return checkRange(second, 0.0, 1.0);
-    case Pair::TQ:
-      if (const int status = checkRange(first, triplePointTemperature, criticalTemperature);
-          status != 0)
-        return status;
-      return checkRange(second, 0.0, 1.0);
-    case Pair::HS:
-      if (!(first >= 0.0 && second >= 0.0)) return outOfRange;
-      return std::isfinite(first) && std::isfinite(second)
-                 ? 0
-                 : static_cast<int>(Message::solutionError);
+std::span<const double> boundsOf(Pair pair, Letter input) noexcept {
+  const bool onLine = secondOf(pair) == Letter::Q;
+  const auto either = [&](std::span<const double> line, std::span<const double> all) {
+    return onLine ? line : all;
+  };
+  switch (input) {
+    case Letter::P:
+      return either(pressuresOfLine, pressures);
+    case Letter::T:
+      return either(temperaturesOfLine, std::span(temperatures).first(pair == Pair::PT ? 5 : 7));
+    case Letter::Q:
+      return qualities;
     default:
-      break;
+      return {};
   }
-  const int status = firstOf(pair) == Letter::P ? checkRange(first, 0.0, 3000.0)
-                                                : checkRange(first, 260.0, 2500.0);
-  if (status != 0) return status;
-  return second >= 0.0 ? 0 : outOfRange;
 }
 
-double highestTransportTemperature(Letter letter) noexcept {
-  return letter == Letter::E ? 823.15 : 1073.15;
-}
-
-double highestTransportPressure(Letter letter, double T) noexcept {
-  if (letter == Letter::M) return T < 373.15 ? 1000.0 : T < 833.15 ? 350.0 : 100.0;
-  return letter == Letter::E ? 500.0 : 100.0;
+int checkInputs(Pair pair, double first, double second) noexcept {
+  const int one = checkInput(pair, firstOf(pair), first);
+  const int other = checkInput(pair, secondOf(pair), second);
+  // The members ask for the temperature before the pressure.
+  const int status = pair == Pair::PT && other != 0 ? other : one != 0 ? one : other;
+  if (status != 0 || pair != Pair::HS || std::isfinite(first + second)) return status;
+  return solutionError;
 }
 
 int checkTransport(Letter letter, double P, double T) noexcept {
   if (letter != Letter::M && letter != Letter::E && letter != Letter::K && letter != Letter::N) {
     return 0;
   }
-  const int status = checkRange(T, constants::celsiusZero, highestTransportTemperature(letter));
-  return status != 0 ? status : checkRange(P, 0.0, highestTransportPressure(letter, T));
+  const double highestP = letter == Letter::E                  ? 500.0
+                          : letter != Letter::M || T >= 833.15 ? 100.0
+                          : T < 373.15                         ? 1000.0
+                                                               : 350.0;
+  const int status = checkRange(T, celsiusZero, letter == Letter::E ? 823.15 : 1073.15);
+  return status != 0 ? status : checkRange(P, 0.0, highestP);
 }
 
 MemberRoad::MemberRoad() : model_(diagnostics_) {
@@ -102,32 +114,13 @@ int MemberRoad::find(Pair pair, double first, double second, FoundState& state) 
     const int status = solve(pair, first, second, state);
     if (status != 0) return status;
     const bool finite = std::isfinite(state.T) && std::isfinite(state.density);
-    return finite ? 0 : static_cast<int>(Message::solutionError);
+    return finite ? 0 : solutionError;
   } catch (const ZvThermoException& failure) {
-    return numberOf(failure.what());
+    const short number = messageNumber(failure.what());
+    return number == static_cast<short>(Message::errorFrame) ? solutionError : number;
   } catch (...) {
-    return static_cast<int>(Message::solutionError);
+    return solutionError;
   }
-}
-
-std::string MemberRoad::refusal(Pair pair, double first, double second) {
-  try {
-    FoundState state;
-    solve(pair, first, second, state);
-    return {};
-  } catch (const ZvThermoException& failure) {
-    return failure.what();
-  }
-}
-
-void MemberRoad::onLine(double T, double quality, FoundState& state) {
-  state.twoPhases = true;
-  state.T = T;
-  const PhaseEquilibrium line = equilibriumAtT(T);
-  state.pressure = line.P;
-  state.density = line.liquidDensity;
-  state.vapour = line.vapourDensity;
-  state.quality = quality;
 }
 
 int MemberRoad::solve(Pair pair, double first, double second, FoundState& state) {
@@ -139,11 +132,10 @@ int MemberRoad::solve(Pair pair, double first, double second, FoundState& state)
       }
       break;
     case Pair::PQ:
-      onLine(model_.TSatP(first), second, state);
-      state.pressure = first;
+      state = mixtureAtP(first, second);
       return 0;
     case Pair::TQ:
-      onLine(first, second, state);
+      state = mixtureAtT(first, second);
       return 0;
     case Pair::HS:
       return stateFromHS(first, second, state);
@@ -157,12 +149,11 @@ int MemberRoad::solve(Pair pair, double first, double second, FoundState& state)
   const SteamState& found = model_.state();
   if (phases == Phases::two) {
     // There are no two phases below the triple point.
-    if (firstOf(pair) == Letter::T && first < constants::triplePointTemperature) {
+    if (firstOf(pair) == Letter::T && first < triplePointTemperature) {
       return outOfRangeUnit;
     }
-    const double quality = found.quality;
-    onLine(found.temperature, quality, state);
-    if (firstOf(pair) == Letter::P) state.pressure = first;
+    state = firstOf(pair) == Letter::P ? mixtureAtP(first, found.quality)
+                                       : mixtureAtT(first, found.quality);
   } else {
     state = {false, found.temperature, found.density, 0.0, 0.0, found.quality};
   }

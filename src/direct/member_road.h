@@ -3,7 +3,7 @@
 /// steam layer's solve with the exact saturation line, without trace and units.
 #pragma once
 
-#include <string>
+#include <span>
 
 #include "diagnostics/diagnostics.h"
 #include "direct/direct_road.h"
@@ -28,12 +28,9 @@ class MemberRoad {
 
   /// 0 and the state, or the number of the message. Model units.
   int find(Pair pair, double first, double second, FoundState& state) noexcept;
-  /// The text with which the solve refuses inputs that are in range; empty if it does not.
-  [[nodiscard]] std::string refusal(Pair pair, double first, double second);
 
  private:
   int solve(Pair pair, double first, double second, FoundState& state);
-  void onLine(double T, double quality, FoundState& state);
 
   Diagnostics diagnostics_;
   SteamModel model_;
@@ -43,8 +40,8 @@ class MemberRoad {
 [[nodiscard]] int checkInputs(Pair pair, double first, double second) noexcept;
 /// The range of a transport correlation: 0 or 108; 0 for all other letters.
 [[nodiscard]] int checkTransport(Letter letter, double P, double T) noexcept;
-/// Its bounds: 273.15 K to this, 0 MPa to that.
-[[nodiscard]] double highestTransportTemperature(Letter letter) noexcept;
-[[nodiscard]] double highestTransportPressure(Letter letter, double T) noexcept;
+/// Where the ranges of an input end that the two know: a client's value that only the conversion of
+/// units moved past one of these is at it.
+[[nodiscard]] std::span<const double> boundsOf(Pair pair, Letter input) noexcept;
 
 }  // namespace calvex::direct

@@ -77,8 +77,9 @@ struct Decision {
 // (P, T): the border of the table decides, next to it the exact line as far as the tables know it.
 template <class N>
 Decision<N> decidePT(const N& P, const N& T) {
-  const MaskOf<N> sane =
-      within(P, 1e-12, highestPressure) && within(T, 260.0 - 1e-9, highestTemperature + 1e-3);
+  const MaskOf<N> sane = within(P, 1e-12, highestPressure) &&
+                         T >= N(constants::lowestTemperature) &&
+                         T <= N(constants::highestTemperature);
   const N safeP = select(sane, P, N(1.0));
   const N logP = log(safeP);
   Decision<N> d;
@@ -273,9 +274,9 @@ OnePhase<N> solvePR(const N& P, const N& density, const N& start) {
   const N r = 0.001 * density;
   for (int step = 0; step < newtonSteps; ++step) {
     TemperaturePartOf<N> part;
-    part.prepareAll(T, TemperatureOrder::curvature);
+    part.prepareAll(T, TemperatureOrder::energy);
     const HelmholtzPointOf<N> point(part, density);
-    const auto d = point.derivatives();
+    const auto d = point.gradient();
     const N delta = held((P - point.pressure()) / (d.PT * T));
     T = select(found, T, T + T * delta);
     // Steps are relative to T, the curvature of an isochore is small.
@@ -294,7 +295,7 @@ template <Letter second, class N>
 OnePhase<N> solveFromT(const N& T, const N& x, const N& start) {
   N density = start;
   TemperaturePartOf<N> part;
-  part.prepareAll(T, TemperatureOrder::curvature);
+  part.prepareAll(T, TemperatureOrder::energy);
   MaskOf<N> found = T < N(0.0);
   MaskOf<N> rising = found;
   N P = N(0.0);
@@ -303,8 +304,8 @@ OnePhase<N> solveFromT(const N& T, const N& x, const N& start) {
   for (int step = 0; step < newtonSteps; ++step) {
     const N r = 0.001 * density;
     const HelmholtzPointOf<N> point(part, density);
-    const auto d = point.derivatives();
-    const Slopes<N> f = slopesOf<second>(point, d, T, r);
+    const auto d = point.gradient();
+    const DensitySlope<N> f = slopeOf<second>(point, d, T, r);
     if (step == 0) rising = f.byR > N(0.0);
     const N delta = held((x - f.value) / (f.byR * r));
     density = select(found, density, density + density * delta);

@@ -3,13 +3,32 @@
 // neighbours. Included inside a namespace, after property-inl.h.
 //
 // Notation of fundamental_equation-inl.h: r density in g/cm3, P_r, P_T, h_r, ... derivatives at
-// constant T or r; with X and Y of HelmholtzPointOf::Derivatives
+// constant T or r; with X and Y of HelmholtzPointOf::Gradient
 //
 //     h_r = X - Y              h_T = c_v + P_T/r
 //     u_r = (P/r - RT)/r - Y   u_T = c_v
 //     s_r = -P_T/r^2           s_T = c_v/T
 
-/// An input property with its derivatives by temperature (K) and by density (g/cm3).
+/// An input property with its derivative by density (g/cm3).
+template <class N>
+struct DensitySlope {
+  N value;
+  N byR;
+};
+
+template <Letter letter, class N>
+HWY_INLINE DensitySlope<N> slopeOf(const HelmholtzPointOf<N>& point,
+                                   const typename HelmholtzPointOf<N>::Gradient& d, const N& T,
+                                   const N& r) {
+  if constexpr (letter == Letter::P) return {point.pressure(), d.Pr};
+  if constexpr (letter == Letter::H) return {point.enthalpy(), d.X - d.Y};
+  if constexpr (letter == Letter::S) return {point.entropy(), -d.PT / (r * r)};
+  if constexpr (letter == Letter::U) {
+    return {point.internalEnergy(), (point.pressureOverDensity() - coefficients::R * T) / r - d.Y};
+  }
+}
+
+/// The same with the derivative by temperature (K).
 template <class N>
 struct Slopes {
   N value;
@@ -21,15 +40,13 @@ template <Letter letter, class N>
 HWY_INLINE Slopes<N> slopesOf(const HelmholtzPointOf<N>& point,
                               const typename HelmholtzPointOf<N>::Derivatives& d, const N& T,
                               const N& r) {
-  if constexpr (letter == Letter::P) return {point.pressure(), d.PT, d.Pr};
-  if constexpr (letter == Letter::H) return {point.enthalpy(), d.cv + d.PT / r, d.X - d.Y};
-  if constexpr (letter == Letter::S) return {point.entropy(), d.cv / T, -d.PT / (r * r)};
-  if constexpr (letter == Letter::U) {
-    const N RT = coefficients::R * T;
-    return {point.internalEnergy(), d.cv, (point.pressureOverDensity() - RT) / r - d.Y};
-  }
-  if constexpr (letter == Letter::T) return {T, N(1.0), N(0.0)};
-  if constexpr (letter == Letter::R) return {1000.0 * r, N(0.0), N(1000.0)};
+  const DensitySlope<N> f = slopeOf<letter>(point, d, T, r);
+  N byT;
+  if constexpr (letter == Letter::P) byT = d.PT;
+  if constexpr (letter == Letter::H) byT = d.cv + d.PT / r;
+  if constexpr (letter == Letter::S) byT = d.cv / T;
+  if constexpr (letter == Letter::U) byT = d.cv;
+  return {f.value, byT, f.byR};
 }
 
 /// A state of one phase: temperature, K, density, kg/m3, and whether Newton's method arrived.
@@ -184,11 +201,11 @@ Equilibrium<N> equilibriumAtP(const N& P, const N& startT, const N& startLiquid,
   Mask found = T < N(0.0);
   for (int step = 0; step < newtonSteps; ++step) {
     TemperaturePartOf<N> part;
-    part.prepareAll(T, TemperatureOrder::curvature);
+    part.prepareAll(T, TemperatureOrder::energy);
     const HelmholtzPointOf<N> l(part, liquid);
     const HelmholtzPointOf<N> v(part, vapour);
-    const auto dl = l.derivatives();
-    const auto dv = v.derivatives();
+    const auto dl = l.gradient();
+    const auto dv = v.gradient();
     const N RT = coefficients::R * T;
     const N rl = 0.001 * liquid;
     const N rv = 0.001 * vapour;
@@ -225,11 +242,11 @@ Equilibrium<N> equilibriumAtHS(const N& h, const N& s, const N& startT, const N&
   Mask found = T < N(0.0);
   for (int step = 0; step < newtonSteps; ++step) {
     TemperaturePartOf<N> part;
-    part.prepareAll(T, TemperatureOrder::curvature);
+    part.prepareAll(T, TemperatureOrder::energy);
     const HelmholtzPointOf<N> l(part, liquid);
     const HelmholtzPointOf<N> v(part, vapour);
-    const auto dl = l.derivatives();
-    const auto dv = v.derivatives();
+    const auto dl = l.gradient();
+    const auto dv = v.gradient();
     const N RT = coefficients::R * T;
     const N rl = 0.001 * liquid;
     const N rv = 0.001 * vapour;

@@ -130,6 +130,11 @@ bool ZvThermoInt::validInputs(const PropertyMember& member, double& first, doubl
   if (!(fromT ? validTemperature("Temperature", first) : validPressure("Pressure", first))) {
     return false;
   }
+  // 0.01 C is the triple point also where 273.15999999999997 K comes of it.
+  if (fromT) {
+    moveOntoBound(first, constants::triplePointTemperature, constants::criticalTemperature,
+                  UnitGroup::temperature);
+  }
   // This one member spells it with a small letter.
   const std::string_view name =
       &member == &members[PropertyMember::QPV] ? "Specific volume" : quantity(member.second).name;

@@ -140,23 +140,30 @@ class HelmholtzPointOf {
 
   // Order::energy --------------------------------------------------------------------------------
   [[nodiscard]] N internalEnergy() const;  ///< kJ/kg
-  [[nodiscard]] N enthalpy() const { return internalEnergy() + pressureOverDensity_; }
-  [[nodiscard]] N helmholtz() const;  ///< kJ/kg
-  [[nodiscard]] N gibbs() const { return helmholtz() + pressureOverDensity_; }
-  /// s = (u - A)/T, kJ/(kg.K).
-  [[nodiscard]] N entropy() const { return (internalEnergy() - helmholtz()) / t_->T(); }
+  [[nodiscard]] N helmholtz() const;       ///< kJ/kg
+  [[nodiscard]] N enthalpy() const { return enthalpy(internalEnergy()); }
+  [[nodiscard]] N gibbs() const { return gibbs(helmholtz()); }
+  [[nodiscard]] N entropy() const { return entropy(internalEnergy(), helmholtz()); }
+  // The same where u and A are known: h = u + P/r, g = A + P/r, s = (u - A)/T, kJ/(kg.K).
+  [[nodiscard]] N enthalpy(const N& u) const { return u + pressureOverDensity_; }
+  [[nodiscard]] N gibbs(const N& A) const { return A + pressureOverDensity_; }
+  [[nodiscard]] N entropy(const N& u, const N& A) const { return (u - A) / t_->T(); }
   /// The part of the Gibbs energy that two phases of one temperature do not share; it needs no
   /// more than Order::pressure.
   [[nodiscard]] N gibbsOfPhase() const { return helmholtzOfDensity() + pressureOverDensity_; }
 
-  // Order::curvature -----------------------------------------------------------------------------
   /// Derivatives of the pressure, with the ideal gas split off so that nothing cancels at low
   /// density: P_r = R T + r X and T P_T = r (R T + r Y).
-  struct Derivatives {
+  struct Gradient {
     N Pr;  ///< dP/dr at constant T, kJ/kg
     N PT;  ///< dP/dT at constant r, MPa/K
     N X;
     N Y;
+  };
+  [[nodiscard]] Gradient gradient() const { return gradient(densityCurvature()); }
+
+  // Order::curvature -----------------------------------------------------------------------------
+  struct Derivatives : Gradient {
     N cv;  ///< kJ/(kg.K)
     N cp;  ///< kJ/(kg.K)
   };
@@ -198,6 +205,7 @@ class HelmholtzPointOf {
     N Sr;
   };
   [[nodiscard]] DensityCurvature densityCurvature() const;
+  [[nodiscard]] Gradient gradient(const DensityCurvature& c) const;
   [[nodiscard]] N slopeBeyondIdealGas(const DensityCurvature& c) const;  // X
   [[nodiscard]] N helmholtzOfDensity() const;
   [[nodiscard]] N RT() const;
@@ -487,33 +495,36 @@ typename HelmholtzPointOf<N>::PressureSlopes HelmholtzPointOf<N>::pressureSlopes
 }
 
 template <class N>
-typename HelmholtzPointOf<N>::Derivatives HelmholtzPointOf<N>::derivatives() const {
-  using namespace coefficients;
+typename HelmholtzPointOf<N>::Gradient HelmholtzPointOf<N>::gradient(
+    const DensityCurvature& c) const {
   const TemperatureTermsOf<N>& f = t_->value;
   const TemperatureTermsOf<N>& f1 = t_->slope;
-  const TemperatureTermsOf<N>& f2 = t_->curvature;
-  const N T = t_->T();
-  const DensityCurvature c = densityCurvature();
-
-  // T dS/dT and T^2 A_TT of the residual function
-  N ST = decay_ * seriesInQ(f1.G, q_);
-  N ATT = integralOfSeriesInQ(f2.G, q_);
-  ST = sumOfGaussians<1>(f1, ST);
-  ATT = sumOfGaussians<0>(f2, ATT);
-
-  Derivatives d;
+  // T dS/dT of the residual function
+  const N ST = sumOfGaussians<1>(f1, decay_ * seriesInQ(f1.G, q_));
+  Gradient d;
   d.X = slopeBeyondIdealGas(c);
   d.Y =
       RT() * (0.25 * f.b * baseSlope_ + f.B + 0.25 * f1.b * (baseSlope_ + y_ * c.base) + f1.B) + ST;
   d.Pr = RT() + r_ * d.X;
-  d.PT = r_ * (RT() + r_ * d.Y) / T;
+  d.PT = r_ * (RT() + r_ * d.Y) / t_->T();
+  return d;
+}
+
+template <class N>
+typename HelmholtzPointOf<N>::Derivatives HelmholtzPointOf<N>::derivatives() const {
+  using namespace coefficients;
+  const TemperatureTermsOf<N>& f1 = t_->slope;
+  const TemperatureTermsOf<N>& f2 = t_->curvature;
+  const N T = t_->T();
+  const DensityCurvature c = densityCurvature();
+  const Gradient d = gradient(c);
 
   // cv = -T A_TT, the base function's A being R T F
+  const N ATT = sumOfGaussians<0>(f2, integralOfSeriesInQ(f2.G, q_));  // T^2 A_TT, residual
   const N TFT = r_ * (0.25 * f1.b * baseSlope_ + f1.B) + 1.0;
   const N TTFTT =
       r_ * r_ * 0.0625 * f1.b * f1.b * c.base + r_ * (0.25 * f2.b * baseSlope_ + f2.B) - 1.0;
-  d.cv = R * (2.0 * f1.ideal + f2.ideal - 2.0 * TFT - TTFTT) - ATT / T;
+  const N cv = R * (2.0 * f1.ideal + f2.ideal - 2.0 * TFT - TTFTT) - ATT / T;
   const N beyond = RT() + r_ * d.Y;
-  d.cp = d.cv + beyond * beyond / (T * d.Pr);
-  return d;
+  return {d, cv, cv + beyond * beyond / (T * d.Pr)};
 }

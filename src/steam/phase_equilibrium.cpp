@@ -110,10 +110,10 @@ PhaseEquilibrium straightEnd(double T, double P, int evaluations) {
 // density, to which it tends.
 double slope(const PhaseEquilibrium& e) {
   TemperaturePart temperature;
-  temperature.prepare(e.T, TemperaturePart::Order::curvature);
+  temperature.prepare(e.T, TemperaturePart::Order::energy);
   const HelmholtzPoint liquid(temperature, e.liquidDensity);
   const HelmholtzPoint vapour(temperature, e.vapourDensity);
-  if (e.liquidDensity - e.vapourDensity < 1.0) return vapour.derivatives().PT;
+  if (e.liquidDensity - e.vapourDensity < 1.0) return vapour.gradient().PT;
   return (vapour.entropy() - liquid.entropy()) /
          (1000.0 / e.vapourDensity - 1000.0 / e.liquidDensity);
 }

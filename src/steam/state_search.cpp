@@ -52,13 +52,13 @@ bool SteamModel::isState(const Request& request, Start found, Side side) {
   }
   const bool needsSlope = !request.fromT() && request.second.equation == Equation::density;
   using Order = TemperaturePart::Order;
-  const HelmholtzPoint point(temperaturePart(T, needsSlope ? Order::curvature : Order::pressure),
+  const HelmholtzPoint point(temperaturePart(T, needsSlope ? Order::energy : Order::pressure),
                              density);
   // Roots between the spinodals meet their targets too: (P, s) at 15.98 MPa and 0.691 kJ/(kg.K), a
   // liquid at 322.7 K and 995 kg/m3, has one at 340.2 K and 731 kg/m3.
   if (!(point.pressureSlope() > 0.0) || !isOfPhase(side, T, density)) return false;
   // Water at 25 MPa has 1007.986 kg/m3 at 298.15 K and again at 252.6 K: the warmer is meant.
-  if (needsSlope && !(point.derivatives().PT > 0.0)) return false;
+  if (needsSlope && !(point.gradient().PT > 0.0)) return false;
   if (request.fromT() && request.second.equation != Equation::pressure) {
     const double P = point.pressure();
     if (!(P > 0.0 && P <= highestPressure * (1.0 + solverError))) return false;

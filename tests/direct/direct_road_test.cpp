@@ -233,17 +233,6 @@ TEST(DirectRoad, UnitsAreConvertedOnTheWay) {
   EXPECT_NEAR(values[1], 500.0, 1e-12);
   const double delta = direct::evaluate(Pair::PT, 10.0, 773.15, Letter::I);  // dh/dP at constant T
   EXPECT_NEAR(slope[0], 0.1 * delta, 1e-9);
-  const Letter letters[] = {Letter::H};
-  EXPECT_EQ(direct::reason(Pair::PT, 100.0, 3000.0, letters, units),
-            "Temperature parameter out of range (Valid range -13.15 to 2226.85 C).");
-  EXPECT_EQ(direct::reason(Pair::PH, 1.0, -1.0, letters), "Enthalpy parameter out of range.");
-  EXPECT_EQ(direct::reason(Pair::PT, 1.0, 600.0, letters), "");
-  // The member's own text, with the code of its solver.
-  ZvThermoInt engine;
-  double found = 0.0;
-  EXPECT_EQ(engine.TPH(&found, 10.0, 1e9), 0);
-  EXPECT_TRUE(engine.LastError().starts_with("No solution !! (Solver return code = "));
-  EXPECT_EQ(direct::reason(Pair::PH, 10.0, 1e9, letters), engine.LastError());
 }
 
 TEST(DirectRoad, EnthalpyAndEntropyGiveTheStateBack) {
