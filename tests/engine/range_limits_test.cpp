@@ -129,6 +129,35 @@ TEST_F(RangeLimits, StrictPressureBoundDependsOnTheTemperature) {
   EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::APT, 1400.0, 430.0), pressureWarning));
 }
 
+// Where the equation's isochoric heat capacity is negative; at 280 K that begins at 798 MPa. Its
+// enthalpy is that of a stable mixture up to 2513 kJ/kg.
+TEST_F(RangeLimits, UnstableWaterIsWarnedOfByEveryMemberThatAnswersIt) {
+  const std::string warning = "The heat capacity is not above zero";
+  for (const auto& [P, isUnstable] : {std::pair{790.0, false}, std::pair{2900.0, true}}) {
+    const double T = 280.0;
+    EXPECT_EQ(valueOf(engine, &ZvThermoInt::DPT, P, T) <= 0.0, isUnstable);
+    for (const PairMember& member : pairMembers()) {
+      const std::string given(member.name.substr(1));
+      if (contains("MKNE", std::string{member.result()})) continue;  // end below such pressures
+      double second = T;
+      if (given == "TH" && isUnstable) second = valueOf(engine, &ZvThermoInt::HPT, P, T);
+      if (given == "TR") second = valueOf(engine, &ZvThermoInt::RPT, P, T);
+      if (given == "TV") second = valueOf(engine, &ZvThermoInt::VPT, P, T);
+      if (second == T && given != "PT") continue;
+      const std::string trace = warningsOf(member.call, member.isFromPT() ? P : T, second);
+      EXPECT_EQ(contains(trace, "warning: " + warning), isUnstable) << member.name << '\n' << trace;
+    }
+    // Of several numbers at once, and with a quality.
+    const double h = valueOf(engine, &ZvThermoInt::HPT, P, T);
+    EXPECT_EQ(contains(traceOf(engine), warning), isUnstable);
+    engine.ClearTraceInfo();
+    double value = untouched;
+    ASSERT_EQ(engine.HPTQ(&value, P, T, 0.0), 1);
+    EXPECT_EQ(contains(traceOf(engine), warning), isUnstable);
+    EXPECT_EQ(value, h);
+  }
+}
+
 TEST_F(RangeLimits, StrictPressureBoundRisesFrom500To1500MPa) {
   EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::HPT, 500.0, 273.15), pressureWarning));
   EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::HPT, 500.1, 273.15), pressureWarning));
