@@ -199,7 +199,9 @@ std::optional<double> temperature(double P, Property property, double value, Sid
   if (P < oneStateBelow) {
     return atLower <= 0.0 ? std::optional(rootWithin(f, {lower, upper})) : std::nullopt;
   }
-  const auto interval = firstChange(f, upper, lower, scaledBy(0.95));
+  // At 844.7 MPa 771.6625 kJ/kg are those of 289.9, 288.3 and 276.0 K.
+  const auto next = [](double T) { return T * (T > 330.0 ? 0.95 : 0.99); };
+  const auto interval = firstChange(f, upper, lower, next);
   return interval ? std::optional(rootWithin(f, *interval)) : std::nullopt;
 }
 

@@ -380,6 +380,9 @@ TEST_F(OnlyStatesOfWater, AreAnsweredInTheKnownCases) {
       // 306.4 K is the other
       {false, 1507.6704127382288, Property::internalEnergy, 100.54983012129946, 315.28347,
        1507.6704127382288},
+      // 288.3 and 276.0 K are unstable
+      {false, 844.70084653005904, Property::enthalpy, 771.66251303488059, 289.9264,
+       844.70084653005904},
       // stretches of the equation that are mechanically stable and no water
       {true, 427.0, Property::enthalpy, 110.0, 0, 0},
       {false, 1303.3666624756431, Property::density, 277.89135934213317, 0, 0},
