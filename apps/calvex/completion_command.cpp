@@ -25,9 +25,10 @@ Words optionsOf(std::string_view command) {
   for (std::string line; std::getline(lines, line);) {
     const std::size_t begin = line.find("--");
     const std::string_view before = std::string_view(line).substr(0, begin);
-    const bool listed = begin != std::string::npos && line.starts_with("  ") &&
-                        before.find_first_not_of(" -,abcdefghijklmnopqrstuvwxyz") == before.npos &&
-                        before.size() <= 5;
+    const bool listed =
+        begin != std::string::npos && line.starts_with("  ") &&
+        before.find_first_not_of(" -,abcdefghijklmnopqrstuvwxyz") == std::string_view::npos &&
+        before.size() <= 5;
     if (listed) options.push_back(line.substr(begin, line.find_first_of(" ,", begin) - begin));
   }
   return options;

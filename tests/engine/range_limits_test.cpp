@@ -108,6 +108,13 @@ TEST_F(RangeLimits, ZeroPressurePassesTheChecksAndFailsInTheState) {
   EXPECT_FALSE(contains(error, "out of range")) << error;
 }
 
+TEST_F(RangeLimits, WithoutPressureThereIsNoStateToFind) {
+  for (const PairMember& member : pairMembers()) {
+    if (member.first() != 'P' || member.isFromPT()) continue;
+    EXPECT_EQ(errorOf(engine, member.call, 0.0, 0.5), "Solution Error.") << member.name;
+  }
+}
+
 TEST_F(RangeLimits, StrictTemperatureRangeLeavesOneWarningAndSucceeds) {
   engine.SetTraceLevel(1);
   double a = untouched;
