@@ -144,6 +144,16 @@ class Batch {
       outcome_.firstLine = answer.firstLine;
     }
     outcome_.rowsWithReason += answer.rowsWithReason;
+    for (std::size_t i = 0; i < answer.warned.size(); ++i) {
+      const WarnedRows& rows = answer.warned[i];
+      if (rows.rows == 0) continue;
+      const std::string& columns = plan_.calls[i].columns;
+      auto known = std::ranges::find(outcome_.warned, columns, &BatchOutcome::Warned::columns);
+      if (known == outcome_.warned.end()) {
+        known = outcome_.warned.insert(known, {columns, 0, rows.firstLine, rows.firstText});
+      }
+      known->rows += rows.rows;
+    }
     outcome_.working += answer.working;
     outcome_.calling += answer.calling;
   }

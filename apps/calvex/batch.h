@@ -24,10 +24,19 @@ struct BatchRequest {
 };
 
 struct BatchOutcome {
+  /// Rows that are answered with a warning.
+  struct Warned {
+    std::string columns;  ///< "h, s", which they are warned of
+    std::size_t rows = 0;
+    std::size_t firstLine = 0;
+    std::string firstText;
+  };
+
   std::size_t rows = 0;
   std::size_t rowsWithReason = 0;
   std::string firstReason;
   std::size_t firstLine = 0;  ///< of that reason's row
+  std::vector<Warned> warned;
 
   // Of all threads together.
   std::chrono::steady_clock::duration working{};

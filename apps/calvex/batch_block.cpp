@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "call.h"
 #include "encoding.h"
 #include "failure.h"
 #include "numbers.h"
@@ -40,11 +41,13 @@ BlockAnswer BlockWorker::work(const CsvBlocks::Block& block) {
   const auto begin = Clock::now();
   read(block);
   const auto called = Clock::now();
+  answer.warned.resize(plan_.calls.size());
   for (auto call = plan_.calls.begin(); call != plan_.calls.end();) {
     const auto next = std::find_if(call, plan_.calls.end(), [&](const BatchPlan::Call& other) {
       return other.operands != call->operands;
     });
-    compute({call, next});
+    compute({call, next},
+            std::span(answer.warned).subspan(static_cast<std::size_t>(call - plan_.calls.begin())));
     call = next;
   }
   answer.calling = Clock::now() - called;
@@ -127,7 +130,7 @@ double BlockWorker::number(const CsvRecord& record, std::size_t column) {
   return reject(std::move(reason));
 }
 
-void BlockWorker::compute(std::span<const BatchPlan::Call> calls) {
+void BlockWorker::compute(std::span<const BatchPlan::Call> calls, std::span<WarnedRows> warned) {
   const std::vector<BatchPlan::Operand>& operands = calls.front().operands;
   std::vector<direct::Column> inputs;
   inputs.reserve(operands.size());
@@ -154,6 +157,13 @@ void BlockWorker::compute(std::span<const BatchPlan::Call> calls) {
                 reason.empty()
                     ? fmt::format("{} gave no reason", call.member.member().name)
                     : fmt::format("{}{}{}", toUtf8(reason), cause.empty() ? "" : " ", cause)});
+         },
+         [this, &rows = warned[i]](std::size_t row, const ZvFunctionCall& left) {
+           if (++rows.rows != 1) return;
+           rows.firstLine = rows_[row].line;
+           for (const std::string& text : warningsOf(left, client_.engine().units())) {
+             rows.firstText += fmt::format("{}{}", rows.firstText.empty() ? "" : " ", text);
+           }
          }});
   }
   // Rows that lack an input have their reason already.

@@ -25,8 +25,16 @@ struct TableText {
   [[nodiscard]] std::string cell(std::string_view utf8) const;
 };
 
+/// Rows that a call answered with a warning.
+struct WarnedRows {
+  std::size_t rows = 0;
+  std::size_t firstLine = 0;
+  std::string firstText;  ///< UTF-8
+};
+
 struct BlockAnswer {
   std::string text;
+  std::vector<WarnedRows> warned;  ///< of each call of the plan
   std::size_t rows = 0;
   std::size_t rowsWithReason = 0;
   std::string firstReason;
@@ -62,7 +70,7 @@ class BlockWorker {
   void keep(const CsvRecord& record, std::size_t line);
   [[nodiscard]] double number(const CsvRecord& record, std::size_t column);
   /// Calls with the same inputs.
-  void compute(std::span<const BatchPlan::Call> calls);
+  void compute(std::span<const BatchPlan::Call> calls, std::span<WarnedRows> warned);
   void write(BlockAnswer& answer);
   void appendNumber(std::string& text, double value) const;
 

@@ -80,7 +80,9 @@ ExitStatus batchCommand(const Words& words, Console& console) {
       "stand as they are; those with , ( ) = and numbers stand in double quotes. A member with\n"
       "several results is followed by the name of one; 'calvex members TurbineA' lists them.\n"
       "Every cell of the table stays as it is. Numbers are added with all their digits; where\n"
-      "there is none the cell is empty and the last column, 'why', has the reason.\n"
+      "there is none the cell is empty and the last column, 'why', has the reason. Of rows that "
+      "are\n"
+      "answered with a warning standard error tells how many there are.\n"
       "The output file is complete or not there.\n"
       "Exit status: 2 when something could not be read, else 1 when a row has a reason, else 0.");
   BatchRequest request;
@@ -113,6 +115,11 @@ ExitStatus batchCommand(const Words& words, Console& console) {
       optionValue("--threads", [&] { return parseWholeNumber(threads, 0, 1024); }));
 
   const BatchOutcome outcome = run(rest->front(), output, request, console);
+  for (const BatchOutcome::Warned& warned : outcome.warned) {
+    warn(console, fmt::format("{} of {} rows are warned of in column {}; the first, line {}: {}",
+                              warned.rows, outcome.rows, inQuotes(warned.columns), warned.firstLine,
+                              warned.firstText));
+  }
   if (outcome.rowsWithReason == 0) return ExitStatus::ok;
   throw Failure(ExitStatus::callFailed,
                 fmt::format("{} of {} rows have a reason in column {}; the first, line {}: {}",

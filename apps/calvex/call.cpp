@@ -121,17 +121,6 @@ std::string strictRange(const ZvFunctionCall& node, std::string_view warning,
   return fmt::format(" Strictly valid: up to {} at {}, rising to {} from {} on.", P(500.0),
                      T(limits.TStrictMin), P(1500.0), T(423.15));
 }
-
-void collectWarnings(const ZvFunctionCall& node, const UserUnits& units,
-                     std::vector<std::string>& warnings) {
-  for (const auto* child = node.firstChild(); child != nullptr; child = child->nextSibling()) {
-    if (child->kind() == ZvFunctionCall::Kind::warning) {
-      std::string text = toUtf8(child->text());
-      text += strictRange(node, text, units);
-      if (std::ranges::find(warnings, text) == warnings.end()) warnings.push_back(std::move(text));
-    }
-    collectWarnings(*child, units, warnings);
-  }
 }
 
 // What the user of a setting's new value should know.
@@ -276,9 +265,24 @@ Outcome perform(Client& client, Call call) {
     if (outcome.reasonRecorded) outcome.cause = toUtf8(diagnostics.cause());
   }
   if (const ZvFunctionCall* entry = left.entry()) {
-    collectWarnings(*entry, client.units(), outcome.warnings);
+    outcome.warnings = warningsOf(*entry, client.units());
   }
   return outcome;
+}
+
+std::vector<std::string> warningsOf(const ZvFunctionCall& call, const UserUnits& units) {
+  std::vector<std::string> warnings;
+  const auto collect = [&](std::string text) {
+    if (std::ranges::find(warnings, text) == warnings.end()) warnings.push_back(std::move(text));
+  };
+  for (const auto* child = call.firstChild(); child != nullptr; child = child->nextSibling()) {
+    if (child->kind() == ZvFunctionCall::Kind::warning) {
+      const std::string text = toUtf8(child->text());
+      collect(text + strictRange(call, text, units));
+    }
+    for (std::string& text : warningsOf(*child, units)) collect(std::move(text));
+  }
+  return warnings;
 }
 
 std::string failureText(const Outcome& outcome) {

@@ -62,6 +62,10 @@ struct Outcome {
 
 [[nodiscard]] Outcome perform(Client& client, Call call);
 
+/// What a call as the trace has it was warned of, with those that it made, each text once, UTF-8.
+[[nodiscard]] std::vector<std::string> warningsOf(const ZvFunctionCall& call,
+                                                  const UserUnits& units);
+
 /// "HPT failed: ..." with the reason as far as it is known.
 [[nodiscard]] std::string failureText(const Outcome& outcome);
 

@@ -24,8 +24,9 @@ struct Console {
   bool outIsTerminal = false;
   bool inIsTerminal = false;
   bool errIsTerminal = false;
-  bool errIsOut = false;  ///< both go to the same place
-  bool colour = false;    ///< of messages on `err`
+  bool errIsOut = false;     ///< both go to the same place
+  std::size_t outWidth = 0;  ///< characters a line of the terminal that `out` is; 0 for none
+  bool colour = false;       ///< of messages on `err`
   std::string configFile = {};
   /// What every command that takes units starts with; none when empty. Throws Failure.
   std::function<StartingOptions()> startingOptions = {};

@@ -2,7 +2,7 @@
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 
-#include <ostream>
+#include <sstream>
 
 #include "client.h"
 #include "command_line.h"
@@ -14,9 +14,31 @@ namespace calvex::cli {
 
 namespace {
 
+// The long options that a command's own help lists.
+Words optionsOf(std::string_view command) {
+  std::istringstream in;
+  std::ostringstream out, err;
+  Console console{in, out, err};
+  runCommandLine({std::string(command), "--help"}, console);
+  Words options;
+  std::istringstream lines(out.str());
+  for (std::string line; std::getline(lines, line);) {
+    const std::size_t begin = line.find("--");
+    const std::string_view before = std::string_view(line).substr(0, begin);
+    const bool listed =
+        begin != std::string::npos && line.starts_with("  ") &&
+        before.find_first_not_of(" -,abcdefghijklmnopqrstuvwxyz") == std::string_view::npos &&
+        before.size() <= 5;
+    if (listed) options.push_back(line.substr(begin, line.find_first_of(" ,", begin) - begin));
+  }
+  return options;
+}
+
 struct Lists {
   std::string commands, members, settings, groups;
   std::string properties = "P T H S U R V Q";  ///< that determine a state
+  std::string options;      ///< a line of a shell's `case` for each command with options of its own
+  std::string fishOptions;  ///< the same for fish
 
   Lists() {
     Words words;
@@ -35,6 +57,16 @@ struct Lists {
     std::erase_if(words,
                   [](const std::string& word) { return word.find(' ') != std::string::npos; });
     groups = joined(words);
+    for (const CommandName& command : commandNames()) {
+      const Words own = optionsOf(command.name);
+      if (own.empty()) continue;
+      options += fmt::format("        {}) choices='{} --no-config' ;;\n", command.name,
+                             fmt::join(own, " "));
+      for (const std::string& option : own) {
+        fishOptions += fmt::format("complete -c calvex -n '__fish_seen_subcommand_from {}' -l {}\n",
+                                   command.name, option.substr(2));
+      }
+    }
   }
 
  private:
@@ -45,29 +77,40 @@ struct Lists {
   }
 };
 
-// @C, @M, @S, @G and @P stand for the lists.
+// @C, @M, @S, @G, @P, @O and @F stand for the lists.
 constexpr std::string_view bash =
     R"sh(# bash completion of calvex; in ~/.bashrc: eval "$(calvex completion bash)"
 _calvex() {
   local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
-  local commands='@C' members='@M' words
+  local commands='@C' members='@M' choices
   COMPREPLY=()
   case $previous in
-    -u | --unit) words='@G' ;;
-    -s | --set) words='@S' ;;
-    help | members) words="$members $commands" ;;
-    units | convert) words='@G' ;;
-    state) words='@P' ;;
-    table) words='saturation isobar isotherm' ;;
-    completion) words='bash zsh fish' ;;
-    run) mapfile -t COMPREPLY < <(compgen -f -- "$word"); return ;;
+    -u | --unit) choices='@G' ;;
+    -s | --set) choices='@S' ;;
+    help | members) choices="$members $commands" ;;
+    units | convert) choices='@G' ;;
+    state) choices='@P' ;;
+    table) choices='saturation isobar isotherm' ;;
+    plot) choices='Ts hs logph Pv' ;;
+    config) choices='@G @S --clear' ;;
+    completion) choices='bash zsh fish' ;;
+    --separator) choices='comma semicolon tab' ;;
+    --by) choices='T P' ;;
+    run | batch | -o | --output)
+      mapfile -t COMPREPLY < <(compgen -f -- "$word")
+      compopt -o filenames 2>/dev/null
+      return
+      ;;
     *)
-      words='--unit --set --json --trace --help --no-config'
-      ((COMP_CWORD == 1)) && words="$commands $members --help --version"
+      case ${COMP_WORDS[1]} in
+@O        *) choices='--unit --set --json --trace --help --no-config' ;;
+      esac
+      ((COMP_CWORD == 1)) && choices="$commands $members --help --version"
       ;;
   esac
-  mapfile -t COMPREPLY < <(compgen -W "$words" -- "$word")
-  if [[ $previous == -[us] || $previous == --unit || $previous == --set || $previous == state ]]; then
+  mapfile -t COMPREPLY < <(compgen -W "$choices" -- "$word")
+  if [[ $previous == -[us] || $previous == --unit || $previous == --set || $previous == state ||
+    $previous == config && $word != -* ]]; then
     COMPREPLY=("${COMPREPLY[@]/%/=}")
     compopt -o nospace 2>/dev/null
   fi
@@ -88,14 +131,21 @@ _calvex() {
     units|convert) compadd -- @G ;;
     state) compadd -S = -- @P ;;
     table) compadd -- saturation isobar isotherm ;;
+    plot) compadd -- Ts hs logph Pv ;;
+    config) compadd -S = -- @G @S; compadd -- --clear ;;
     completion) compadd -- bash zsh fish ;;
-    run) _files ;;
+    --separator) compadd -- comma semicolon tab ;;
+    --by) compadd -- T P ;;
+    run|batch|-o|--output) _files ;;
     *)
       if (( CURRENT == 2 )); then
         compadd -- $commands $members --help --version
-      else
-        compadd -- --unit --set --json --trace --help --no-config
+        return
       fi
+      local choices='--unit --set --json --trace --help --no-config'
+      case $words[2] in
+@O      esac
+      compadd -- ${=choices}
       ;;
   esac
 }
@@ -111,8 +161,12 @@ complete -c calvex -n '__fish_seen_subcommand_from units convert' -a '@G'
 complete -c calvex -n '__fish_seen_subcommand_from state' -a '(string split " " "@P")='
 complete -c calvex -n '__fish_seen_subcommand_from table' -a 'saturation isobar isotherm'
 complete -c calvex -n '__fish_seen_subcommand_from completion' -a 'bash zsh fish'
-complete -c calvex -n '__fish_seen_subcommand_from run' -F
-complete -c calvex -s u -l unit -x -a '(string split " " "@G")=' -d 'unit for a quantity'
+complete -c calvex -n '__fish_seen_subcommand_from plot' -a 'Ts hs logph Pv'
+complete -c calvex -n '__fish_seen_subcommand_from run batch' -F
+complete -c calvex -n '__fish_seen_subcommand_from config' -a '(string split " " "@G @S")='
+complete -c calvex -n '__fish_seen_subcommand_from batch plot' -s o -l output -r -F
+complete -c calvex -n '__fish_seen_subcommand_from batch' -l separator -x -a 'comma semicolon tab'
+@Fcomplete -c calvex -s u -l unit -x -a '(string split " " "@G")=' -d 'unit for a quantity'
 complete -c calvex -s s -l set -x -a '(string split " " "@S")=' -d 'setting of the engine'
 complete -c calvex -l json -d 'print JSON'
 complete -c calvex -l trace -d 'print the tree of traced calls'
@@ -130,6 +184,8 @@ std::string filled(std::string_view script) {
                               : letter == 'S' ? &lists.settings
                               : letter == 'G' ? &lists.groups
                               : letter == 'P' ? &lists.properties
+                              : letter == 'O' ? &lists.options
+                              : letter == 'F' ? &lists.fishOptions
                                               : nullptr;
     if (list == nullptr) {
       text += script[i];

@@ -13,6 +13,7 @@ int main(int count, char** arguments) {
   console.outIsTerminal = terminal.out;
   console.errIsTerminal = terminal.err;
   console.errIsOut = terminal.errIsOut;
+  console.outWidth = terminal.outWidth;
   console.colour = terminal.colour;
   console.configFile = configPath();
   console.startingOptions = [&] { return readConfig(console.configFile); };

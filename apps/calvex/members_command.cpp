@@ -60,6 +60,17 @@ Words wordsIn(std::string_view text) {
   return words;
 }
 
+// The words that are looked for: of "heat of evaporation" the first and the last.
+Words wantedIn(std::string_view text) {
+  constexpr std::string_view fillers[] = {"a", "an", "and", "at", "for", "in", "of", "the"};
+  const Words all = wordsIn(text);
+  Words wanted;
+  std::ranges::copy_if(all, std::back_inserter(wanted), [&](const std::string& word) {
+    return std::ranges::find(fillers, word) == std::end(fillers);
+  });
+  return wanted.empty() ? all : wanted;
+}
+
 // Whether each of the words begins one of the text's.
 bool mentions(std::string_view text, const Words& wanted) {
   const Words present = wordsIn(text);
@@ -119,7 +130,7 @@ std::string list(const std::vector<Found>& members) {
 std::string search(const std::string& pattern) {
   std::vector<Found> all, found, others;
   for (const Member& member : memberTable()) all.push_back({&member, explanation(member)});
-  const Words wanted = wordsIn(pattern);
+  const Words wanted = wantedIn(pattern);
   for (const Found& one : all) {
     const bool underHeading = mentions(headingText(one.explained.heading), wanted);
     if (nameMatches(one.member->name, pattern) ||
@@ -146,7 +157,7 @@ std::string search(const std::string& pattern) {
       if (word.size() > 3) known.push_back(std::move(word));
     }
   }
-  const Words wanted = wordsIn(pattern);
+  const Words wanted = wantedIn(pattern);
   std::string text;
   for (const std::string& word : wanted) {
     const bool present = std::ranges::any_of(

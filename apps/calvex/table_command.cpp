@@ -142,14 +142,21 @@ std::vector<Row> rowsOnLine(const Water& water, const Table& table, const Satura
   return rows;
 }
 
-// Writes the lines in one of the formats.
+// Writes the lines in one of the formats; as text in parts side by side, where a terminal is not
+// wide enough for all columns.
 class Sheet {
  public:
+  /// Columns [first, last), beside the key's.
+  struct Part {
+    std::size_t first, last;
+  };
+
   Sheet(std::ostream& out, const Water& water, const Table& table)
       : out_(out), format_(table.format), phases_(table.ofStates()) {
     const auto add = [&](std::string_view title, char letter) {
       titles_.emplace_back(title);
       units_.push_back(water.unit(letter));
+      letters_ += letter;
     };
     add(std::string(1, table.key), table.key);
     if (phases_) {
@@ -160,9 +167,36 @@ class Sheet {
     }
     if (format_ == Format::json) beginJson(water, table);
     if (format_ == Format::csv) beginCsv();
-    if (format_ == Format::text) {
-      out_ << columns(titles_) << '\n' << columns(units_) << '\n';
+  }
+
+  /// The parts for a terminal of that many characters a line; 0 for no terminal. Columns of one
+  /// property stay together where they fit.
+  [[nodiscard]] std::vector<Part> parts(std::size_t lineWidth) const {
+    const std::size_t all = titles_.size();
+    if (format_ != Format::text || lineWidth == 0) return {{1, all}};
+    const std::size_t phaseWidth = phases_ ? 22 : 0;
+    const std::size_t inNumbers = lineWidth - std::min(lineWidth, phaseWidth);
+    const std::size_t fitting = std::max<std::size_t>(inNumbers / columnWidth, 2) - 1;
+    std::vector<Part> found{{1, 1}};
+    while (found.back().last < all) {
+      Part& part = found.back();
+      const std::size_t next = part.last;
+      std::size_t end = std::min(letters_.find_first_not_of(letters_[next], next), all);
+      const bool alone = next == part.first;
+      if (alone) end = std::min(end, next + fitting);
+      if (alone || end - part.first <= fitting) {
+        part.last = end;
+      } else {
+        found.push_back({next, next});
+      }
     }
+    return found;
+  }
+
+  void begin(Part part) {
+    part_ = part;
+    if (format_ != Format::text) return;
+    out_ << (part.first == 1 ? "" : "\n") << columns(titles_) << '\n' << columns(units_) << '\n';
   }
 
   void line(const Row& row) {
@@ -180,8 +214,10 @@ class Sheet {
       out_ << csvLine(fields);
       return;
     }
+    out_ << columns(fields);
     const std::string& remark = row.failure.empty() ? row.phase : row.failure;
-    out_ << columns(fields) << (remark.empty() ? "" : "  ") << remark << '\n';
+    if (!remark.empty() && part_.last == titles_.size()) out_ << "  " << remark;
+    out_ << '\n';
   }
 
   void end() {
@@ -189,12 +225,15 @@ class Sheet {
   }
 
  private:
-  static std::string columns(const std::vector<std::string>& fields) {
-    constexpr std::size_t columnWidth = 13;
+  static constexpr std::size_t columnWidth = 13;
+
+  // The key's field and those of the part.
+  [[nodiscard]] std::string columns(const std::vector<std::string>& fields) const {
     std::string text;
-    for (const std::string& field : fields) {
-      text.append(columnWidth - std::min(columnWidth - 1, width(field)), ' ');
-      text += field;
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+      if (i != 0 && (i < part_.first || i >= part_.last)) continue;
+      text.append(columnWidth - std::min(columnWidth - 1, width(fields[i])), ' ');
+      text += fields[i];
     }
     return text;
   }
@@ -239,6 +278,8 @@ class Sheet {
   Format format_;
   bool phases_;
   std::vector<std::string> titles_, units_;
+  std::string letters_;
+  Part part_{};
   bool first_ = true;
 };
 
@@ -247,55 +288,75 @@ bool isBetween(double x, double from, double to) {
   return from < to ? from < x && x <= to : to <= x && x < from;
 }
 
-ExitStatus print(const Table& table, Client& client, Console& console) {
-  const long lines = table.range.lines();
-  Water water(client);
-  // Where an isobar or isotherm meets the saturation line, if it does.
-  std::optional<Saturation> meeting;
-  double meetingKey = 0.0;
-  if (table.ofStates()) {
-    meeting = saturationAt(water, {table.other(), table.fixed});
-    if (meeting) meetingKey = water.toUser(table.key, table.key == 'T' ? meeting->T : meeting->P);
+class Printer {
+ public:
+  Printer(const Table& table, Client& client, Console& console)
+      : table_(table),
+        lines_(table.range.lines()),
+        console_(console),
+        water_(client),
+        sheet_(console.out, water_, table) {
+    if (!table.ofStates()) return;
+    meeting_ = saturationAt(water_, {table.other(), table.fixed});
+    if (meeting_) {
+      meetingKey_ = water_.toUser(table.key, table.key == 'T' ? meeting_->T : meeting_->P);
+    }
   }
-  Sheet sheet(console.out, water, table);
-  ExitStatus status = ExitStatus::ok;
-  std::string firstFailure;
-  Progress progress(console.err, lines, console.errIsTerminal && !console.outIsTerminal);
-  for (long i = 0; i < lines && console.out; ++i) {
-    const auto keyOf = [&](long line) {
-      return table.range.from + static_cast<double>(line) * table.range.step;
-    };
+
+  /// Throws Failure when a line failed.
+  void print() {
+    const auto parts = sheet_.parts(console_.outWidth);
+    Progress progress(console_.err, lines_, console_.errIsTerminal && !console_.outIsTerminal);
+    for (const Sheet::Part& part : parts) {
+      sheet_.begin(part);
+      for (long i = 0; i < lines_ && console_.out; ++i) {
+        line(i);
+        progress.at(i + 1);
+      }
+    }
+    sheet_.end();
+    for (const std::string& warning : water_.warnings()) warn(console_, warning);
+    if (!firstFailure_.empty()) throw Failure(ExitStatus::callFailed, firstFailure_);
+  }
+
+ private:
+  [[nodiscard]] double keyOf(long i) const {
+    return table_.range.from + static_cast<double>(i) * table_.range.step;
+  }
+
+  void line(long i) {
     const double key = keyOf(i);
     const bool meets =
-        meeting && (i == 0 ? meetingKey == key : isBetween(meetingKey, keyOf(i - 1), key));
-    if (meets) {
-      for (const Row& row : rowsOnLine(water, table, *meeting)) sheet.line(row);
-    }
+        meeting_ && (i == 0 ? meetingKey_ == key : isBetween(meetingKey_, keyOf(i - 1), key));
+    if (meets) meet();
     const Row row =
-        table.ofStates() ? stateRow(water, table, key) : saturationRow(water, table, key);
+        table_.ofStates() ? stateRow(water_, table_, key) : saturationRow(water_, table_, key);
     const bool onLine = row.failure.find(messageText(Message::twoPhase)) != std::string::npos;
-    if (onLine && meeting) {
+    if (onLine && meeting_) {
       // Pressure and temperature say no more than the two lines do.
-      const bool shown = meets || (i + 1 < lines && isBetween(meetingKey, key, keyOf(i + 1)));
-      if (!shown) {
-        for (const Row& both : rowsOnLine(water, table, *meeting)) sheet.line(both);
-      }
-      continue;
+      const bool shown = meets || (i + 1 < lines_ && isBetween(meetingKey_, key, keyOf(i + 1)));
+      if (!shown) meet();
+      return;
     }
-    sheet.line(row);
-    if (!row.failure.empty()) {
-      status = ExitStatus::callFailed;
-      if (firstFailure.empty()) {
-        firstFailure = fmt::format("at {} = {}: {}", table.key, readableText(key, 7), row.failure);
-      }
+    sheet_.line(row);
+    if (!row.failure.empty() && firstFailure_.empty()) {
+      firstFailure_ = fmt::format("at {} = {}: {}", table_.key, readableText(key, 7), row.failure);
     }
-    progress.at(i + 1);
   }
-  sheet.end();
-  for (const std::string& warning : water.warnings()) warn(console, warning);
-  if (status != ExitStatus::ok) throw Failure(status, firstFailure);
-  return status;
-}
+
+  void meet() {
+    for (const Row& row : rowsOnLine(water_, table_, *meeting_)) sheet_.line(row);
+  }
+
+  const Table& table_;
+  long lines_;
+  Console& console_;
+  Water water_;
+  Sheet sheet_;
+  std::optional<Saturation> meeting_;  ///< where an isobar or isotherm meets the saturation line
+  double meetingKey_ = 0.0;
+  std::string firstFailure_;
+};
 
 }  // namespace
 
@@ -389,7 +450,8 @@ ExitStatus tableCommand(const Words& words, Console& console) {
     table.fixed =
         optionValue(kind, [&] { return valueWithUnit(operands[1], group, client.units()); });
   }
-  return print(table, client, console);
+  Printer(table, client, console).print();
+  return ExitStatus::ok;
 }
 
 }  // namespace calvex::cli

@@ -3,6 +3,9 @@
 #include <fmt/format.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#ifndef _WIN32
+#include <sys/ioctl.h>
+#endif
 
 #include <cstdlib>
 
@@ -29,6 +32,10 @@ Terminal lookAtTerminal() {
   terminal.out = isatty(STDOUT_FILENO) != 0;
   terminal.err = isatty(STDERR_FILENO) != 0;
   terminal.errIsOut = (terminal.out && terminal.err) || sameFile(STDOUT_FILENO, STDERR_FILENO);
+#ifndef _WIN32
+  winsize size = {};
+  if (terminal.out && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0) terminal.outWidth = size.ws_col;
+#endif
   // https://no-color.org: any value but the empty one says no.
   terminal.colour =
       terminal.err && environment("NO_COLOR").empty() && environment("TERM") != "dumb";

@@ -2,6 +2,7 @@
 /// What the program knows of the terminal it runs in.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,7 @@ namespace calvex::cli {
 struct Terminal {
   bool in = false, out = false, err = false;  ///< whether the stream is a terminal
   bool errIsOut = false;                      ///< both go to the same terminal, file or pipe
+  std::size_t outWidth = 0;                   ///< characters a line of `out`; 0 where unknown
   bool colour = false;  ///< whether what goes to `err` may be coloured: NO_COLOR and TERM agree
 };
 

@@ -52,8 +52,6 @@ constexpr PropertyMember members[] = {
 };
 static_assert(std::size(members) == PropertyMember::count);
 
-bool isHeatCapacity(Letter letter) { return letter == Letter::C || letter == Letter::D; }
-
 }  // namespace
 
 const Quantity& quantity(Letter letter) noexcept {
@@ -96,20 +94,19 @@ int ZvThermoInt::property(PropertyMember::Index index, double* out, double first
           break;
       }
     }
-    if (member.result == Letter::Q) return give(out, result.group, steam_.state().quality);
-    // Not the pressure at the density found: cold water's density does not resolve it.
-    if (member.result == Letter::Z) {
-      return give(out, compressibilityFactor(x1, x2, steam_.state().density));
-    }
-    const double value = phases == Phases::two ? steam_.mixtureProperty(result.property)
-                                               : steam_.property(result.property);
-    // From 800 MPa on, where it freezes, water below 330 K has negative heat capacities by the
-    // equation, and no speed of sound.
-    if (value <= 0.0 && isHeatCapacity(member.result)) {
-      diagnostics_.postWarning(unstableWater);
-    } else if (std::isnan(value) && member.result == Letter::W) {
+    const double value = [&] {
+      if (member.result == Letter::Q) return steam_.state().quality;
+      // Not the pressure at the density found: cold water's density does not resolve it.
+      if (member.result == Letter::Z) {
+        return compressibilityFactor(x1, x2, steam_.state().density);
+      }
+      return phases == Phases::two ? steam_.mixtureProperty(result.property)
+                                   : steam_.property(result.property);
+    }();
+    if (std::isnan(value) && member.result == Letter::W) {
       return fail(Message::solutionError, unstableWater);
     }
+    if (phases == Phases::one) warnOfUnstableWater();
     return result.hasUnit ? give(out, result.group, value) : give(out, value);
   });
 }
@@ -300,6 +297,13 @@ bool ZvThermoInt::isOnLine(double P, double T) {
           std::fabs(1.0 - T / steam_.TSatP(P)) < 1e-9);
 }
 
+// From 800 MPa on, where it freezes, water below 325 K has negative heat capacities by the
+// equation.
+void ZvThermoInt::warnOfUnstableWater() {
+  if (!diagnostics_.wantsWarnings() || steam_.isThermallyStable()) return;
+  diagnostics_.postWarning(unstableWater);
+}
+
 // The quality of a state off the line is ignored; where it says otherwise than the phase, that is
 // worth a word.
 void ZvThermoInt::warnOfQuality(double P, double T, double Q) {
@@ -327,6 +331,7 @@ int ZvThermoInt::HPTQ(double* pH, double P, double T, double Q) {
     if (!phases) return false;
     if (phases == Phases::two || isOnLine(p, t)) return HSatPQ(pH, P, Q) != 0;
     if (steam_.polish() == SatPolish::deciding) warnOfQuality(p, t, q);
+    warnOfUnstableWater();
     return give(pH, UnitGroup::enthalpy, steam_.property(Property::enthalpy));
   });
 }
@@ -342,6 +347,7 @@ int ZvThermoInt::fromPH(std::string_view name, double* pQ, double* pT, Property 
     const auto phases = solved({Letter::P, p, Letter::H, h},
                                [&] { return steam_.stateFromP(p, Property::enthalpy, h); });
     if (!phases) return false;
+    if (phases == Phases::one) warnOfUnstableWater();
     double q = 0.0;
     double t = 0.0;
     double x = 0.0;

@@ -255,6 +255,7 @@ class ZvThermoInt {
   [[nodiscard]] double constant(UnitGroup group, double value) const;
   bool isOnLine(double P, double T);
   void warnOfQuality(double P, double T, double Q);
+  void warnOfUnstableWater();
   void explainRange(std::string_view name, double value, double lower, double upper,
                     UnitGroup group);
   bool failWithServer(short status);

@@ -44,16 +44,16 @@ void put(const direct::Target<T>& target, std::size_t row, T value) {
   if (target.data != nullptr) target.data[static_cast<std::ptrdiff_t>(row) * target.stride] = value;
 }
 
-// What the rows of a request leave in the engine is theirs: no warnings are collected, and no trace
-// at all where nobody asks for reasons.
+// What the rows of a request leave in the engine is theirs: only what somebody asks for is
+// collected.
 class QuietEngine {
  public:
-  QuietEngine(ZvThermoInt& engine, bool reasons)
+  QuietEngine(ZvThermoInt& engine, bool reasons, bool warnings)
       : diagnostics_(engine.diagnostics()),
         tracing_(diagnostics_.tracingFlag()),
         level_(diagnostics_.level()) {
-    diagnostics_.setTracing(reasons ? 1 : 0);
-    diagnostics_.setLevel(0);
+    diagnostics_.setTracing(reasons || warnings ? 1 : 0);
+    diagnostics_.setLevel(warnings ? 1 : 0);
     diagnostics_.clear();
   }
   ~QuietEngine() {
@@ -179,10 +179,15 @@ class MemberRows {
   void ask(std::size_t row) {
     if (call_(engine_, row)) {
       put(request_.status, row, short{0});
+      // A call that succeeds without a warning leaves nothing.
+      const ZvFunctionCall* left = engine_.diagnostics().root().firstChild();
+      if (left == nullptr) return;
+      if (request_.warning) request_.warning(row, *left);
+      engine_.ClearTraceInfo();
       return;
     }
     for (const MemberRequest::Output& output : request_.outputs) put(output.value, row, none);
-    if (!wantsReasons(request_)) return;
+    if (!engine_.diagnostics().tracing()) return;
     put(request_.status, row, messageNumber(engine_.LastError()));
     if (request_.reason) {
       request_.reason(row, request_.withCause ? withCause() : engine_.LastError());
@@ -192,6 +197,32 @@ class MemberRows {
 
   static bool wantsReasons(const MemberRequest& request) {
     return request.status.data != nullptr || request.reason;
+  }
+  static bool wantsWarnings(const MemberRequest& request) { return bool(request.warning); }
+
+  // Whether the member may warn of a row that the direct road answers: of inputs beyond the
+  // strictly valid range, and of water below 325 K under more than 790 MPa, which the equation
+  // makes unstable.
+  [[nodiscard]] bool mayWarn(const DirectMember& member, std::size_t row) const {
+    if (!request_.warning || member.pair == direct::Pair::PQ || member.pair == direct::Pair::TQ) {
+      return false;
+    }
+    const auto input = [&](std::size_t i) {
+      return engine_.units().toInternal(UnitGroup(request_.member.inputs()[i].group),
+                                        at(request_.inputs[i], row));
+    };
+    const RangeLimits limits;
+    const auto isUsual = [&](double T, double lowest) {
+      return T >= lowest && T <= limits.TStrictMax;
+    };
+    if (member.pair == direct::Pair::PT) {
+      constexpr double atLowestTemperature = 500.0, ofViscosity = 100.0;  // MPa
+      const bool isViscosity = member.result == direct::Letter::M;
+      return !isUsual(input(1), limits.TStrictMin) ||
+             input(0) > (isViscosity ? ofViscosity : atLowestTemperature);
+    }
+    return direct::firstOf(member.pair) == direct::Letter::P ? input(0) > 790.0
+                                                             : !isUsual(input(0), 325.0);
   }
 
  private:
@@ -269,7 +300,7 @@ class DirectRows {
           put(output.value, row, value);
         }
       }
-      if (status == 0) {
+      if (status == 0 && !member.rows->mayWarn({pair_.pair, member.letter}, row)) {
         put(member.request->status, row, short{0});
       } else {
         member.rows->ask(row);
@@ -293,7 +324,8 @@ void evaluate(const MemberRequest& request, ZvThermoInt& engine, std::size_t beg
 
 void evaluate(std::span<const MemberRequest> requests, ZvThermoInt& engine, std::size_t begin,
               std::size_t end) {
-  const QuietEngine quiet(engine, std::ranges::any_of(requests, MemberRows::wantsReasons));
+  const QuietEngine quiet(engine, std::ranges::any_of(requests, MemberRows::wantsReasons),
+                          std::ranges::any_of(requests, MemberRows::wantsWarnings));
   const std::optional<direct::Units> units =
       hasDirectSettings(engine) ? directUnits(engine.units()) : std::nullopt;
   std::deque<MemberRows> members;  // they stay where they are

@@ -67,6 +67,9 @@ struct MemberRequest {
   /// Told of each row that fails, with the member's last error (Windows-1252; empty when it gave
   /// none), by the thread that has the row.
   std::function<void(std::size_t row, std::string_view reason)> reason{};
+  /// Told of each row that is answered with a warning, with its call as the trace has it. Rows that
+  /// may be warned of are then asked of the member.
+  std::function<void(std::size_t row, const ZvFunctionCall& call)> warning{};
   /// Whether that has the cause behind it, where there is one: "Pressure ... . Pressure 0 is ...".
   bool withCause = false;
 };

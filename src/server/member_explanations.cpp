@@ -30,7 +30,8 @@ constexpr LetterExplanation letters[] = {
     {'R', UnitGroup::density, true, "density", "", "rho"},
     {'V', UnitGroup::specificVolume, true, "specific volume", "", "volume"},
     {'Q', UnitGroup::quality, true, "quality",
-     "Quality is the mass fraction of vapour: 0 in liquid, 1 in vapour.", "dryness fraction x"},
+     "Quality is the mass fraction of vapour: 0 in liquid, 1 in vapour.",
+     "dryness fraction x wet steam"},
     {'A', UnitGroup::helmholtzEnergy, true, "Helmholtz energy", "The Helmholtz energy is u - T s.",
      "free energy"},
     {'G', UnitGroup::gibbsEnergy, true, "Gibbs energy", "The Gibbs energy is h - T s.",
@@ -242,6 +243,11 @@ void explainLettered(const Member& member, MemberExplanation& explained) {
     explained.heading = MemberHeading::saturation;
     if (member.name == "PSatT") explained.other += "vapour vapor pressure boiling";
     if (member.name == "TSatP") explained.other += "boiling point dew condensation";
+    if (member.name == "HVLTSat_PQ") {
+      explained.other += "latent heat evaporation vaporisation vaporization";
+      explained.notes +=
+          "The vapour's enthalpy less the liquid's is the latent heat, the heat of evaporation.";
+    }
     if (inputLetters.ends_with('Q') && results.size() == 1) {
       explained.title = fmt::format("saturated {} from {}", listed(results), listed(inputs));
     }

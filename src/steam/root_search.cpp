@@ -193,10 +193,15 @@ std::optional<double> temperature(double P, Property property, double value, Sid
   if (std::isnan(f(upper))) upper *= 1.0 - 1e-4;
   const double atLower = f(lower);
   if (!(f(upper) >= 0.0)) return std::nullopt;
-  if (atLower <= 0.0) return rootWithin(f, {lower, upper});
-  // Beyond 1000 MPa the entropy of cold water falls with rising temperature before it rises.
-  if (P < 1000.0) return std::nullopt;
-  const auto interval = firstChange(f, upper, lower, scaledBy(0.95));
+  // Above it cold water's energies and entropy rise, fall and rise again with the temperature: the
+  // warmest of several states is the stable one.
+  constexpr double oneStateBelow = 790.0;  // MPa
+  if (P < oneStateBelow) {
+    return atLower <= 0.0 ? std::optional(rootWithin(f, {lower, upper})) : std::nullopt;
+  }
+  // At 844.7 MPa 771.6625 kJ/kg are those of 289.9, 288.3 and 276.0 K.
+  const auto next = [](double T) { return T * (T > 330.0 ? 0.95 : 0.99); };
+  const auto interval = firstChange(f, upper, lower, next);
   return interval ? std::optional(rootWithin(f, *interval)) : std::nullopt;
 }
 

@@ -28,8 +28,8 @@ namespace roots {
 [[nodiscard]] std::optional<double> density(double T, Property property, double value, double from,
                                             double to);
 
-/// Temperature within [lower, upper] at which `property` (enthalpy, entropy or internal energy),
-/// which rises with temperature, is `value` on that side of the isobar P.
+/// The highest temperature within [lower, upper] at which `property` (enthalpy, entropy or internal
+/// energy) is `value` on that side of the isobar P.
 [[nodiscard]] std::optional<double> temperature(double P, Property property, double value,
                                                 Side side, double lower, double upper);
 

@@ -207,19 +207,29 @@ std::optional<Start> SteamModel::findState(const Request& request, int& status) 
   return std::nullopt;
 }
 
+// Beyond 800 MPa the equation gives cold water a negative heat capacity.
+bool SteamModel::isThermallyStable(Start at) {
+  constexpr double stableBelow = 1150.0;  // kg/m3, at any temperature
+  if (at.density < stableBelow) return true;
+  const auto& part = temperaturePart(at.temperature, TemperaturePart::Order::curvature);
+  return HelmholtzPoint(part, at.density).derivatives().cv > 0.0;
+}
+
+bool SteamModel::isThermallyStable() {
+  return isThermallyStable({state_.temperature, state_.density});
+}
+
 // From T: on its way from the line, above the critical temperature from the thin gas, a property
 // has to fall to the value, which lies below that of saturated liquid, of the ideal gas; where it
-// rises, it has fallen before. From P: beyond 800 MPa the equation gives cold water a negative heat
-// capacity; a warmer state with the same energy is stable.
+// rises, it has fallen before. From P: a warmer state than an unstable one has the same energy.
 bool SteamModel::isNearest(const Request& request, Start found) {
   const double T = found.temperature;
   const bool falls = T >= criticalTemperature || request.side == Side::liquid;
   const auto equation = request.second.equation;
   if (equation == Equation::density || equation == Equation::pressure) return true;
-  constexpr double stableBelow = 1150.0;  // kg/m3, at any temperature
-  if (request.fromT() ? !falls : found.density < stableBelow) return true;
+  if (!request.fromT()) return isThermallyStable(found);
+  if (!falls) return true;
   const HelmholtzPoint point(temperaturePart(T, TemperaturePart::Order::curvature), found.density);
-  if (!request.fromT()) return point.derivatives().cv > 0.0;
   return slopesOf(equation, point, T, 0.001 * found.density).density < 0.0;
 }
 

@@ -67,6 +67,10 @@ class SteamModel final : private ZvSolverCallBack {
   [[nodiscard]] const SteamState& state() const noexcept { return state_; }
   /// A property of the single-phase state.
   [[nodiscard]] double property(Property property);
+  /// Whether the heat capacity cv of the single-phase state is above zero. Cold water's is not, by
+  /// the equation, from about 800 MPa on, where it freezes: such a state is answered only where no
+  /// stable one has the same two properties.
+  [[nodiscard]] bool isThermallyStable();
   /// A property of the two-phase state: the mixture of its saturated liquid and vapour.
   [[nodiscard]] double mixtureProperty(Property property);
 
@@ -164,6 +168,7 @@ class SteamModel final : private ZvSolverCallBack {
   /// Whether this is the state meant where others meet the request: from T none lies between the
   /// line and it; from P it is thermally stable.
   [[nodiscard]] bool isNearest(const Request& request, Start found);
+  [[nodiscard]] bool isThermallyStable(Start at);
   void noteOtherState(const Request& request, Start found);
   Phases onExactLine(const auto& call);
 

@@ -108,6 +108,13 @@ TEST_F(RangeLimits, ZeroPressurePassesTheChecksAndFailsInTheState) {
   EXPECT_FALSE(contains(error, "out of range")) << error;
 }
 
+TEST_F(RangeLimits, WithoutPressureThereIsNoStateToFind) {
+  for (const PairMember& member : pairMembers()) {
+    if (member.first() != 'P' || member.isFromPT()) continue;
+    EXPECT_EQ(errorOf(engine, member.call, 0.0, 0.5), "Solution Error.") << member.name;
+  }
+}
+
 TEST_F(RangeLimits, StrictTemperatureRangeLeavesOneWarningAndSucceeds) {
   engine.SetTraceLevel(1);
   double a = untouched;
@@ -127,6 +134,35 @@ TEST_F(RangeLimits, StrictTemperatureBoundsAreInclusive) {
 TEST_F(RangeLimits, StrictPressureBoundDependsOnTheTemperature) {
   EXPECT_TRUE(contains(warningsOf(&ZvThermoInt::APT, 1400.0, 400.0), pressureWarning));
   EXPECT_FALSE(contains(warningsOf(&ZvThermoInt::APT, 1400.0, 430.0), pressureWarning));
+}
+
+// Where the equation's isochoric heat capacity is negative; at 280 K that begins at 798 MPa. Its
+// enthalpy is that of a stable mixture up to 2513 kJ/kg.
+TEST_F(RangeLimits, UnstableWaterIsWarnedOfByEveryMemberThatAnswersIt) {
+  const std::string warning = "The heat capacity is not above zero";
+  for (const auto& [P, isUnstable] : {std::pair{790.0, false}, std::pair{2900.0, true}}) {
+    const double T = 280.0;
+    EXPECT_EQ(valueOf(engine, &ZvThermoInt::DPT, P, T) <= 0.0, isUnstable);
+    for (const PairMember& member : pairMembers()) {
+      const std::string given(member.name.substr(1));
+      if (contains("MKNE", std::string{member.result()})) continue;  // end below such pressures
+      double second = T;
+      if (given == "TH" && isUnstable) second = valueOf(engine, &ZvThermoInt::HPT, P, T);
+      if (given == "TR") second = valueOf(engine, &ZvThermoInt::RPT, P, T);
+      if (given == "TV") second = valueOf(engine, &ZvThermoInt::VPT, P, T);
+      if (second == T && given != "PT") continue;
+      const std::string trace = warningsOf(member.call, member.isFromPT() ? P : T, second);
+      EXPECT_EQ(contains(trace, "warning: " + warning), isUnstable) << member.name << '\n' << trace;
+    }
+    // Of several numbers at once, and with a quality.
+    const double h = valueOf(engine, &ZvThermoInt::HPT, P, T);
+    EXPECT_EQ(contains(traceOf(engine), warning), isUnstable);
+    engine.ClearTraceInfo();
+    double value = untouched;
+    ASSERT_EQ(engine.HPTQ(&value, P, T, 0.0), 1);
+    EXPECT_EQ(contains(traceOf(engine), warning), isUnstable);
+    EXPECT_EQ(value, h);
+  }
 }
 
 TEST_F(RangeLimits, StrictPressureBoundRisesFrom500To1500MPa) {

@@ -436,6 +436,12 @@ const Failure failures[] = {
      {1.0, 473.0, -1.0, 0.1, 380.0, 3.0},
      "Pressure parameter out of range (Valid range 0.00 to 22.05 MPa).",
      "Motive flow -1 kg/s is below 0 kg/s: the chart has no such ratio of flows."},
+    // No motive flow is a flow that the chart has.
+    {"ThermoCompressorA",
+     {30.0, 700.0, 0.0, 25.0, 700.0, 1.0},
+     "Pressure parameter out of range (Valid range 0.00 to 22.05 MPa).",
+     "Expansion ratio 1.2 Fraction is below 1.64707 Fraction, the least of the chart: the chart's "
+     "last curve passes the motive pressure."},
     {"ThermoCompressorE",
      {1.0, 473.0, 0.1, 380.0, 0.1, 1.0},
      "Solution Error.",

@@ -1,6 +1,7 @@
 // Members over columns against the members called one by one.
 #include "server/member_columns.h"
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <bit>
@@ -35,7 +36,8 @@ struct Sheet {
         inputs(member.inputs().size(), std::vector<double>(rows)),
         outputs(member.outputs().size(), std::vector<double>(rows, untouched)),
         status(rows, -1),
-        reasons(rows) {
+        reasons(rows),
+        warnings(rows) {
     for (std::vector<double>& column : inputs) inputColumns.push_back({column.data()});
     for (std::size_t i = 0; i < outputs.size(); ++i) targets.push_back({i, {outputs[i].data()}});
   }
@@ -45,14 +47,15 @@ struct Sheet {
             inputColumns,
             targets,
             {status.data()},
-            [this](std::size_t row, std::string_view text) { reasons[row] = text; }};
+            [this](std::size_t row, std::string_view text) { reasons[row] = text; },
+            [this](std::size_t row, const ZvFunctionCall& call) { warnings[row] = textOf(call); }};
   }
 
   NumericMember member;
   std::size_t rows;
   std::vector<std::vector<double>> inputs, outputs;
   std::vector<short> status;
-  std::vector<std::string> reasons;
+  std::vector<std::string> reasons, warnings;
   std::vector<direct::Column> inputColumns;
   std::vector<MemberRequest::Output> targets;
 };
@@ -326,6 +329,53 @@ TEST(MemberColumns, TheDirectRoadAnswersAsTheMembersDo) {
     }
   }
   EXPECT_EQ(members, 95 + 10 + 2);  // all
+}
+
+TEST(MemberColumns, WarnOfTheRowsThatTheMembersWarnOf) {
+  ZvThermoInt exact;
+  exact.SetSatPolish(2);
+  ZvThermoInt memberwise;
+  memberwise.TakeSettings(exact);
+  memberwise.SetSolverIter(201);  // not the direct road's settings
+  constexpr double temperatures[] = {265.0, 273.1, 273.2, 280.0,  300.0, 315.0,
+                                     324.0, 326.0, 400.0, 1273.0, 1274.0};
+  constexpr double pressures[] = {0.1,   90.0,  110.0,  499.0,  501.0,  789.0,
+                                  820.0, 900.0, 1340.0, 1350.0, 2000.0, 2900.0};
+  Grid grid("warnings");
+  std::size_t warned = 0;
+  std::size_t rows = 0;
+  for (const Member& member : memberTable()) {
+    const std::optional<DirectMember> way = directMember(member);
+    if (!way) continue;
+    const NumericMember found = NumericMember::of(member).value();
+    Sheet direct(found, std::size(temperatures) * std::size(pressures)), single(found, direct.rows);
+    const direct::Letter letters[] = {direct::firstOf(way->pair), direct::secondOf(way->pair)};
+    for (std::size_t row = 0; row < direct.rows; ++row) {
+      double values[2] = {400.0, 0.5};
+      if (letters[1] != direct::Letter::Q) {
+        direct::evaluate(direct::Pair::PT, pressures[row % std::size(pressures)],
+                         temperatures[row / std::size(pressures)], letters, values);
+      }
+      for (std::size_t k = 0; k < direct.inputs.size(); ++k) {
+        direct.inputs[k][row] = single.inputs[k][row] = values[k];
+      }
+    }
+    evaluate(direct.request(), exact, 0, direct.rows);
+    evaluate(single.request(), memberwise, 0, single.rows);
+    for (std::size_t row = 0; row < direct.rows; ++row) {
+      grid.holds(direct.warnings[row] == single.warnings[row],
+                 fmt::format("{} row {}: {} {}", member.name, row, direct.warnings[row],
+                             single.warnings[row]));
+      warned += direct.warnings[row].empty() ? 0 : 1;
+    }
+    rows += direct.rows;
+    // Whoever does not ask is not told, and the member is not asked.
+    MemberRequest silent = direct.request();
+    silent.warning = {};
+    evaluate(silent, exact, 0, direct.rows);
+  }
+  EXPECT_GT(warned, rows / 4);
+  EXPECT_LT(warned, 3 * rows / 4);
 }
 
 TEST(MemberColumns, TheDirectRoadIsLeftWhereTheSettingsAreOthers) {

@@ -128,6 +128,49 @@ void read(const ZvFunctionCall& call, LastSolve& solve) {
 }
 
 // No search is needed for ordinary states: the minimiser starts near them and ends at them.
+// Newton's method takes the minimiser's solution on to the rounding of the terms that a property is
+// the sum of: the reference energy and entropy, the ideal gas's pressure.
+TEST_F(Acceptance, OrdinaryStatesMeetTheirInputsToRounding) {
+  constexpr double rounding = 1e-11, R = 0.461522;
+  Grid grid("rounding");
+  std::mt19937_64 random(1984);
+  std::uniform_real_distribution<double> uniform(0.0, 1.0);
+  int tried = 0;
+  for (int i = 0; i < 300; ++i) {
+    const double T = 280.0 + 920.0 * uniform(random);
+    const double P = 1e-6 * std::pow(1e8, uniform(random));
+    if (T > 620.0 && T < 680.0 && P > 18.0 && P < 40.0) continue;  // next to the critical point
+    if (model.stateFromPT(P, T) != Phases::one) continue;
+    const double density = model.state().density;
+    grid.near(evaluate(Property::pressure, T, density), P, rounding, 1e-3 * R * T * density + P,
+              fmt::format("P({:.17g}, {:.17g})", P, T));
+    for (const Property second : seconds) {
+      const double value = evaluate(second, T, density);
+      const double terms = second == Property::entropy   ? 3.5 + std::abs(value)
+                           : second == Property::density ? density
+                                                         : 2000.0 + R * T + std::abs(value);
+      for (const bool fromT : {false, true}) {
+        const auto phases =
+            fromT ? model.stateFromT(T, second, value) : model.stateFromP(P, second, value);
+        if (phases != Phases::one) continue;
+        ++tried;
+        const SteamState found = model.state();
+        const std::string inputs = fmt::format("{} {:.17g}, {} {:.17g}", fromT ? 'T' : 'P',
+                                               fromT ? T : P, static_cast<int>(second), value);
+        grid.near(evaluate(second, found.temperature, found.density), value, rounding, terms,
+                  inputs);
+        if (fromT) {
+          EXPECT_EQ(found.temperature, T) << inputs;
+        } else {
+          grid.near(evaluate(Property::pressure, found.temperature, found.density), P, rounding,
+                    1e-3 * R * T * density + P, inputs);
+        }
+      }
+    }
+  }
+  EXPECT_GT(tried, 1500);
+}
+
 TEST_F(Acceptance, OrdinaryStatesAreFoundByTheMinimiserItself) {
   Grid grid("solver notes");
   diagnostics.setLevel(2);

@@ -377,10 +377,12 @@ TEST_F(OnlyStatesOfWater, AreAnsweredInTheKnownCases) {
       // the warmer of two temperatures; 252.604 K is the other
       {false, 25.0, Property::density, 1007.985924, 298.15, 25.0},
       // cold water's energy falls with rising temperature where its heat capacity is negative:
-      // 306.4
-      // K is the other
+      // 306.4 K is the other
       {false, 1507.6704127382288, Property::internalEnergy, 100.54983012129946, 315.28347,
        1507.6704127382288},
+      // 288.3 and 276.0 K are unstable
+      {false, 844.70084653005904, Property::enthalpy, 771.66251303488059, 289.9264,
+       844.70084653005904},
       // stretches of the equation that are mechanically stable and no water
       {true, 427.0, Property::enthalpy, 110.0, 0, 0},
       {false, 1303.3666624756431, Property::density, 277.89135934213317, 0, 0},
@@ -403,6 +405,51 @@ TEST_F(OnlyStatesOfWater, AreAnsweredInTheKnownCases) {
       EXPECT_EQ(c.T, 0.0) << "refused";
     }
   }
+}
+
+// From 800 MPa on the equation gives cold water a negative heat capacity. The same temperature and
+// energy are mostly those of a mixture, the same pressure and energy of warmer water.
+TEST_F(OnlyStatesOfWater, AreThermallyStableWhereAStableOneMeetsTheInputs) {
+  SCOPED_TRACE(fmt::format("seed {}", seed));
+  const auto stableOnly = [](const Line& line) {
+    Line stable;
+    for (std::size_t n = 0; n < line.T.size(); ++n) {
+      const bool isStable =
+          evaluate(Property::isochoricHeatCapacity, line.T[n], line.density[n]) > 0.0;
+      stable.add(line.T[n], isStable ? line.density[n] : NAN);  // a gap, which nothing passes
+    }
+    return stable;
+  };
+  std::uniform_real_distribution<double> temperatures(260.0, 325.0), pressures(700.0, 3000.0);
+  int stable = 0;
+  int unstable = 0;
+  for (int n = 0; n < lines / 5; ++n) {
+    const double T = temperatures(random);
+    const double P = pressures(random);
+    steam.stateFromPT(P, T);
+    const double density = steam.state().density;
+    const Line lineOfT = stableOnly(Isotherm(T).liquid);
+    const Line lineOfP = stableOnly(Isobar(steam, P).fluid);
+    for (const Second& second : seconds) {
+      const double value = evaluate(second.property, T, density);
+      if (value < 0.0) continue;
+      for (const bool fromT : {false, true}) {
+        const std::string input = fmt::format("{}{} {:.17g} {:.17g}", fromT ? 'T' : 'P',
+                                              second.letter, fromT ? T : P, value);
+        const Answer found = answer(fromT, fromT ? T : P, second, value, input);
+        if (fromT && found == (T < triplePointTemperature ? Answer::none : Answer::mixture))
+          continue;
+        ASSERT_EQ(static_cast<int>(found), static_cast<int>(Answer::one)) << input;
+        const bool isStable = steam.isThermallyStable();
+        EXPECT_EQ(isStable, steam.property(Property::isochoricHeatCapacity) > 0.0) << input;
+        ++(isStable ? stable : unstable);
+        if (isStable) continue;
+        EXPECT_FALSE((fromT ? lineOfT : lineOfP).passes(second.property, value)) << input;
+      }
+    }
+  }
+  EXPECT_GT(stable, lines / 10);
+  EXPECT_GT(unstable, lines / 10);
 }
 
 TEST_F(OnlyStatesOfWater, TakeASaturatedEnthalpyOfAPrintedTable) {

@@ -128,6 +128,39 @@ TEST_F(TwoLiquids, AreNoneBelowTheLeast) {
   EXPECT_FALSE(roots::density(T, Property::enthalpy, value, dense, light));
 }
 
+// Around the density maximum the entropy of cold water rises when it is compressed, falls and rises
+// again, at 265 K at about 52 and 390 MPa.
+TEST(RootSearch, OfThreeDensitiesFindsTheFirstOnTheWay) {
+  constexpr double T = 265.0, light = 1000.0, dense = 1290.0;
+  const auto s = [](double density) { return evaluate(Property::entropy, T, density); };
+  double most = light;
+  for (double density = light; density < 1100.0; density += 0.01) {
+    if (s(density) > s(most)) most = density;
+  }
+  ASSERT_GT(most, light + 10.0);
+  const double value = 0.5 * (s(most) + s(light));
+  const auto upwards = roots::density(T, Property::entropy, value, light, dense);
+  const auto downwards = roots::density(T, Property::entropy, value, dense, light);
+  ASSERT_TRUE(upwards && downwards);
+  EXPECT_LT(*upwards, most);
+  EXPECT_GT(pressure(T, *downwards), 390.0);
+  for (const double density : {*upwards, *downwards}) EXPECT_NEAR(s(density), value, 1e-12);
+}
+
+// Between the phases the pressure falls with rising density: no state is there.
+TEST(RootSearch, PassesOverDensitiesThatAreUnstable) {
+  constexpr double T = 600.0;
+  const double P = 12.339;  // of saturation
+  const auto found = roots::density(T, Property::pressure, P, 90.0, 900.0);
+  ASSERT_TRUE(found);
+  EXPECT_GT(*found, 640.0);
+  EXPECT_NEAR(pressure(T, *found), P, 1e-9);
+  // The only density with this enthalpy is that of no fluid.
+  const double h = evaluate(Property::enthalpy, T, 300.0);
+  ASSERT_LT(pressure(T, 301.0), pressure(T, 300.0));
+  EXPECT_FALSE(roots::density(T, Property::enthalpy, h, 1.0, 900.0));
+}
+
 TEST(RootSearch, FindsTemperaturesOnIsobars) {
   Grid grid("temperature at (P, x)");
   for (const Row& row : readTable("single-phase.csv")) {
@@ -201,6 +234,25 @@ TEST(RootSearch, FindsTheWarmerOfTwoTemperaturesOfColdWaterUnderHighPressure) {
   ASSERT_TRUE(T);
   EXPECT_GT(*T, turn);
   EXPECT_NEAR(entropy(*T), value, 1e-10);
+}
+
+// At 942 MPa the enthalpy of water rises up to 276 K, falls to 297 K and rises for good: there are
+// three temperatures, of which only the last has a positive heat capacity.
+TEST(RootSearch, FindsTheWarmestOfThreeTemperatures) {
+  constexpr double P = 942.0;
+  const auto h = [&](double T) {
+    return evaluate(Property::enthalpy, T, roots::density(P, T, Side::liquid).value_or(NAN));
+  };
+  const double value = h(305.0);
+  ASSERT_LT(h(260.0), value);
+  ASSERT_GT(h(276.0), value);
+  ASSERT_LT(h(297.0), value);
+  for (const Property property : energies) {
+    const double x = evaluate(property, 305.0, *roots::density(P, 305.0, Side::liquid));
+    const auto T = roots::temperature(P, property, x, Side::liquid, 260.0, 2500.0);
+    ASSERT_TRUE(T);
+    EXPECT_NEAR(*T, 305.0, 1e-7);
+  }
 }
 
 // Next to the critical point a line that is a scaling law may lie a little beyond the liquid's end.

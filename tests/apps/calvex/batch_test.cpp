@@ -277,6 +277,46 @@ std::string longTable() {
   return table;
 }
 
+TEST(Batch, RowsThatAreWarnedOfAreCounted) {
+  const Answer answer =
+      batch("P,T,P0\n10,773.15,0.01\n2000,500,0.01\n10,1300,0.01\n0.1,1400,0.2\n10,-5,0.01\n",
+            {"h=HPT(P,T)", "s=SPT(P,T)", "back=TPH(P,h)", "w=LetDownValve(h,P,P0).TOut"});
+  EXPECT_EQ(answer.status, 1);
+  EXPECT_EQ(rowsOf(answer.out).size(), 6U);
+  EXPECT_EQ(linesOf(answer.err),
+            (std::vector<std::string>{
+                "calvex: warning: 3 of 5 rows are warned of in column 'h'; the first, line 3: "
+                "Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
+                "273.15 K, rising to 1500 MPa from 423.15 K on.",
+                "calvex: warning: 3 of 5 rows are warned of in column 's'; the first, line 3: "
+                "Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
+                "273.15 K, rising to 1500 MPa from 423.15 K on.",
+                "calvex: warning: 1 of 5 rows are warned of in column 'back'; the first, line 3: "
+                "Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
+                "273.15 K, rising to 1500 MPa from 423.15 K on.",
+                "calvex: warning: 2 of 5 rows are warned of in column 'w'; the first, line 3: "
+                "Inlet Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
+                "273.15 K, rising to 1500 MPa from 423.15 K on.",
+                "calvex: 1 of 5 rows have a reason in column 'why'; the first, line 6: h, s: "
+                "Temperature parameter out of range (Valid range 260.00 to 2500.00 K)."}))
+      << answer.err;
+  EXPECT_EQ(batch("P,T\n10,773.15\n", {"h=HPT(P,T)"}).err, "");
+}
+
+TEST(Batch, WarningsAreTheSameOnAnyNumberOfThreads) {
+  std::string table = "P,T\n";
+  for (int row = 0; row < 50000; ++row) {
+    table += std::to_string(1 + row % 7) + "," + std::to_string(300 + row % 1000) + "\n";
+  }
+  // 1274 K to 1299 K of every thousand rows
+  const std::string expected =
+      "calvex: warning: 1300 of 50000 rows are warned of in column 'h'; the first, line 976: "
+      "Temperature parameter out of strictly valid range. Strictly valid: 273.15 K to 1273.15 K.\n";
+  for (const char* threads : {"1", "3"}) {
+    EXPECT_EQ(batch(table, {"h=HPT(P,T)", "--threads", threads}).err, expected);
+  }
+}
+
 TEST(Batch, TheOutputIsTheSameOnAnyNumberOfThreads) {
   const std::string table = longTable();
   const Answer alone = batch(table, {"v=SolvePoly5(P,-1,0,0,0,0,T)", "h=XT(T)", "--threads", "1"});

@@ -67,6 +67,9 @@ TEST(MembersCommand, FindsByWordsWhatAnswersThem) {
                           {{"spray"}, "DeSuperHeater", "Boiler"},
                           {{"blowdown"}, "Boiler_B", "TurbineA"},
                           {{"warnings"}, "TraceLevel", "HPT"},
+                          {{"latent", "heat"}, "HVLTSat_PQ", "CPT"},
+                          {{"heat", "of", "evaporation"}, "HVLTSat_PQ", "CPT"},
+                          {{"wet", "steam"}, "QPH", "HPT"},
                           {{"viscosity"}, "MPT", "KPT"}}) {
     Words words = one.words;
     words.insert(words.begin(), "members");

@@ -419,7 +419,7 @@ TEST(PlainWords, AnAnswerToAWordThatIsNoneOfTheWanted) {
                "'bar' is a unit of Pressure, Pressure Difference; 'calvex units Pressure'"));
   EXPECT_TRUE(contains(calvex({"members", "temprature"}).err,
                        "nothing answers 'temprature'; did you mean temperature"));
-  EXPECT_TRUE(contains(calvex({"members", "latent", "heat"}).err, "nothing answers 'latent'\n"));
+  EXPECT_TRUE(contains(calvex({"members", "hidden", "heat"}).err, "nothing answers 'hidden'\n"));
   EXPECT_EQ(calvex({"config", "--json"}).err,
             "calvex: there is no option '--json'\n'calvex help config' lists them\n");
   EXPECT_TRUE(contains(calvex({"ShowTraceDlg"}).err, "only in the automation server on Windows"));

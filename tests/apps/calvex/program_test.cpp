@@ -1,5 +1,6 @@
 // The program itself, started as a user starts it.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -128,6 +129,25 @@ TEST(Program, BashCompletesMembersAndQuantities) {
   EXPECT_EQ(completed("calvex table iso", 2), "isobar isotherm\n");
   EXPECT_EQ(completed("calvex sta", 1), "state\n");
   EXPECT_EQ(completed("calvex state T", 2), "T=\n");
+  // The options are each command's own, and no member's.
+  EXPECT_EQ(completed("calvex batch plant.csv --se", 3), "--set --separator\n");
+  EXPECT_EQ(completed("calvex batch plant.csv --dec", 3), "--decimal-comma\n");
+  EXPECT_EQ(completed("calvex batch plant.csv --json", 3), "\n");
+  EXPECT_EQ(completed("calvex table isobar 10 --f", 4), "--from\n");
+  EXPECT_EQ(completed("calvex HPT 10 500 --f", 4), "\n");
+  EXPECT_EQ(completed("calvex batch plant.csv --separator s", 4), "semicolon\n");
+  EXPECT_EQ(completed("calvex config Effi", 2), "Efficiency=\n");
+  EXPECT_EQ(completed("calvex config --cl", 2), "--clear\n");
+  const std::string folder = testing::TempDir() + "calvex_files_" + std::to_string(getpid());
+  ASSERT_EQ(mkdir(folder.c_str(), 0700), 0);
+  std::ofstream(folder + "/plant.csv") << "P\n";
+  for (const std::string before : {"batch", "run", "batch x.csv -o", "plot hs --output"}) {
+    const auto words = static_cast<int>(std::ranges::count(before, ' ')) + 2;
+    EXPECT_EQ(completed("calvex " + before + " " + folder + "/pl", words), folder + "/plant.csv\n")
+        << before;
+  }
+  unlink((folder + "/plant.csv").c_str());
+  rmdir(folder.c_str());
 }
 
 TEST(Program, TheManualPageNamesEveryCommandAndOption) {

@@ -207,6 +207,54 @@ TEST(TableCommand, WarnsOnceOfWhatManyLinesShare) {
             "273.15 K to 1273.15 K.\n");
 }
 
+// A terminal would break lines of 14 columns in the middle of a number.
+TEST(TableCommand, StandsInPartsOnANarrowTerminal) {
+  const Words words = {"table", "saturation", "--from", "300", "--to", "400", "--step", "100"};
+  const std::vector<std::string> wide = linesOf(calvex(words).out);
+  for (const std::size_t lineWidth : {20U, 40U, 80U, 120U, 181U, 182U, 500U}) {
+    std::istringstream in;
+    std::ostringstream out, err;
+    Console console{in, out, err, true};
+    console.outWidth = lineWidth;
+    ASSERT_EQ(static_cast<int>(runCommandLine(words, console)), 0) << err.str();
+    const std::vector<std::string> lines = linesOf(out.str());
+    EXPECT_EQ(lines == wide, lineWidth >= 14 * 13);
+    // Put together again: each part after the first without its key.
+    std::vector<std::string> together(wide.size());
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      EXPECT_LE(lines[i].size(), std::max<std::size_t>(lineWidth, 26)) << lines[i];
+      const std::size_t row = i % (wide.size() + 1);
+      if (row == wide.size()) {
+        EXPECT_EQ(lines[i], "") << "between parts";
+        continue;
+      }
+      EXPECT_EQ(lines[i].substr(0, 13), wide[row].substr(0, 13));
+      together[row] += i < wide.size() ? lines[i] : lines[i].substr(13);
+    }
+    EXPECT_EQ(together, wide) << lineWidth;
+    if (lineWidth == 80) {
+      // Columns of one property together.
+      EXPECT_TRUE(contains(
+          out.str(), " T            P        v_liq        v_vap        u_liq        u_vap\n"));
+      EXPECT_TRUE(contains(out.str(), " T        h_liq         h_fg        h_vap\n"));
+    }
+  }
+}
+
+TEST(TableCommand, ShowsThePhaseBesideItsLastPart) {
+  std::istringstream in;
+  std::ostringstream out, err;
+  Console console{in, out, err, true};
+  console.outWidth = 60;
+  const Words words = {"table", "isobar", "10", "--from", "500", "--to", "500", "--step", "1"};
+  ASSERT_EQ(static_cast<int>(runCommandLine(words, console)), 0) << err.str();
+  const std::vector<std::string> lines = linesOf(out.str());
+  int phases = 0;
+  for (const std::string& line : lines) phases += contains(line, "compressed liquid") ? 1 : 0;
+  EXPECT_EQ(phases, 1);
+  EXPECT_TRUE(lines.back().ends_with("  compressed liquid")) << out.str();
+}
+
 TEST(Progress, ShowsNothingInTheFirstSecondAndWipesItsBar) {
   std::chrono::steady_clock::time_point now{};
   std::ostringstream err;

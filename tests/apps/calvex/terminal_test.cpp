@@ -38,7 +38,7 @@ class OnATerminal : public testing::Test {
   void start(Arguments arguments,
              const std::vector<std::pair<const char*, const char*>>& more = {}) {
     screen_.clear();
-    child_ = forkpty(&terminal_, nullptr, nullptr, nullptr);
+    child_ = forkpty(&terminal_, nullptr, nullptr, &size_);
     ASSERT_GE(child_, 0);
     if (child_ != 0) return;
     setenv("HOME", home_.c_str(), 1);
@@ -109,6 +109,7 @@ class OnATerminal : public testing::Test {
   }
 
   static constexpr const char* prompt = "calvex> ";
+  winsize size_{};  ///< of the terminal
   std::string home_;
   std::string screen_;
 
@@ -128,6 +129,18 @@ class OnATerminal : public testing::Test {
   pid_t child_ = 0;
   int terminal_ = -1;
 };
+
+TEST_F(OnATerminal, TablesKeepToItsWidth) {
+  size_ = {.ws_row = 25, .ws_col = 80, .ws_xpixel = 0, .ws_ypixel = 0};
+  start({"table", "saturation", "--from", "300", "--to", "600", "--step", "100"});
+  EXPECT_EQ(finish(), 0);
+  std::istringstream lines(screen_);
+  int count = 0;
+  for (std::string line; std::getline(lines, line); ++count) {
+    EXPECT_LE(line.find('\r'), 80U) << line;
+  }
+  EXPECT_EQ(count, 3 * 6 + 2) << screen_;
+}
 
 TEST_F(OnATerminal, RunIsAShellThatAnswersLineByLine) {
   start({"run"});
