@@ -121,7 +121,6 @@ std::string strictRange(const ZvFunctionCall& node, std::string_view warning,
   return fmt::format(" Strictly valid: up to {} at {}, rising to {} from {} on.", P(500.0),
                      T(limits.TStrictMin), P(1500.0), T(423.15));
 }
-}
 
 // What the user of a setting's new value should know.
 std::string settingNotice(const Member& member, const Value& value) {
