@@ -283,22 +283,23 @@ TEST(Batch, RowsThatAreWarnedOfAreCounted) {
             {"h=HPT(P,T)", "s=SPT(P,T)", "back=TPH(P,h)", "w=LetDownValve(h,P,P0).TOut"});
   EXPECT_EQ(answer.status, 1);
   EXPECT_EQ(rowsOf(answer.out).size(), 6U);
-  EXPECT_EQ(linesOf(answer.err),
-            (std::vector<std::string>{
-                "calvex: warning: 3 of 5 rows are warned of in column 'h'; the first, line 3: "
-                "Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
-                "273.15 K, rising to 1500 MPa from 423.15 K on.",
-                "calvex: warning: 3 of 5 rows are warned of in column 's'; the first, line 3: "
-                "Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
-                "273.15 K, rising to 1500 MPa from 423.15 K on.",
-                "calvex: warning: 1 of 5 rows are warned of in column 'back'; the first, line 3: "
-                "Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
-                "273.15 K, rising to 1500 MPa from 423.15 K on.",
-                "calvex: warning: 2 of 5 rows are warned of in column 'w'; the first, line 3: "
-                "Inlet Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
-                "273.15 K, rising to 1500 MPa from 423.15 K on.",
-                "calvex: 1 of 5 rows have a reason in column 'why'; the first, line 6: h, s: "
-                "Temperature parameter out of range (Valid range 260.00 to 2500.00 K)."}))
+  EXPECT_EQ(
+      linesOf(answer.err),
+      (std::vector<std::string>{
+          "calvex: warning: 3 of 5 rows are warned of in column 'h'; the first, line 3: "
+          "Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
+          "273.15 K, rising to 1500 MPa from 423.15 K on.",
+          "calvex: warning: 3 of 5 rows are warned of in column 's'; the first, line 3: "
+          "Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
+          "273.15 K, rising to 1500 MPa from 423.15 K on.",
+          "calvex: warning: 1 of 5 rows are warned of in column 'back'; the first, line 3: "
+          "Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
+          "273.15 K, rising to 1500 MPa from 423.15 K on.",
+          "calvex: warning: 2 of 5 rows are warned of in column 'w'; the first, line 3: "
+          "Inlet Pressure parameter out of strictly valid range. Strictly valid: up to 500 MPa at "
+          "273.15 K, rising to 1500 MPa from 423.15 K on.",
+          "calvex: 1 of 5 rows have a reason in column 'why'; the first, line 6: h, s: "
+          "Temperature parameter out of range (Valid range 260.00 to 2500.00 K)."}))
       << answer.err;
   EXPECT_EQ(batch("P,T\n10,773.15\n", {"h=HPT(P,T)"}).err, "");
 }
