@@ -150,8 +150,10 @@ TEST_P(Costs, OfStatesAreThoseOfGoodStartingValues) {
     int evaluations = 0;
     const Region& r = cost.region;
     for (int i = 0; i < all; ++i) {
-      const double T = r.TMin + (r.TMax - r.TMin) * (i / (steps + 1)) / steps;
-      const double P = r.PMin * std::pow(r.PMax / r.PMin, 1.0 * (i % (steps + 1)) / steps);
+      const int row = i / (steps + 1);
+      const int column = i % (steps + 1);
+      const double T = r.TMin + (r.TMax - r.TMin) * row / steps;
+      const double P = r.PMin * std::pow(r.PMax / r.PMin, static_cast<double>(column) / steps);
       ASSERT_EQ(steam.stateFromPT(P, T), Phases::one);
       const Property second = propertyOf(pair[1]);
       const double value = steam.property(second);
