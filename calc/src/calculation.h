@@ -1,0 +1,42 @@
+/// \file
+/// The calls of members with what cells have. Values are as the spreadsheet gives them: a number, a
+/// text, or rows of both; an argument that is left out is void.
+#pragma once
+
+#include <calvex/calvex.h>
+
+#include <com/sun/star/uno/Any.hxx>
+#include <span>
+#include <string>
+
+#include "signatures.h"
+
+namespace calvex::calc {
+
+using com::sun::star::uno::Any;
+
+/// Where in an array, or how large it is.
+struct Place {
+  std::size_t row = 0;
+  std::size_t column = 0;
+};
+
+/// Computes a member: with numbers a number, with ranges an array of their shape; of a member with
+/// several results the one that the last argument names, or all of them beside each other. What has
+/// no answer is an error value; in an array it leaves its neighbours alone.
+[[nodiscard]] Any calculate(calvex_engine* engine, const Signature& signature,
+                            std::span<const Any* const> arguments);
+
+/// Calls the member with the arguments' elements at a place and answers why it fails there; empty
+/// when it does not. The call leaves its record in the engine.
+[[nodiscard]] std::string reason(calvex_engine* engine, const Signature& signature,
+                                 std::span<const Any* const> arguments, Place place);
+
+/// The element of a value; a single one stands for all of its row or column.
+[[nodiscard]] Any elementOf(const Any& value, Place place);
+/// How many rows and columns a value has.
+[[nodiscard]] Place extentOf(const Any& value);
+/// The error in a value; 0 when there is none.
+[[nodiscard]] std::uint32_t errorOf(const Any& value);
+
+}  // namespace calvex::calc

@@ -1,0 +1,294 @@
+#include "documents.h"
+
+#include <algorithm>
+#include <com/sun/star/awt/AsyncCallback.hpp>
+#include <com/sun/star/awt/XCallback.hpp>
+#include <com/sun/star/container/XIndexAccess.hpp>
+#include <com/sun/star/document/XUndoManagerSupplier.hpp>
+#include <com/sun/star/lang/XComponent.hpp>
+#include <com/sun/star/sheet/XCalculatable.hpp>
+#include <com/sun/star/sheet/XCellRangesAccess.hpp>
+#include <com/sun/star/sheet/XNamedRange.hpp>
+#include <com/sun/star/sheet/XNamedRanges.hpp>
+#include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
+#include <com/sun/star/util/XSearchable.hpp>
+#include <cppuhelper/implbase1.hxx>
+#include <rtl/ref.hxx>
+
+#include "formula.h"
+#include "texts.h"
+
+namespace calvex::calc {
+
+using css::beans::XPropertySet;
+using css::uno::UNO_QUERY;
+using css::uno::UNO_QUERY_THROW;
+using rtl::OUString;
+
+namespace {
+
+constexpr char unitsName[] = "Calvex_Units";
+
+Reference<css::uno::XComponentContext> theContext;
+
+// The documents by their address, which no other document has while this one is open.
+std::map<const XPropertySet*, std::unique_ptr<Document>>& openDocuments() {
+  static std::map<const XPropertySet*, std::unique_ptr<Document>> documents;
+  return documents;
+}
+
+// Follows a document: what can be undone may change its units, and its end is the end of all that
+// is known of it.
+class Follower : public cppu::WeakImplHelper1<css::document::XUndoManagerListener> {
+  using Event = css::document::UndoManagerEvent;
+  using EventObject = css::lang::EventObject;
+
+ public:
+  explicit Follower(const Reference<XPropertySet>& model) : model_(model.get()) {
+    Reference<css::lang::XComponent>(model, UNO_QUERY_THROW)->addEventListener(this);
+    const Reference<css::document::XUndoManagerSupplier> supplier(model, UNO_QUERY);
+    if (supplier.is()) supplier->getUndoManager()->addUndoManagerListener(this);
+  }
+
+  void SAL_CALL undoActionAdded(const Event&) override { look(); }
+  void SAL_CALL actionUndone(const Event&) override { look(); }
+  void SAL_CALL actionRedone(const Event&) override { look(); }
+  void SAL_CALL allActionsCleared(const EventObject&) override { look(); }
+  void SAL_CALL redoActionsCleared(const EventObject&) override {}
+  void SAL_CALL resetAll(const EventObject&) override { look(); }
+  void SAL_CALL enteredContext(const Event&) override {}
+  void SAL_CALL enteredHiddenContext(const Event&) override {}
+  void SAL_CALL leftContext(const Event&) override { look(); }
+  void SAL_CALL leftHiddenContext(const Event&) override { look(); }
+  void SAL_CALL cancelledContext(const Event&) override { look(); }
+  void SAL_CALL disposing(const EventObject&) override { openDocuments().erase(model_); }
+
+ private:
+  const XPropertySet* model_;
+
+  void look() const {
+    const auto found = openDocuments().find(model_);
+    if (found == openDocuments().end()) return;
+    try {
+      if (found->second->seemsChanged()) refreshSoon(found->second->model());
+    } catch (const css::uno::Exception&) {
+      // A document that is being closed.
+    }
+  }
+};
+
+// Comes back when nothing is being calculated.
+class Refresh : public cppu::WeakImplHelper1<css::awt::XCallback> {
+ public:
+  static Refresh& instance() {
+    static const rtl::Reference<Refresh> refresh(new Refresh);
+    return *refresh;
+  }
+
+  void order(const XPropertySet* model) {
+    if (std::ranges::count(waiting_, model) != 0) return;
+    waiting_.push_back(model);
+    if (waiting_.size() == 1) {
+      css::awt::AsyncCallback::create(context())->addCallback(this, css::uno::Any());
+    }
+  }
+
+  void SAL_CALL notify(const css::uno::Any&) override {
+    const std::vector<const XPropertySet*> models = std::exchange(waiting_, {});
+    for (const XPropertySet* model : models) {
+      const auto found = openDocuments().find(model);
+      if (found == openDocuments().end()) continue;
+      try {
+        if (!found->second->readUnits()) continue;
+        Reference<css::sheet::XCalculatable>(found->second->model(), UNO_QUERY_THROW)
+            ->calculateAll();
+      } catch (const css::uno::Exception&) {
+        // A document that is being closed.
+      }
+    }
+  }
+
+ private:
+  std::vector<const XPropertySet*> waiting_;
+};
+
+Reference<css::sheet::XNamedRanges> namesOf(const Reference<XPropertySet>& model) {
+  return {model->getPropertyValue("NamedRanges"), UNO_QUERY_THROW};
+}
+
+// The text in the name; empty when there is none.
+std::string keptUnits(const Reference<XPropertySet>& model) {
+  const auto names = namesOf(model);
+  if (!names->hasByName(unitsName)) return {};
+  const Reference<css::sheet::XNamedRange> name(names->getByName(unitsName), UNO_QUERY_THROW);
+  std::string content = toUtf8(name->getContent());
+  std::erase(content, '"');
+  return content;
+}
+
+// The cells whose formulas have CALVEX.UNITS.
+std::vector<Reference<css::table::XCell>> unitCells(const Reference<XPropertySet>& model) {
+  std::vector<Reference<css::table::XCell>> cells;
+  const Reference<css::container::XIndexAccess> sheets(
+      Reference<css::sheet::XSpreadsheetDocument>(model, UNO_QUERY_THROW)->getSheets(),
+      UNO_QUERY_THROW);
+  for (sal_Int32 i = 0; i < sheets->getCount(); ++i) {
+    const Reference<css::util::XSearchable> sheet(sheets->getByIndex(i), UNO_QUERY_THROW);
+    const auto search = sheet->createSearchDescriptor();
+    search->setSearchString("CALVEX.UNITS(");
+    constexpr sal_Int16 inFormulas = 0;
+    search->setPropertyValue("SearchType", css::uno::Any(inFormulas));
+    const auto found = sheet->findAll(search);
+    for (sal_Int32 j = 0; found.is() && j < found->getCount(); ++j) {
+      const Reference<css::table::XCellRange> range(found->getByIndex(j), UNO_QUERY_THROW);
+      const Reference<css::container::XIndexAccess> rows(
+          Reference<css::table::XColumnRowRange>(range, UNO_QUERY_THROW)->getRows(),
+          UNO_QUERY_THROW);
+      const Reference<css::container::XIndexAccess> columns(
+          Reference<css::table::XColumnRowRange>(range, UNO_QUERY_THROW)->getColumns(),
+          UNO_QUERY_THROW);
+      for (sal_Int32 row = 0; row < rows->getCount(); ++row) {
+        for (sal_Int32 column = 0; column < columns->getCount(); ++column) {
+          cells.push_back(range->getCellByPosition(column, row));
+        }
+      }
+    }
+  }
+  return cells;
+}
+
+}  // namespace
+
+struct Document::Watched {
+  Reference<css::table::XCell> cell;
+  std::string formula;
+};
+
+Document::Document(const Reference<XPropertySet>& model) : model_(model) {}
+Document::~Document() = default;
+
+std::string unitsText(const Units& units) {
+  std::string text;
+  for (const auto& [group, unit] : units) {
+    text += (text.empty() ? "" : "; ") +
+            textOf([&](char* to, std::size_t size, std::size_t* needed) {
+              calvex_group_text(group, CALVEX_GROUP_KEYWORD, to, size, needed);
+            }) +
+            '=' + unit;
+  }
+  return text;
+}
+
+Units readUnits(std::string_view text) {
+  Units units;
+  while (!text.empty()) {
+    const std::string_view part = text.substr(0, text.find(';'));
+    text.remove_prefix(std::min(text.size(), part.size() + 1));
+    const std::size_t sign = part.find('=');
+    if (sign == std::string_view::npos) continue;
+    const std::string_view group = part.substr(part.find_first_not_of(' '));
+    try {
+      units.insert(namedUnit(group.substr(0, group.find('=')), part.substr(sign + 1)));
+    } catch (const Error&) {
+      // A unit of a later version.
+    }
+  }
+  return units;
+}
+
+std::pair<int, std::string> namedUnit(std::string_view group, std::string_view unit) {
+  Engine engine;
+  engine.unit(group, unit);
+  int number = 0;
+  calvex_find_group(group.data(), group.size(), &number);
+  return {number, engine.unit(group)};
+}
+
+Units unitsOf(std::span<const Any> words) {
+  if (words.size() % 2 != 0) {
+    throw Error(CALVEX_COUNT, "a quantity has no unit behind it: the texts come in pairs");
+  }
+  Units units;
+  for (std::size_t i = 0; i < words.size(); i += 2) {
+    OUString group, unit;
+    if (!(elementOf(words[i], {}) >>= group) || !(elementOf(words[i + 1], {}) >>= unit)) {
+      throw Error(CALVEX_VALUE, "quantities and units are texts");
+    }
+    const auto [number, name] = namedUnit(toUtf8(group), toUtf8(unit));
+    units.insert_or_assign(number, name);
+  }
+  return units;
+}
+
+bool Document::readUnits() {
+  if (!model_.is()) return false;
+  named_ = keptUnits(model_);
+  unitsOfCells_.clear();
+  for (const Reference<css::table::XCell>& cell : unitCells(model_)) {
+    const std::string formula = toUtf8(cell->getFormula());
+    const std::string name = nameOf(cell);
+    const auto known = std::ranges::find_if(
+        watched_, [&](const Watched& watched) { return nameOf(watched.cell) == name; });
+    if (known == watched_.end()) watched_.push_back({cell, formula});
+    try {
+      for (auto& [group, unit] : unitsOf(argumentsOf("Units", cell).value_or(std::vector<Any>()))) {
+        unitsOfCells_.insert_or_assign(group, unit);
+      }
+    } catch (const Error&) {
+      // The cell itself shows that it sets nothing.
+    }
+  }
+  for (Watched& watched : watched_) watched.formula = toUtf8(watched.cell->getFormula());
+  Units units = calc::readUnits(named_);
+  for (const auto& [group, unit] : unitsOfCells_) units.insert_or_assign(group, unit);
+  if (units == units_) return false;
+  units_ = units;
+  engine_ = std::make_unique<Engine>();
+  for (const auto& [group, unit] : units_) {
+    const std::string keyword = textOf([&](char* to, std::size_t size, std::size_t* needed) {
+      calvex_group_text(group, CALVEX_GROUP_KEYWORD, to, size, needed);
+    });
+    engine_->unit(keyword, unit);
+  }
+  return true;
+}
+
+bool Document::seemsChanged() const {
+  return keptUnits(model_) != named_ || std::ranges::any_of(watched_, [](const Watched& watched) {
+           return toUtf8(watched.cell->getFormula()) != watched.formula;
+         });
+}
+
+void Document::keepUnits(const Units& units) const {
+  const auto names = namesOf(model_);
+  const OUString content = toOffice('"' + unitsText(units) + '"');
+  if (names->hasByName(unitsName)) {
+    const Reference<css::sheet::XNamedRange> name(names->getByName(unitsName), UNO_QUERY_THROW);
+    name->setContent(content);
+  } else {
+    names->addNewByName(unitsName, content, {}, 0);
+  }
+}
+
+Document& documentOf(const Reference<XPropertySet>& model) {
+  static Document none{Reference<XPropertySet>()};
+  const auto found = openDocuments().find(model.get());
+  if (found != openDocuments().end()) return *found->second;
+  if (!Reference<css::sheet::XSpreadsheetDocument>(model, UNO_QUERY).is()) return none;
+  auto& document =
+      *openDocuments().emplace(model.get(), std::make_unique<Document>(model)).first->second;
+  const Reference<css::document::XUndoManagerListener> follower(new Follower(model));
+  document.readUnits();
+  return document;
+}
+
+void refreshSoon(const Reference<XPropertySet>& model) {
+  if (model.is()) Refresh::instance().order(model.get());
+}
+
+void setContext(const Reference<css::uno::XComponentContext>& context) { theContext = context; }
+
+const Reference<css::uno::XComponentContext>& context() { return theContext; }
+
+}  // namespace calvex::calc

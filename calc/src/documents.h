@@ -1,0 +1,82 @@
+/// \file
+/// The open documents, each with an engine and with units of its own.
+///
+/// A document's units are kept in it: in the name Calvex_Units, which the dialog writes, and in the
+/// cells with CALVEX.UNITS, which have the last word.
+#pragma once
+
+#include <calvex/calvex.h>
+
+#include <calvex/calvex.hpp>
+#include <com/sun/star/beans/XPropertySet.hpp>
+#include <com/sun/star/uno/XComponentContext.hpp>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace calvex::calc {
+
+namespace css = com::sun::star;
+using css::uno::Reference;
+
+/// Units by their unit group's number, in the order of the groups.
+using Units = std::map<int, std::string>;
+
+/// "T=°C; P=bar", by keywords of the groups.
+[[nodiscard]] std::string unitsText(const Units& units);
+/// Reads what `unitsText` writes; what is not known is left out.
+[[nodiscard]] Units readUnits(std::string_view text);
+/// A unit in plain words as the catalogue names it; throws `calvex::Error` for words that name no
+/// group or no unit of it.
+[[nodiscard]] std::pair<int, std::string> namedUnit(std::string_view group, std::string_view unit);
+
+/// The units that pairs of a group's and a unit's words name; throws `calvex::Error`.
+[[nodiscard]] Units unitsOf(std::span<const css::uno::Any> words);
+
+/// What one document has.
+class Document {
+ public:
+  explicit Document(const Reference<css::beans::XPropertySet>& model);
+  ~Document();
+  Document(const Document&) = delete;
+  Document& operator=(const Document&) = delete;
+
+  [[nodiscard]] calvex_engine* engine() { return engine_->handle(); }
+  [[nodiscard]] const Units& units() const { return units_; }
+  /// The units that cells set.
+  [[nodiscard]] const Units& unitsOfCells() const { return unitsOfCells_; }
+  [[nodiscard]] const Reference<css::beans::XPropertySet>& model() const { return model_; }
+
+  /// Reads the units that the document has now; answers whether they are others than before.
+  bool readUnits();
+  /// Whether a place that had units has another text now.
+  [[nodiscard]] bool seemsChanged() const;
+  /// Keeps units in the document's name, as a step that can be undone.
+  void keepUnits(const Units& units) const;
+
+ private:
+  struct Watched;
+  Reference<css::beans::XPropertySet> model_;
+  std::unique_ptr<Engine> engine_ = std::make_unique<Engine>();
+  Units units_;
+  Units unitsOfCells_;
+  std::string named_;  ///< the text of the document's name
+  std::vector<Watched> watched_;
+};
+
+/// The document of a call; null has model units. The reference holds until the document is closed.
+[[nodiscard]] Document& documentOf(const Reference<css::beans::XPropertySet>& model);
+
+/// Reads a document's units again soon, when nothing is being calculated, and then calculates all
+/// of it if they are others.
+void refreshSoon(const Reference<css::beans::XPropertySet>& model);
+
+/// The context that the component was made with.
+void setContext(const Reference<css::uno::XComponentContext>& context);
+[[nodiscard]] const Reference<css::uno::XComponentContext>& context();
+
+}  // namespace calvex::calc

@@ -1,0 +1,49 @@
+/// \file
+/// Formulas of cells, computed anew to tell what happened in them: why a cell has no value, the
+/// record of its calls, the units that it sets.
+#pragma once
+
+#include <com/sun/star/sheet/XSpreadsheet.hpp>
+#include <com/sun/star/table/XCell.hpp>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "calculation.h"
+#include "documents.h"
+
+namespace calvex::calc {
+
+/// A row of a record: how deep, "call", "error", "warning" or "note", and its text.
+struct RecordRow {
+  int depth;
+  std::string kind;
+  std::string text;
+};
+
+/// The calls in a cell's formula.
+class CellCalls {
+ public:
+  /// Computes the formula anew, with the document's units in an engine of its own. Of an array
+  /// formula what stands in this cell. Throws UNO's exceptions.
+  CellCalls(Document& document, const Reference<css::table::XCell>& cell);
+
+  /// Why the cell, or one that it reads, has no value: "B1: HPT: ..."; empty when it has one.
+  [[nodiscard]] const std::string& reason() const { return reason_; }
+  /// The record of the calls.
+  [[nodiscard]] const std::vector<RecordRow>& record() const { return record_; }
+
+ private:
+  std::string reason_;
+  std::vector<RecordRow> record_;
+};
+
+/// The arguments of the first call of a function that is not a member's, such as Units, in a cell's
+/// formula; nothing when there is none.
+[[nodiscard]] std::optional<std::vector<Any>> argumentsOf(std::string_view function,
+                                                          const Reference<css::table::XCell>& cell);
+
+/// "$Sheet1.A1"
+[[nodiscard]] std::string nameOf(const Reference<css::uno::XInterface>& cell);
+
+}  // namespace calvex::calc

@@ -1,0 +1,98 @@
+#include "functions.h"
+
+#include <cppuhelper/supportsservice.hxx>
+
+#include "errors.h"
+#include "formula.h"
+#include "texts.h"
+
+namespace calvex::calc {
+
+using css::uno::Sequence;
+using rtl::OUString;
+
+namespace {
+
+// Runs a function; a fault of it, or of the spreadsheet beneath it, is an error value.
+template <class Body>
+Any guarded(Body body) noexcept {
+  try {
+    return body();
+  } catch (const css::uno::Exception&) {
+    return Any(errorValue(CellError::value));
+  } catch (const std::exception&) {
+    return Any(errorValue(CellError::value));
+  }
+}
+
+}  // namespace
+
+Any Functions::calculate(const Reference<XPropertySet>& document, int member,
+                         std::initializer_list<const Any*> arguments) {
+  return guarded([&] {
+    return calc::calculate(documentOf(document).engine(), signatureOf(member), arguments);
+  });
+}
+
+Any Functions::Units(const Reference<XPropertySet>& document, const Sequence<Any>& choices) {
+  return guarded([&] {
+    const std::vector<Any> words(choices.begin(), choices.end());
+    refreshSoon(document);
+    if (words.empty()) return Any(toOffice(unitsText(documentOf(document).units())));
+    return Any(toOffice(unitsText(unitsOf(words))));
+  });
+}
+
+Any Functions::Why(const Reference<XPropertySet>& document, const Reference<XCellRange>& cell) {
+  return guarded([&] {
+    const CellCalls calls(documentOf(document), cell->getCellByPosition(0, 0));
+    return Any(toOffice(calls.reason()));
+  });
+}
+
+Any Functions::Trace(const Reference<XPropertySet>& document, const Reference<XCellRange>& cell) {
+  return guarded([&] {
+    const CellCalls calls(documentOf(document), cell->getCellByPosition(0, 0));
+    Sequence<Sequence<Any>> rows(static_cast<sal_Int32>(calls.record().size()));
+    sal_Int32 i = 0;
+    for (const RecordRow& row : calls.record()) {
+      const Any cells[] = {Any(static_cast<double>(row.depth)), Any(toOffice(row.kind)),
+                           Any(toOffice(row.text))};
+      rows.getArray()[i++] = Sequence<Any>(cells, std::size(cells));
+    }
+    return rows.hasElements() ? Any(rows) : Any(OUString());
+  });
+}
+
+Any Functions::Convert(const Reference<XPropertySet>& document, const Any& quantity,
+                       const Any& from, const Any& to, const Any& value) {
+  return guarded([&] {
+    OUString words[3];
+    double number = 0.0;
+    if (!(value >>= number) || !(quantity >>= words[0]) || !(from >>= words[1]) ||
+        !(to >>= words[2])) {
+      return Any(errorValue(CellError::value));
+    }
+    if (errorOf(value) != 0) return value;
+    int member = 0;
+    calvex_find_member("Convert", CALVEX_TERMINATED, &member);
+    const std::string texts[] = {toUtf8(words[0]), toUtf8(words[1]), toUtf8(words[2])};
+    const char* const data[] = {texts[0].c_str(), texts[1].c_str(), texts[2].c_str()};
+    const int code = calvex_call_texts(documentOf(document).engine(), member, &number, 1, data,
+                                       nullptr, std::size(data), &number, 1);
+    return Any(code == CALVEX_OK ? number : errorValue(CellError::value));
+  });
+}
+
+OUString Functions::getImplementationName() { return "calvex.calc.Functions"; }
+
+sal_Bool Functions::supportsService(const OUString& name) {
+  return cppu::supportsService(this, name);
+}
+
+Sequence<OUString> Functions::getSupportedServiceNames() {
+  const OUString name = getImplementationName();
+  return Sequence<OUString>(&name, 1);
+}
+
+}  // namespace calvex::calc

@@ -1,0 +1,13 @@
+# MINPACK from Debian's sources, for forms of the library that bring along all they need.
+set(minpack ${CMAKE_SOURCE_DIR}/build/minpack)
+if(NOT EXISTS ${minpack}/lmdif.c)
+  message(FATAL_ERROR "MINPACK's sources are missing; run: scripts/fetch-minpack")
+endif()
+set(files lmdif lmpar qrfac qrsolv fdjac2 enorm dpmpar)
+list(TRANSFORM files PREPEND ${minpack}/)
+list(TRANSFORM files APPEND .c)
+add_library(minpack STATIC ${files})
+target_compile_definitions(minpack PUBLIC CMINPACK_NO_DLL)
+target_compile_options(minpack PRIVATE -O2)
+target_include_directories(minpack SYSTEM PUBLIC ${minpack})
+add_library(calvex::minpack ALIAS minpack)
