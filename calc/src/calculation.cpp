@@ -141,6 +141,16 @@ std::string described(calvex_engine* engine, const Signature& signature) {
          names;
 }
 
+std::string lastFailure(calvex_engine* engine) {
+  const auto said = [&](auto ask) {
+    return textOf([&](char* text, std::size_t capacity, std::size_t* needed) {
+      ask(engine, text, capacity, needed);
+    });
+  };
+  const std::string cause = said(calvex_last_cause);
+  return said(calvex_last_error) + (cause.empty() ? "" : ' ' + cause);
+}
+
 // What a result is that the member left out.
 double orNothing(double value) {
   return std::isnan(value) ? errorValue(CellError::notAvailable) : value;
@@ -302,13 +312,35 @@ std::string reason(calvex_engine* engine, const Signature& signature,
   const auto chosen = wanted(signature, arguments);
   if (!chosen) return fault("the last argument names no result");
   if (call(engine, signature, inputs, *chosen, outputs) == CALVEX_OK) return {};
-  const auto said = [&](auto ask) {
-    return textOf([&](char* text, std::size_t capacity, std::size_t* needed) {
-      ask(engine, text, capacity, needed);
-    });
-  };
-  const std::string cause = said(calvex_last_cause);
-  return signature.name + ": " + said(calvex_last_error) + (cause.empty() ? "" : ' ' + cause);
+  return signature.name + ": " + lastFailure(engine);
+}
+
+Any convert(calvex_engine* engine, std::span<const Any* const> arguments, std::string& reason) {
+  constexpr std::size_t words = 3;
+  std::string texts[words];
+  const char* data[words];
+  for (std::size_t i = 0; i < words; ++i) {
+    const Any word = i < arguments.size() ? elementOf(*arguments[i], {}) : Any();
+    if (!isText(word)) {
+      reason = "CALVEX.CONVERT: it takes the texts quantity, unit and unit wanted, then the value";
+      return Any(valueError);
+    }
+    texts[i] = toUtf8(textIn(word));
+    data[i] = texts[i].c_str();
+  }
+  const Any given = arguments.size() > words ? elementOf(*arguments[words], {}) : Any();
+  double value = given.hasValue() ? toNumber(given) : errorValue(CellError::missing);
+  if (std::isnan(value)) {
+    reason = "CALVEX.CONVERT: the value is no number";
+    return Any(value);
+  }
+  int member = 0;
+  calvex_find_member("Convert", CALVEX_TERMINATED, &member);
+  if (calvex_call_texts(engine, member, &value, 1, data, nullptr, words, &value, 1) == CALVEX_OK) {
+    return Any(value);
+  }
+  reason = "CALVEX.CONVERT: " + lastFailure(engine);
+  return Any(valueError);
 }
 
 Any elementOf(const Any& value, Place place) {

@@ -32,6 +32,11 @@ struct Place {
 [[nodiscard]] std::string reason(calvex_engine* engine, const Signature& signature,
                                  std::span<const Any* const> arguments, Place place);
 
+/// Converts a value between units: quantity, unit, unit wanted, value. What fails is an error
+/// value, and `reason` has the text.
+[[nodiscard]] Any convert(calvex_engine* engine, std::span<const Any* const> arguments,
+                          std::string& reason);
+
 /// The element of a value; a single one stands for all of its row or column.
 [[nodiscard]] Any elementOf(const Any& value, Place place);
 /// How many rows and columns a value has.

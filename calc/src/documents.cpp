@@ -12,6 +12,7 @@
 #include <com/sun/star/sheet/XNamedRanges.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
+#include <com/sun/star/text/XText.hpp>
 #include <com/sun/star/util/XSearchable.hpp>
 #include <cppuhelper/implbase1.hxx>
 #include <rtl/ref.hxx>
@@ -37,6 +38,42 @@ std::map<const XPropertySet*, std::unique_ptr<Document>>& openDocuments() {
   static std::map<const XPropertySet*, std::unique_ptr<Document>> documents;
   return documents;
 }
+
+// Comes back when nothing is being calculated.
+class Refresh : public cppu::WeakImplHelper1<css::awt::XCallback> {
+ public:
+  static Refresh& instance() {
+    static const rtl::Reference<Refresh> refresh(new Refresh);
+    return *refresh;
+  }
+
+  /// `certainly`: the units are read again; else only where the places that have them changed.
+  void order(const XPropertySet* model, bool certainly) {
+    if (waiting_.empty()) {
+      css::awt::AsyncCallback::create(context())->addCallback(this, css::uno::Any());
+    }
+    bool& known = waiting_[model];
+    known = known || certainly;
+  }
+
+  void SAL_CALL notify(const css::uno::Any&) override {
+    for (const auto& [model, certainly] : std::exchange(waiting_, {})) {
+      const auto found = openDocuments().find(model);
+      if (found == openDocuments().end()) continue;
+      Document& document = *found->second;
+      try {
+        if (!certainly && !document.seemsChanged()) continue;
+        if (!document.readUnits()) continue;
+        Reference<css::sheet::XCalculatable>(document.model(), UNO_QUERY_THROW)->calculateAll();
+      } catch (const css::uno::Exception&) {
+        // A document that is being closed.
+      }
+    }
+  }
+
+ private:
+  std::map<const XPropertySet*, bool> waiting_;
+};
 
 // Follows a document: what can be undone may change its units, and its end is the end of all that
 // is known of it.
@@ -67,50 +104,7 @@ class Follower : public cppu::WeakImplHelper1<css::document::XUndoManagerListene
  private:
   const XPropertySet* model_;
 
-  void look() const {
-    const auto found = openDocuments().find(model_);
-    if (found == openDocuments().end()) return;
-    try {
-      if (found->second->seemsChanged()) refreshSoon(found->second->model());
-    } catch (const css::uno::Exception&) {
-      // A document that is being closed.
-    }
-  }
-};
-
-// Comes back when nothing is being calculated.
-class Refresh : public cppu::WeakImplHelper1<css::awt::XCallback> {
- public:
-  static Refresh& instance() {
-    static const rtl::Reference<Refresh> refresh(new Refresh);
-    return *refresh;
-  }
-
-  void order(const XPropertySet* model) {
-    if (std::ranges::count(waiting_, model) != 0) return;
-    waiting_.push_back(model);
-    if (waiting_.size() == 1) {
-      css::awt::AsyncCallback::create(context())->addCallback(this, css::uno::Any());
-    }
-  }
-
-  void SAL_CALL notify(const css::uno::Any&) override {
-    const std::vector<const XPropertySet*> models = std::exchange(waiting_, {});
-    for (const XPropertySet* model : models) {
-      const auto found = openDocuments().find(model);
-      if (found == openDocuments().end()) continue;
-      try {
-        if (!found->second->readUnits()) continue;
-        Reference<css::sheet::XCalculatable>(found->second->model(), UNO_QUERY_THROW)
-            ->calculateAll();
-      } catch (const css::uno::Exception&) {
-        // A document that is being closed.
-      }
-    }
-  }
-
- private:
-  std::vector<const XPropertySet*> waiting_;
+  void look() const { Refresh::instance().order(model_, false); }
 };
 
 Reference<css::sheet::XNamedRanges> namesOf(const Reference<XPropertySet>& model) {
@@ -162,7 +156,13 @@ std::vector<Reference<css::table::XCell>> unitCells(const Reference<XPropertySet
 
 struct Document::Watched {
   Reference<css::table::XCell> cell;
-  std::string formula;
+  std::string contents;  ///< formula and value, for which the office calculates it if it has to
+
+  [[nodiscard]] static std::string contentsOf(const Reference<css::table::XCell>& cell) {
+    return toUtf8(cell->getFormula() + "\n" +
+                  Reference<css::text::XText>(cell, UNO_QUERY_THROW)->getString());
+  }
+  [[nodiscard]] bool isAt(const std::string& name) const { return nameOf(cell) == name; }
 };
 
 Document::Document(const Reference<XPropertySet>& model) : model_(model) {}
@@ -226,11 +226,10 @@ bool Document::readUnits() {
   named_ = keptUnits(model_);
   unitsOfCells_.clear();
   for (const Reference<css::table::XCell>& cell : unitCells(model_)) {
-    const std::string formula = toUtf8(cell->getFormula());
     const std::string name = nameOf(cell);
-    const auto known = std::ranges::find_if(
-        watched_, [&](const Watched& watched) { return nameOf(watched.cell) == name; });
-    if (known == watched_.end()) watched_.push_back({cell, formula});
+    if (std::ranges::none_of(watched_, [&](const Watched& known) { return known.isAt(name); })) {
+      watched_.push_back({cell, {}});
+    }
     try {
       for (auto& [group, unit] : unitsOf(argumentsOf("Units", cell).value_or(std::vector<Any>()))) {
         unitsOfCells_.insert_or_assign(group, unit);
@@ -239,7 +238,7 @@ bool Document::readUnits() {
       // The cell itself shows that it sets nothing.
     }
   }
-  for (Watched& watched : watched_) watched.formula = toUtf8(watched.cell->getFormula());
+  for (Watched& watched : watched_) watched.contents = Watched::contentsOf(watched.cell);
   Units units = calc::readUnits(named_);
   for (const auto& [group, unit] : unitsOfCells_) units.insert_or_assign(group, unit);
   if (units == units_) return false;
@@ -256,7 +255,7 @@ bool Document::readUnits() {
 
 bool Document::seemsChanged() const {
   return keptUnits(model_) != named_ || std::ranges::any_of(watched_, [](const Watched& watched) {
-           return toUtf8(watched.cell->getFormula()) != watched.formula;
+           return Watched::contentsOf(watched.cell) != watched.contents;
          });
 }
 
@@ -284,7 +283,7 @@ Document& documentOf(const Reference<XPropertySet>& model) {
 }
 
 void refreshSoon(const Reference<XPropertySet>& model) {
-  if (model.is()) Refresh::instance().order(model.get());
+  if (model.is()) Refresh::instance().order(model.get(), true);
 }
 
 void setContext(const Reference<css::uno::XComponentContext>& context) { theContext = context; }

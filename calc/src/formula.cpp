@@ -118,6 +118,7 @@ class Recalculation : public Meaning {
     if (reason_.empty()) reason_ = reason;
   }
   void follow(const Reference<XCell>& cell);
+  Any units(std::span<const Any> arguments);
 };
 
 std::string whyOf(const Reference<XCell>& cell, calvex_engine* engine, calvex_engine* recording,
@@ -149,24 +150,30 @@ void Recalculation::follow(const Reference<XCell>& cell) {
   note(nameOf(cell) + ": " + whyOf(cell, aside.handle(), aside.handle(), depth_ + 1));
 }
 
+Any Recalculation::units(std::span<const Any> arguments) {
+  try {
+    return Any(toOffice(unitsText(unitsOf(arguments))));
+  } catch (const Error& fault) {
+    note(std::string("CALVEX.UNITS: ") + fault.what());
+    return Any(errorValue(CellError::value));
+  }
+}
+
 Any Recalculation::function(const std::string& name, std::span<const Any> arguments) {
   const std::string upper = upperCase(name);
   if (!upper.starts_with(ownPrefix)) return otherFunction(name, arguments);
   const std::string own = upper.substr(ownPrefix.size());
   const Signature* signature = findSignature(own);
-  if (signature == nullptr) {
-    if (own == "UNITS") {
-      try {
-        return Any(toOffice(unitsText(unitsOf(arguments))));
-      } catch (const Error& fault) {
-        note(std::string("CALVEX.UNITS: ") + fault.what());
-        return Any(errorValue(CellError::value));
-      }
-    }
-    return Any(OUString());  // texts about other cells
-  }
   std::vector<const Any*> given;
   for (const Any& argument : arguments) given.push_back(&argument);
+  if (own == "UNITS") return units(arguments);
+  if (own == "CONVERT") {
+    std::string failure;
+    const Any value = convert(engine_, given, failure);
+    note(failure);
+    return value;
+  }
+  if (signature == nullptr) return Any(OUString());  // texts about other cells
   const Any value = calculate(engine_, *signature, given);
   // Of an array what stands in this cell, or the first that has failed.
   Place failed = place_;

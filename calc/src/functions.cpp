@@ -67,20 +67,9 @@ Any Functions::Trace(const Reference<XPropertySet>& document, const Reference<XC
 Any Functions::Convert(const Reference<XPropertySet>& document, const Any& quantity,
                        const Any& from, const Any& to, const Any& value) {
   return guarded([&] {
-    OUString words[3];
-    double number = 0.0;
-    if (!(value >>= number) || !(quantity >>= words[0]) || !(from >>= words[1]) ||
-        !(to >>= words[2])) {
-      return Any(errorValue(CellError::value));
-    }
-    if (errorOf(value) != 0) return value;
-    int member = 0;
-    calvex_find_member("Convert", CALVEX_TERMINATED, &member);
-    const std::string texts[] = {toUtf8(words[0]), toUtf8(words[1]), toUtf8(words[2])};
-    const char* const data[] = {texts[0].c_str(), texts[1].c_str(), texts[2].c_str()};
-    const int code = calvex_call_texts(documentOf(document).engine(), member, &number, 1, data,
-                                       nullptr, std::size(data), &number, 1);
-    return Any(code == CALVEX_OK ? number : errorValue(CellError::value));
+    const Any* const arguments[] = {&quantity, &from, &to, &value};
+    std::string reason;
+    return convert(documentOf(document).engine(), arguments, reason);
   });
 }
 

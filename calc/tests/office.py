@@ -5,6 +5,7 @@ import pathlib
 import shutil
 import socket
 import subprocess
+import tempfile
 import time
 
 import uno
@@ -20,13 +21,20 @@ def properties(**values):
 USER = {"user": "nobody", "group": "nogroup", "extra_groups": []} if os.geteuid() == 0 else {}
 
 
+@contextlib.contextmanager
+def temporary_folder():
+    """One that the office may write to."""
+    with tempfile.TemporaryDirectory() as folder:
+        if USER:
+            shutil.chown(folder, USER["user"])
+        yield pathlib.Path(folder)
+
+
 class Office:
     """A running office; `extension` is installed into its profile before the first start."""
 
     def __init__(self, folder, extension=None, display=None):
         folder = pathlib.Path(folder)
-        if USER:
-            shutil.chown(folder, USER["user"])
         self.profile = folder / "profile"
         self.environment = dict(os.environ, HOME=str(folder), SAL_USE_VCLPLUGIN="svp")
         if display:
