@@ -119,6 +119,13 @@ std::vector<Function> ownFunctions() {
            "[in] sequence<any> Choices",
            {{"Choices", "a quantity, then its unit; and so on", true}},
            -1},
+          {"Unit",
+           "CALVEX.UNIT",
+           "Calvex",
+           "The unit that a quantity has in the document: CALVEX.UNIT(\"P\").",
+           "[in] any Quantity",
+           {{"Quantity", "name of the quantity", false}},
+           -1},
           {"Why",
            "CALVEX.WHY",
            "Calvex",
@@ -228,6 +235,49 @@ std::string wizard() {
   return text + "</node></node></node>\n</oor:component-data>\n";
 }
 
+std::string control(std::string_view kind, std::string_view id, int left, int top, int width,
+                    int height, std::string_view rest) {
+  return fmt::format(
+      "<dlg:{} dlg:id=\"{}\" dlg:left=\"{}\" dlg:top=\"{}\" dlg:width=\"{}\" "
+      "dlg:height=\"{}\" {}/>\n",
+      kind, id, left, top, width, height, rest);
+}
+
+/// The list boxes of the units, as a page of the options or as a dialog with buttons.
+std::string units(bool isDialog) {
+  constexpr int line = 14, half = 160, perColumn = (unitGroupCount + 1) / 2;
+  constexpr int width = 2 * half + 6, bottom = perColumn * line + 8;
+  std::string controls;
+  for (int group = 0; group < unitGroupCount; ++group) {
+    const int left = 4 + group / perColumn * half;
+    const int top = 4 + group % perColumn * line;
+    const auto& row = unitGroupTable()[static_cast<std::size_t>(group)];
+    controls += control("text", fmt::format("group{}", group), left, top + 2, 86, 10,
+                        fmt::format("dlg:value=\"{}\"", escaped(toUtf8(row.displayName))));
+    controls += control("menulist", fmt::format("unit{}", group), left + 88, top, 66, 12,
+                        "dlg:spin=\"true\" dlg:linecount=\"12\"");
+  }
+  const int textWidth = isDialog ? width - 110 : width - 8;
+  controls += control("text", "cells", 4, bottom, textWidth, 18, "dlg:multiline=\"true\"");
+  if (isDialog) {
+    controls += control("button", "ok", width - 104, bottom, 48, 14,
+                        "dlg:button-type=\"ok\" dlg:default=\"true\" dlg:value=\"OK\"");
+    controls += control("button", "cancel", width - 52, bottom, 48, 14,
+                        "dlg:button-type=\"cancel\" dlg:value=\"Cancel\"");
+  }
+  return fmt::format(
+      R"(<?xml version="1.0" encoding="UTF-8"?>
+<dlg:window xmlns:dlg="http://openoffice.org/2000/dialog" xmlns:script="http://openoffice.org/2000/script"
+    dlg:id="units" dlg:left="30" dlg:top="20" dlg:width="{}" dlg:height="{}"
+    dlg:closeable="true" dlg:moveable="true"{}>
+<dlg:bulletinboard>
+{}</dlg:bulletinboard>
+</dlg:window>
+)",
+      width, bottom + 22,
+      isDialog ? " dlg:title=\"Units of this document\"" : " dlg:withtitlebar=\"false\"", controls);
+}
+
 }  // namespace
 
 int main(int count, char** arguments) {
@@ -238,8 +288,10 @@ int main(int count, char** arguments) {
     std::cout << methods();
   } else if (what == "wizard") {
     std::cout << wizard();
+  } else if (what == "units" || what == "page") {
+    std::cout << units(what == "units");
   } else {
-    std::cerr << "usage: generate types|methods|wizard\n";
+    std::cerr << "usage: generate types|methods|wizard|units|page\n";
     return 2;
   }
 }

@@ -343,6 +343,18 @@ Any convert(calvex_engine* engine, std::span<const Any* const> arguments, std::s
   return Any(valueError);
 }
 
+Any unitName(calvex_engine* engine, const Any& quantity) {
+  const Any word = elementOf(quantity, {});
+  int group = 0;
+  if (!isText(word) ||
+      calvex_find_group(toUtf8(textIn(word)).c_str(), CALVEX_TERMINATED, &group) != CALVEX_OK) {
+    return Any(valueError);
+  }
+  return Any(toOffice(textOf([&](char* text, std::size_t capacity, std::size_t* needed) {
+    calvex_unit(engine, group, text, capacity, needed);
+  })));
+}
+
 Any elementOf(const Any& value, Place place) {
   Cells cells;
   Numbers numbers;

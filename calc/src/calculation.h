@@ -37,6 +37,9 @@ struct Place {
 [[nodiscard]] Any convert(calvex_engine* engine, std::span<const Any* const> arguments,
                           std::string& reason);
 
+/// The engine's unit of a quantity in plain words; an error value for an unknown one.
+[[nodiscard]] Any unitName(calvex_engine* engine, const Any& quantity);
+
 /// The element of a value; a single one stands for all of its row or column.
 [[nodiscard]] Any elementOf(const Any& value, Place place);
 /// How many rows and columns a value has.

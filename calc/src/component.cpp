@@ -3,6 +3,8 @@
 #include <cppuhelper/implementationentry.hxx>
 #include <rtl/ref.hxx>
 
+#include "commands.h"
+#include "dialogs.h"
 #include "functions.h"
 
 namespace {
@@ -38,6 +40,8 @@ constexpr cppu::ImplementationEntry entry() {
 
 const cppu::ImplementationEntry entries[] = {
     entry<Functions>(),
+    entry<Commands>(),
+    entry<UnitsPage>(),
     {nullptr, nullptr, nullptr, nullptr, nullptr, 0},
 };
 

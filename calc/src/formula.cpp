@@ -173,6 +173,11 @@ Any Recalculation::function(const std::string& name, std::span<const Any> argume
     note(failure);
     return value;
   }
+  if (own == "UNIT") {
+    const Any value = unitName(engine_, arguments.empty() ? Any() : arguments[0]);
+    if (errorOf(value) != 0) note("CALVEX.UNIT: that is not the name of a quantity");
+    return value;
+  }
   if (signature == nullptr) return Any(OUString());  // texts about other cells
   const Any value = calculate(engine_, *signature, given);
   // Of an array what stands in this cell, or the first that has failed.

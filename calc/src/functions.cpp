@@ -43,6 +43,10 @@ Any Functions::Units(const Reference<XPropertySet>& document, const Sequence<Any
   });
 }
 
+Any Functions::Unit(const Reference<XPropertySet>& document, const Any& quantity) {
+  return guarded([&] { return unitName(documentOf(document).engine(), quantity); });
+}
+
 Any Functions::Why(const Reference<XPropertySet>& document, const Reference<XCellRange>& cell) {
   return guarded([&] {
     const CellCalls calls(documentOf(document), cell->getCellByPosition(0, 0));

@@ -22,6 +22,8 @@ class Functions : public cppu::WeakImplHelper2<XFunctions, css::lang::XServiceIn
   /// Answers what is set. An unknown name is an error value.
   Any SAL_CALL Units(const Reference<XPropertySet>& document,
                      const css::uno::Sequence<Any>& choices) override;
+  /// The unit that a quantity has in the document.
+  Any SAL_CALL Unit(const Reference<XPropertySet>& document, const Any& quantity) override;
   Any SAL_CALL Why(const Reference<XPropertySet>& document,
                    const Reference<XCellRange>& cell) override;
   Any SAL_CALL Trace(const Reference<XPropertySet>& document,

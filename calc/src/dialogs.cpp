@@ -1,0 +1,199 @@
+#include "dialogs.h"
+
+#include <com/sun/star/awt/DialogProvider2.hpp>
+#include <com/sun/star/awt/XControl.hpp>
+#include <com/sun/star/awt/XDialog.hpp>
+#include <com/sun/star/awt/XFixedText.hpp>
+#include <com/sun/star/awt/XListBox.hpp>
+#include <com/sun/star/awt/XWindow.hpp>
+#include <com/sun/star/awt/tree/XMutableTreeDataModel.hpp>
+#include <com/sun/star/deployment/PackageInformationProvider.hpp>
+#include <com/sun/star/frame/Desktop.hpp>
+#include <com/sun/star/lang/XComponent.hpp>
+#include <com/sun/star/lang/XMultiComponentFactory.hpp>
+#include <cppuhelper/supportsservice.hxx>
+
+#include "formula.h"
+#include "texts.h"
+
+namespace calvex::calc {
+
+using css::awt::XControlContainer;
+using css::uno::Sequence;
+using css::uno::UNO_QUERY;
+using css::uno::UNO_QUERY_THROW;
+using rtl::OUString;
+
+namespace {
+
+constexpr short okButton = 1;
+
+// A dialog of the extension, disposed of at the end.
+class Dialog {
+ public:
+  explicit Dialog(const char* file)
+      : dialog_(css::awt::DialogProvider2::create(context())->createDialog(
+            css::deployment::PackageInformationProvider::get(context())->getPackageLocation(
+                "calvex.calc") +
+            "/dialogs/" + OUString::createFromAscii(file))) {}
+  ~Dialog() { Reference<css::lang::XComponent>(dialog_, UNO_QUERY_THROW)->dispose(); }
+  Dialog(const Dialog&) = delete;
+  Dialog& operator=(const Dialog&) = delete;
+
+  [[nodiscard]] Reference<XControlContainer> controls() const { return {dialog_, UNO_QUERY_THROW}; }
+  [[nodiscard]] bool execute() const { return dialog_->execute() == okButton; }
+
+ private:
+  Reference<css::awt::XDialog> dialog_;
+};
+
+void setText(const Reference<XControlContainer>& window, const char* control,
+             const std::string& text) {
+  Reference<css::awt::XFixedText>(window->getControl(OUString::createFromAscii(control)),
+                                  UNO_QUERY_THROW)
+      ->setText(toOffice(text));
+}
+
+Reference<css::awt::XListBox> listOf(const Reference<XControlContainer>& window, int group) {
+  return {window->getControl("unit" + OUString::number(group)), UNO_QUERY_THROW};
+}
+
+int groupCount() {
+  std::size_t count = 0;
+  calvex_group_count(&count);
+  return static_cast<int>(count);
+}
+
+std::string modelUnit(int group) {
+  return textOf([&](char* text, std::size_t size, std::size_t* needed) {
+    calvex_group_text(group, CALVEX_GROUP_MODEL_UNIT, text, size, needed);
+  });
+}
+
+// The model unit first.
+Sequence<OUString> unitNames(int group) {
+  std::size_t count = 0;
+  calvex_unit_count(group, &count);
+  std::vector<OUString> names{toOffice(modelUnit(group))};
+  for (std::size_t i = 0; i < count; ++i) {
+    const OUString name = toOffice(textOf([&](char* text, std::size_t size, std::size_t* needed) {
+      calvex_unit_name(group, i, text, size, needed);
+    }));
+    if (name != names.front()) names.push_back(name);
+  }
+  return {names.data(), static_cast<sal_Int32>(names.size())};
+}
+
+}  // namespace
+
+void fillUnits(const Reference<XControlContainer>& window, const Document& document) {
+  std::string cells;
+  for (int group = 0; group < groupCount(); ++group) {
+    const auto list = listOf(window, group);
+    list->removeItems(0, list->getItemCount());
+    list->addItems(unitNames(group), 0);
+    const auto chosen = document.units().find(group);
+    if (chosen == document.units().end()) {
+      list->selectItemPos(0, true);
+    } else {
+      list->selectItem(toOffice(chosen->second), true);
+    }
+    const bool ofCell = document.unitsOfCells().contains(group);
+    Reference<css::awt::XWindow>(list, UNO_QUERY_THROW)->setEnable(!ofCell);
+  }
+  if (!document.unitsOfCells().empty()) {
+    cells = "Set by cells of the document: " + unitsText(document.unitsOfCells());
+  }
+  setText(window, "cells", cells);
+}
+
+Units chosenUnits(const Reference<XControlContainer>& window) {
+  Units units;
+  for (int group = 0; group < groupCount(); ++group) {
+    const auto list = listOf(window, group);
+    if (list->getSelectedItemPos() > 0) units[group] = toUtf8(list->getSelectedItem());
+  }
+  return units;
+}
+
+void showUnits(Document& document) {
+  const Dialog dialog("units.xdl");
+  fillUnits(dialog.controls(), document);
+  if (dialog.execute()) document.keepUnits(chosenUnits(dialog.controls()));
+}
+
+void showRecord(Document& document, const Reference<css::table::XCell>& cell) {
+  const Dialog dialog("record.xdl");
+  const CellCalls calls(document, cell);
+  setText(dialog.controls(), "cell", nameOf(cell) + "  " + toUtf8(cell->getFormula()));
+  setText(dialog.controls(), "reason",
+          calls.reason().empty() && calls.record().empty()
+              ? "There is no call of Calvex in this cell."
+              : calls.reason());
+
+  const Reference<css::awt::tree::XMutableTreeDataModel> tree(
+      context()->getServiceManager()->createInstanceWithContext(
+          "com.sun.star.awt.tree.MutableTreeDataModel", context()),
+      UNO_QUERY_THROW);
+  std::vector<Reference<css::awt::tree::XMutableTreeNode>> path{
+      tree->createNode(css::uno::Any(toOffice(nameOf(cell))), true)};
+  tree->setRoot(path.front());
+  for (const RecordRow& row : calls.record()) {
+    path.resize(static_cast<std::size_t>(row.depth) + 1);
+    const std::string kind = row.kind == "call" ? "" : row.kind + ": ";
+    const auto node = tree->createNode(css::uno::Any(toOffice(kind + row.text)), true);
+    path.back()->appendChild(node);
+    path.push_back(node);
+  }
+  Reference<css::beans::XPropertySet>(dialog.controls()->getControl("tree")->getModel(),
+                                      UNO_QUERY_THROW)
+      ->setPropertyValue("DataModel", css::uno::Any(tree));
+  static_cast<void>(dialog.execute());
+}
+
+Document* currentDocument() {
+  const Reference<css::beans::XPropertySet> model(
+      css::frame::Desktop::create(context())->getCurrentComponent(), UNO_QUERY);
+  Document& document = documentOf(model);
+  return document.model().is() ? &document : nullptr;
+}
+
+sal_Bool UnitsPage::callHandlerMethod(const Reference<css::awt::XWindow>& window,
+                                      const css::uno::Any& event, const OUString& method) {
+  OUString what;
+  if (method != "external_event" || !(event >>= what)) return false;
+  const Reference<XControlContainer> controls(window, UNO_QUERY_THROW);
+  Document* const document = currentDocument();
+  if (document == nullptr) {
+    static const Document none{Reference<css::beans::XPropertySet>()};
+    fillUnits(controls, none);
+    for (int group = 0; group < groupCount(); ++group) {
+      Reference<css::awt::XWindow>(listOf(controls, group), UNO_QUERY_THROW)->setEnable(false);
+    }
+    setText(controls, "cells", "Units belong to a spreadsheet: open it first.");
+  } else if (what == "ok") {
+    Units units = chosenUnits(controls);
+    if (units != document->units()) document->keepUnits(units);
+  } else {
+    fillUnits(controls, *document);
+  }
+  return true;
+}
+
+Sequence<OUString> UnitsPage::getSupportedMethodNames() {
+  const OUString name("external_event");
+  return {&name, 1};
+}
+
+OUString UnitsPage::getImplementationName() { return serviceName; }
+
+sal_Bool UnitsPage::supportsService(const OUString& name) {
+  return cppu::supportsService(this, name);
+}
+
+Sequence<OUString> UnitsPage::getSupportedServiceNames() {
+  const OUString name(serviceName);
+  return {&name, 1};
+}
+
+}  // namespace calvex::calc
