@@ -245,16 +245,16 @@ std::string control(std::string_view kind, std::string_view id, int left, int to
 
 /// The list boxes of the units, as a page of the options or as a dialog with buttons.
 std::string units(bool isDialog) {
-  constexpr int line = 14, half = 160, perColumn = (unitGroupCount + 1) / 2;
+  constexpr int line = 14, half = 176, perColumn = (unitGroupCount + 1) / 2;
   constexpr int width = 2 * half + 6, bottom = perColumn * line + 8;
   std::string controls;
   for (int group = 0; group < unitGroupCount; ++group) {
     const int left = 4 + group / perColumn * half;
     const int top = 4 + group % perColumn * line;
     const auto& row = unitGroupTable()[static_cast<std::size_t>(group)];
-    controls += control("text", fmt::format("group{}", group), left, top + 2, 86, 10,
+    controls += control("text", fmt::format("group{}", group), left, top + 2, 102, 10,
                         fmt::format("dlg:value=\"{}\"", escaped(toUtf8(row.displayName))));
-    controls += control("menulist", fmt::format("unit{}", group), left + 88, top, 66, 12,
+    controls += control("menulist", fmt::format("unit{}", group), left + 104, top, 66, 12,
                         "dlg:spin=\"true\" dlg:linecount=\"12\"");
   }
   const int textWidth = isDialog ? width - 110 : width - 8;

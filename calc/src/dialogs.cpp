@@ -7,6 +7,7 @@
 #include <com/sun/star/awt/XListBox.hpp>
 #include <com/sun/star/awt/XWindow.hpp>
 #include <com/sun/star/awt/tree/XMutableTreeDataModel.hpp>
+#include <com/sun/star/awt/tree/XTreeControl.hpp>
 #include <com/sun/star/deployment/PackageInformationProvider.hpp>
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
@@ -87,7 +88,6 @@ Sequence<OUString> unitNames(int group) {
 }  // namespace
 
 void fillUnits(const Reference<XControlContainer>& window, const Document& document) {
-  std::string cells;
   for (int group = 0; group < groupCount(); ++group) {
     const auto list = listOf(window, group);
     list->removeItems(0, list->getItemCount());
@@ -101,10 +101,8 @@ void fillUnits(const Reference<XControlContainer>& window, const Document& docum
     const bool ofCell = document.unitsOfCells().contains(group);
     Reference<css::awt::XWindow>(list, UNO_QUERY_THROW)->setEnable(!ofCell);
   }
-  if (!document.unitsOfCells().empty()) {
-    cells = "Set by cells of the document: " + unitsText(document.unitsOfCells());
-  }
-  setText(window, "cells", cells);
+  const std::string cells = unitsText(document.unitsOfCells());
+  setText(window, "cells", cells.empty() ? cells : "Set by cells of the document: " + cells);
 }
 
 Units chosenUnits(const Reference<XControlContainer>& window) {
@@ -125,7 +123,10 @@ void showUnits(Document& document) {
 void showRecord(Document& document, const Reference<css::table::XCell>& cell) {
   const Dialog dialog("record.xdl");
   const CellCalls calls(document, cell);
-  setText(dialog.controls(), "cell", nameOf(cell) + "  " + toUtf8(cell->getFormula()));
+  OUString formula;
+  Reference<css::beans::XPropertySet>(cell, UNO_QUERY_THROW)->getPropertyValue("FormulaLocal") >>=
+      formula;
+  setText(dialog.controls(), "cell", nameOf(cell) + "  " + toUtf8(formula));
   setText(dialog.controls(), "reason",
           calls.reason().empty() && calls.record().empty()
               ? "There is no call of Calvex in this cell."
@@ -136,18 +137,24 @@ void showRecord(Document& document, const Reference<css::table::XCell>& cell) {
           "com.sun.star.awt.tree.MutableTreeDataModel", context()),
       UNO_QUERY_THROW);
   std::vector<Reference<css::awt::tree::XMutableTreeNode>> path{
-      tree->createNode(css::uno::Any(toOffice(nameOf(cell))), true)};
+      tree->createNode(css::uno::Any(toOffice(nameOf(cell))), false)};
   tree->setRoot(path.front());
+  std::vector<Reference<css::awt::tree::XMutableTreeNode>> nodes{path.front()};
   for (const RecordRow& row : calls.record()) {
     path.resize(static_cast<std::size_t>(row.depth) + 1);
     const std::string kind = row.kind == "call" ? "" : row.kind + ": ";
-    const auto node = tree->createNode(css::uno::Any(toOffice(kind + row.text)), true);
+    const auto node = tree->createNode(css::uno::Any(toOffice(kind + row.text)), false);
     path.back()->appendChild(node);
     path.push_back(node);
+    nodes.push_back(node);
   }
-  Reference<css::beans::XPropertySet>(dialog.controls()->getControl("tree")->getModel(),
-                                      UNO_QUERY_THROW)
+  const auto control = dialog.controls()->getControl("tree");
+  Reference<css::beans::XPropertySet>(control->getModel(), UNO_QUERY_THROW)
       ->setPropertyValue("DataModel", css::uno::Any(tree));
+  const Reference<css::awt::tree::XTreeControl> shown(control, UNO_QUERY_THROW);
+  for (const auto& node : nodes) {
+    shown->expandNode(Reference<css::awt::tree::XTreeNode>(node, UNO_QUERY_THROW));
+  }
   static_cast<void>(dialog.execute());
 }
 

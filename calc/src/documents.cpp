@@ -15,6 +15,7 @@
 #include <com/sun/star/text/XText.hpp>
 #include <com/sun/star/util/XSearchable.hpp>
 #include <cppuhelper/implbase1.hxx>
+#include <mutex>
 #include <rtl/ref.hxx>
 
 #include "formula.h"
@@ -34,8 +35,29 @@ constexpr char unitsName[] = "Calvex_Units";
 Reference<css::uno::XComponentContext> theContext;
 
 // The documents by their address, which no other document has while this one is open.
-std::map<const XPropertySet*, std::unique_ptr<Document>>& openDocuments() {
-  static std::map<const XPropertySet*, std::unique_ptr<Document>> documents;
+class OpenDocuments {
+ public:
+  [[nodiscard]] Document* find(const XPropertySet* model) {
+    const std::scoped_lock lock(mutex_);
+    const auto found = documents_.find(model);
+    return found == documents_.end() ? nullptr : found->second.get();
+  }
+  Document& add(std::unique_ptr<Document> document) {
+    const std::scoped_lock lock(mutex_);
+    return *documents_.try_emplace(document->model().get(), std::move(document)).first->second;
+  }
+  void remove(const XPropertySet* model) {
+    const std::scoped_lock lock(mutex_);
+    documents_.erase(model);
+  }
+
+ private:
+  std::mutex mutex_;
+  std::map<const XPropertySet*, std::unique_ptr<Document>> documents_;
+};
+
+OpenDocuments& openDocuments() {
+  static OpenDocuments documents;
   return documents;
 }
 
@@ -49,22 +71,28 @@ class Refresh : public cppu::WeakImplHelper1<css::awt::XCallback> {
 
   /// `certainly`: the units are read again; else only where the places that have them changed.
   void order(const XPropertySet* model, bool certainly) {
-    if (waiting_.empty()) {
-      css::awt::AsyncCallback::create(context())->addCallback(this, css::uno::Any());
+    {
+      const std::scoped_lock lock(mutex_);
+      const auto [known, isNew] = waiting_.try_emplace(model, certainly);
+      known->second = known->second || certainly;
+      if (!isNew || waiting_.size() > 1) return;
     }
-    bool& known = waiting_[model];
-    known = known || certainly;
+    css::awt::AsyncCallback::create(context())->addCallback(this, css::uno::Any());
   }
 
   void SAL_CALL notify(const css::uno::Any&) override {
-    for (const auto& [model, certainly] : std::exchange(waiting_, {})) {
-      const auto found = openDocuments().find(model);
-      if (found == openDocuments().end()) continue;
-      Document& document = *found->second;
+    std::map<const XPropertySet*, bool> models;
+    {
+      const std::scoped_lock lock(mutex_);
+      models.swap(waiting_);
+    }
+    for (const auto& [model, certainly] : models) {
+      Document* const document = openDocuments().find(model);
+      if (document == nullptr) continue;
       try {
-        if (!certainly && !document.seemsChanged()) continue;
-        if (!document.readUnits()) continue;
-        Reference<css::sheet::XCalculatable>(document.model(), UNO_QUERY_THROW)->calculateAll();
+        if (!certainly && !document->seemsChanged()) continue;
+        if (!document->readUnits()) continue;
+        Reference<css::sheet::XCalculatable>(document->model(), UNO_QUERY_THROW)->calculateAll();
       } catch (const css::uno::Exception&) {
         // A document that is being closed.
       }
@@ -72,6 +100,7 @@ class Refresh : public cppu::WeakImplHelper1<css::awt::XCallback> {
   }
 
  private:
+  std::mutex mutex_;  // undo managers call without the office's own lock
   std::map<const XPropertySet*, bool> waiting_;
 };
 
@@ -99,7 +128,7 @@ class Follower : public cppu::WeakImplHelper1<css::document::XUndoManagerListene
   void SAL_CALL leftContext(const Event&) override { look(); }
   void SAL_CALL leftHiddenContext(const Event&) override { look(); }
   void SAL_CALL cancelledContext(const Event&) override { look(); }
-  void SAL_CALL disposing(const EventObject&) override { openDocuments().erase(model_); }
+  void SAL_CALL disposing(const EventObject&) override { openDocuments().remove(model_); }
 
  private:
   const XPropertySet* model_;
@@ -272,11 +301,9 @@ void Document::keepUnits(const Units& units) const {
 
 Document& documentOf(const Reference<XPropertySet>& model) {
   static Document none{Reference<XPropertySet>()};
-  const auto found = openDocuments().find(model.get());
-  if (found != openDocuments().end()) return *found->second;
+  if (Document* const known = openDocuments().find(model.get())) return *known;
   if (!Reference<css::sheet::XSpreadsheetDocument>(model, UNO_QUERY).is()) return none;
-  auto& document =
-      *openDocuments().emplace(model.get(), std::make_unique<Document>(model)).first->second;
+  Document& document = openDocuments().add(std::make_unique<Document>(model));
   const Reference<css::document::XUndoManagerListener> follower(new Follower(model));
   document.readUnits();
   return document;

@@ -1,0 +1,114 @@
+"""What the menu inserts, and the templates."""
+import pathlib
+import zipfile
+
+import pytest
+
+from conftest import Sheet, answers
+from office import until
+
+
+@pytest.fixture
+def shown(office):
+    """The menu is for the document that is worked on."""
+    document = office.new(hidden=False)
+    yield document
+    document.close(True)
+
+
+def trigger(office, document, command, cell="A1"):
+    sheet = document.CurrentController.ActiveSheet
+    document.CurrentController.select(sheet.getCellRangeByName(cell))
+    office.create("calvex.calc.Commands").trigger(command)
+
+
+def errors(sheet, cells):
+    return [name for name in cells if sheet.error(name)]
+
+
+def test_a_saturation_table_follows_the_units(office, shown):
+    sheet = Sheet(shown.Sheets[0])
+    trigger(office, shown, "saturation", "B2")
+    assert [cell for cell in sheet["B3:I3"].DataArray[0]][:2] == ["K", "MPa"]
+    assert sheet["B4"].Value == pytest.approx(283.15)
+    assert sheet["C4"].Value == answers("PSatT", ["283.15"])[0]
+    assert sheet["I40"].Value == answers("SSatTQ", ["643.15", "1"])[0]
+    assert not errors(sheet, (f"{letter}{row}" for letter in "BCDEFGHI" for row in range(2, 41)))
+    sheet.put("A1", '=CALVEX.UNITS("T";"C";"P";"bara")')
+    assert until(lambda: sheet["A1"].String and sheet["B3"].String == "C")
+    assert sheet["B4"].Value == pytest.approx(10)
+    assert sheet["C4"].Value == pytest.approx(10 * answers("PSatT", ["283.15"])[0])
+
+
+def test_a_state_table_has_every_property(office, shown):
+    sheet = Sheet(shown.Sheets[0])
+    trigger(office, shown, "state")
+    rows = {row[0]: row[1:] for row in sheet["A1:C21"].DataArray}
+    assert rows["pressure"] == (10, "MPa") and rows["temperature"][0] == pytest.approx(773.15)
+    for words, member in (("enthalpy", "HPT"), ("speed of sound", "WPT"),
+                          ("dynamic viscosity", "MPT"), ("Prandtl number", "NPT")):
+        assert rows[words][0] == answers(member, ["10", "773.15"])[0]
+    assert len(rows) == 21 and not errors(sheet, (f"B{row}" for row in range(1, 22)))
+
+
+def test_a_table_is_one_step_to_undo(office, shown):
+    trigger(office, shown, "state")
+    shown.UndoManager.undo()
+    assert Sheet(shown.Sheets[0])["A1"].String == ""
+    assert not shown.UndoManager.isUndoPossible()
+
+
+def test_a_mollier_chart_is_a_chart_of_the_document(office, shown):
+    trigger(office, shown, "mollier")
+    trigger(office, shown, "mollier")
+    assert shown.Sheets.ElementNames == ("Sheet1", "Mollier", "Mollier 2")
+    sheet = Sheet(shown.Sheets[1])
+    chart = shown.Sheets[1].Charts.getByIndex(0).EmbeddedObject
+    assert chart.Diagram.DiagramType == "com.sun.star.chart.XYDiagram"
+    assert sheet["A14"].Value == pytest.approx(3.5)
+    # Two phases at 0.01 MPa: an isobar is a straight line there, of the slope T.
+    slope = (sheet["B15"].Value - sheet["B14"].Value) / 0.25
+    assert slope == pytest.approx(answers("TSatP", ["0.01"])[0], rel=1e-6)
+    series = chart.FirstDiagram.CoordinateSystems[0].ChartTypes[0].DataSeries
+    assert len(series) == 8
+
+
+def test_the_dialog_keeps_units_in_the_document(office, shown):
+    """What its OK writes: a name of the document, which can be undone."""
+    sheet = Sheet(shown.Sheets[0])
+    sheet.put("A1", "=HPT(100;500)")
+    model = sheet["A1"].Value
+    origin = sheet["A1"].CellAddress
+    shown.NamedRanges.addNewByName("Calvex_Units", '"T=C; P=bara"', origin, 0)
+    steam = answers("HPT", ["100bara", "500C"])[0]
+    assert until(lambda: sheet["A1"].Value == pytest.approx(steam, rel=1e-12))
+    shown.UndoManager.undo()
+    assert until(lambda: sheet["A1"].Value == model)
+
+
+@pytest.mark.parametrize("name", ["turbine-expansion", "boiler-house", "steam-tables"])
+def test_a_template_calculates_on_opening(name, office, extension, folder):
+    path = pathlib.Path(zipfile.ZipFile(extension).extract(f"templates/Calvex/{name}.ots", folder))
+    opened = office.open(path)
+    try:
+        sheet = Sheet(opened.Sheets[0])
+        cells = [f"{letter}{row}" for letter in "ABCDEFGH" for row in range(1, 75)]
+        assert not errors(sheet, cells)
+        assert sheet["A3"].String.startswith("T=C; P=bara")
+        if name == "turbine-expansion":
+            inlet = answers("HPT", ["100bara", "500C"])[0]
+            power, T, h, x = answers("TurbineA", [str(inlet), "10", "0.005", "0.85", "20"])
+            assert sheet["B15"].Value == pytest.approx(power, rel=1e-9)
+            assert sheet["F32"].Value == pytest.approx(power, rel=1e-9)
+            assert sheet["A32"].Value == pytest.approx(0.05)
+        elif name == "boiler-house":
+            # What comes in goes out: feed water = steam + blowdown; water + steam = feed + vent.
+            value = {row: sheet[f"B{row}"].Value for row in range(1, 33)}
+            assert value[28] == pytest.approx(value[8] + value[29])
+            assert value[18] + value[19] == pytest.approx(value[28] * (1 + value[15]))
+            assert value[31] == pytest.approx(value[30] / value[27])
+        else:
+            assert sheet["B17"].Value == pytest.approx(1.01322, rel=1e-5)  # 100 °C, IAPS 1984
+            assert sheet["B48"].Value == answers("HPT", ["1bara", "320C"])[0]
+    finally:
+        opened.close(True)
