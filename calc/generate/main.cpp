@@ -253,17 +253,17 @@ std::string units(bool isDialog) {
     const int top = 4 + group % perColumn * line;
     const auto& row = unitGroupTable()[static_cast<std::size_t>(group)];
     controls += control("text", fmt::format("group{}", group), left, top + 2, 102, 10,
-                        fmt::format("dlg:value=\"{}\"", escaped(toUtf8(row.displayName))));
+                        fmt::format(R"(dlg:value="{}")", escaped(toUtf8(row.displayName))));
     controls += control("menulist", fmt::format("unit{}", group), left + 104, top, 66, 12,
-                        "dlg:spin=\"true\" dlg:linecount=\"12\"");
+                        R"(dlg:spin="true" dlg:linecount="12")");
   }
   const int textWidth = isDialog ? width - 110 : width - 8;
-  controls += control("text", "cells", 4, bottom, textWidth, 18, "dlg:multiline=\"true\"");
+  controls += control("text", "cells", 4, bottom, textWidth, 18, R"(dlg:multiline="true")");
   if (isDialog) {
     controls += control("button", "ok", width - 104, bottom, 48, 14,
-                        "dlg:button-type=\"ok\" dlg:default=\"true\" dlg:value=\"OK\"");
+                        R"(dlg:button-type="ok" dlg:default="true" dlg:value="OK")");
     controls += control("button", "cancel", width - 52, bottom, 48, 14,
-                        "dlg:button-type=\"cancel\" dlg:value=\"Cancel\"");
+                        R"(dlg:button-type="cancel" dlg:value="Cancel")");
   }
   return fmt::format(
       R"(<?xml version="1.0" encoding="UTF-8"?>
@@ -275,7 +275,8 @@ std::string units(bool isDialog) {
 </dlg:window>
 )",
       width, bottom + 22,
-      isDialog ? " dlg:title=\"Units of this document\"" : " dlg:withtitlebar=\"false\"", controls);
+      isDialog ? R"( dlg:title="Units of this document")" : R"( dlg:withtitlebar="false")",
+      controls);
 }
 
 }  // namespace

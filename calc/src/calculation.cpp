@@ -225,9 +225,11 @@ Any many(calvex_engine* engine, const Signature& signature, const Inputs& given,
   }
 
   std::vector<calvex_column> inputs;
+  inputs.reserve(columns.size());
   for (const auto& column : columns) inputs.push_back({column.data(), 1});
   std::vector<double> computed(results * places.size());
   std::vector<calvex_output> outputs;
+  outputs.reserve(results);
   for (std::size_t k = 0; k < results; ++k) {
     outputs.push_back({chosen[k], {computed.data() + k, static_cast<std::ptrdiff_t>(results)}});
   }

@@ -7,6 +7,8 @@
 #include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
 #include <com/sun/star/sheet/XSheetCellRange.hpp>
+#include <com/sun/star/system/SystemShellExecute.hpp>
+#include <com/sun/star/system/SystemShellExecuteFlags.hpp>
 #include <cppuhelper/supportsservice.hxx>
 
 #include "dialogs.h"
@@ -76,6 +78,10 @@ void run(const OUString& command, Document& document) {
   if (command == "mollier") {
     const UndoStep step(document, "Insert a Mollier chart");
     return insertMollierChart(document);
+  }
+  if (command == "help") {
+    return css::system::SystemShellExecute::create(context())->execute(
+        fileOfExtension("/help/index.html"), {}, css::system::SystemShellExecuteFlags::URIS_ONLY);
   }
   throw Error(CALVEX_UNKNOWN, "There is no command " + toUtf8(command) + ".");
 }

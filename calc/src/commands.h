@@ -13,8 +13,8 @@ class Commands : public cppu::WeakImplHelper2<com::sun::star::task::XJobExecutor
  public:
   static constexpr char serviceName[] = "calvex.calc.Commands";
 
-  /// units, record, saturation, state or mollier, for the document that is worked on. What goes
-  /// wrong is shown.
+  /// units, record, saturation, state, mollier or help, for the document that is worked on. What
+  /// goes wrong is shown.
   void SAL_CALL trigger(const rtl::OUString& command) override;
 
   rtl::OUString SAL_CALL getImplementationName() override;

@@ -33,10 +33,8 @@ constexpr short okButton = 1;
 class Dialog {
  public:
   explicit Dialog(const char* file)
-      : dialog_(css::awt::DialogProvider2::create(context())->createDialog(
-            css::deployment::PackageInformationProvider::get(context())->getPackageLocation(
-                "calvex.calc") +
-            "/dialogs/" + OUString::createFromAscii(file))) {}
+      : dialog_(css::awt::DialogProvider2::create(context())->createDialog(fileOfExtension(file))) {
+  }
   ~Dialog() { Reference<css::lang::XComponent>(dialog_, UNO_QUERY_THROW)->dispose(); }
   Dialog(const Dialog&) = delete;
   Dialog& operator=(const Dialog&) = delete;
@@ -115,13 +113,13 @@ Units chosenUnits(const Reference<XControlContainer>& window) {
 }
 
 void showUnits(Document& document) {
-  const Dialog dialog("units.xdl");
+  const Dialog dialog("/dialogs/units.xdl");
   fillUnits(dialog.controls(), document);
   if (dialog.execute()) document.keepUnits(chosenUnits(dialog.controls()));
 }
 
 void showRecord(Document& document, const Reference<css::table::XCell>& cell) {
-  const Dialog dialog("record.xdl");
+  const Dialog dialog("/dialogs/record.xdl");
   const CellCalls calls(document, cell);
   OUString formula;
   Reference<css::beans::XPropertySet>(cell, UNO_QUERY_THROW)->getPropertyValue("FormulaLocal") >>=
@@ -156,6 +154,12 @@ void showRecord(Document& document, const Reference<css::table::XCell>& cell) {
     shown->expandNode(Reference<css::awt::tree::XTreeNode>(node, UNO_QUERY_THROW));
   }
   static_cast<void>(dialog.execute());
+}
+
+OUString fileOfExtension(const char* path) {
+  return css::deployment::PackageInformationProvider::get(context())->getPackageLocation(
+             "calvex.calc") +
+         OUString::createFromAscii(path);
 }
 
 Document* currentDocument() {

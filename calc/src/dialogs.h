@@ -40,6 +40,9 @@ class UnitsPage : public cppu::WeakImplHelper2<css::awt::XContainerWindowEventHa
   css::uno::Sequence<rtl::OUString> SAL_CALL getSupportedServiceNames() override;
 };
 
+/// The URL of a file of the extension, by its path in it.
+[[nodiscard]] rtl::OUString fileOfExtension(const char* path);
+
 /// The document that is worked on; nullptr when it is no spreadsheet.
 [[nodiscard]] Document* currentDocument();
 

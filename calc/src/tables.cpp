@@ -211,6 +211,7 @@ void insertMollierChart(const Document& document) {
   look->setPropertyValue("SymbolType", css::uno::Any(noSymbol));
   const Reference<XPropertySet> frame(chart, UNO_QUERY_THROW);
   frame->setPropertyValue("HasMainTitle", css::uno::Any(true));
+  frame->setPropertyValue("HasLegend", css::uno::Any(true));
   setTitle(chart->getTitle(), "Enthalpy over entropy, along isobars");
   look->setPropertyValue("HasXAxisTitle", css::uno::Any(true));
   look->setPropertyValue("HasYAxisTitle", css::uno::Any(true));

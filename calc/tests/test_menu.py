@@ -112,3 +112,47 @@ def test_a_template_calculates_on_opening(name, office, extension, folder):
             assert sheet["B48"].Value == answers("HPT", ["1bara", "320C"])[0]
     finally:
         opened.close(True)
+
+
+def test_the_page_of_units_sets_those_of_the_document(office, shown, extension):
+    sheet = Sheet(shown.Sheets[0])
+    sheet.put("A1", "=HPT(100;500)")
+    model = sheet["A1"].Value
+    page = office.create("calvex.calc.UnitsPage")
+    location = office.context.getByName(
+        "/singletons/com.sun.star.deployment.PackageInformationProvider").getPackageLocation(
+        "calvex.calc")
+    provider = office.create("com.sun.star.awt.ContainerWindowProvider")
+    window = provider.createContainerWindow(f"{location}/dialogs/page.xdl", "",
+                                            shown.CurrentController.Frame.ContainerWindow, page)
+    try:
+        def tell(event):
+            assert page.callHandlerMethod(window, event, "external_event")
+        tell("initialize")
+        T, P = window.getControl("unit0"), window.getControl("unit1")
+        assert (T.SelectedItem, P.SelectedItem) == ("K", "MPa")
+        T.selectItem("C", True)
+        P.selectItem("bara", True)
+        tell("ok")
+        steam = answers("HPT", ["100bara", "500C"])[0]
+        assert until(lambda: sheet["A1"].Value == pytest.approx(steam, rel=1e-12))
+        tell("back")
+        assert (T.SelectedItem, P.SelectedItem) == ("C", "bara")
+        shown.UndoManager.undo()
+        assert until(lambda: sheet["A1"].Value == model)
+        sheet.put("B1", '=CALVEX.UNITS("P";"psia")')
+        assert until(lambda: sheet["B1"].String and sheet["A1"].Value != model)
+        tell("back")
+        assert (T.SelectedItem, P.SelectedItem) == ("K", "psia") and not P.isEnabled()
+        assert window.getControl("cells").Text == "Set by cells of the document: P=psia"
+    finally:
+        window.dispose()
+
+
+def test_the_menu_and_the_help_are_in_the_extension(functions, extension):
+    archive = zipfile.ZipFile(extension)
+    menu = archive.read("Addons.xcu").decode()
+    for command in ("units", "record", "saturation", "state", "mollier", "help"):
+        assert f"calvex.calc.Commands?{command}<" in menu
+    page = archive.read("help/index.html").decode()
+    assert [name for name in functions if f"<h3>{name}(" not in page] == []
