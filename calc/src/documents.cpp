@@ -197,14 +197,21 @@ struct Document::Watched {
 Document::Document(const Reference<XPropertySet>& model) : model_(model) {}
 Document::~Document() = default;
 
+namespace {
+
+std::string keywordOf(int group) {
+  return textOf([&](char* text, std::size_t size, std::size_t* needed) {
+    calvex_group_text(group, CALVEX_GROUP_KEYWORD, text, size, needed);
+  });
+}
+
+}  // namespace
+
 std::string unitsText(const Units& units) {
   std::string text;
   for (const auto& [group, unit] : units) {
-    text += (text.empty() ? "" : "; ") +
-            textOf([&](char* to, std::size_t size, std::size_t* needed) {
-              calvex_group_text(group, CALVEX_GROUP_KEYWORD, to, size, needed);
-            }) +
-            '=' + unit;
+    if (!text.empty()) text += "; ";
+    text.append(keywordOf(group)).append("=").append(unit);
   }
   return text;
 }
@@ -273,12 +280,7 @@ bool Document::readUnits() {
   if (units == units_) return false;
   units_ = units;
   engine_ = std::make_unique<Engine>();
-  for (const auto& [group, unit] : units_) {
-    const std::string keyword = textOf([&](char* to, std::size_t size, std::size_t* needed) {
-      calvex_group_text(group, CALVEX_GROUP_KEYWORD, to, size, needed);
-    });
-    engine_->unit(keyword, unit);
-  }
+  for (const auto& [group, unit] : units_) engine_->unit(keywordOf(group), unit);
   return true;
 }
 

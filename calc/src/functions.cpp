@@ -85,7 +85,7 @@ sal_Bool Functions::supportsService(const OUString& name) {
 
 Sequence<OUString> Functions::getSupportedServiceNames() {
   const OUString name = getImplementationName();
-  return Sequence<OUString>(&name, 1);
+  return {&name, 1};
 }
 
 }  // namespace calvex::calc

@@ -1,5 +1,7 @@
 #include "tables.h"
 
+#include <fmt/format.h>
+
 #include <com/sun/star/awt/Rectangle.hpp>
 #include <com/sun/star/beans/XPropertySet.hpp>
 #include <com/sun/star/chart/XAxisXSupplier.hpp>
@@ -12,7 +14,6 @@
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/table/XTableCharts.hpp>
 #include <com/sun/star/table/XTableChartsSupplier.hpp>
-#include <vector>
 
 #include "formula.h"
 #include "signatures.h"
@@ -147,16 +148,16 @@ sal_Int32 writeMollier(const Corner& corner) {
     corner.putHeading(i + 1, 0, inUnits("P", "MPa", isobars[i]));
   }
   corner.putHeading(isobarCount + 1, 0, "saturation");
+  const std::string hottest = inUnits("T", "C", "800").substr(1);
   sal_Int32 down = 1;
   constexpr int first = 50, last = 950, step = 25;  // hundredths of kJ/(kg.K)
   for (int s = first; s <= last; s += step, ++down) {
     corner.put(0, down, inUnits("S", "kJ/(kg.K)", std::to_string(s) + "/100"));
     for (int i = 0; i < isobarCount; ++i) {
-      // Above 800 °C there is nothing to see; "" leaves a gap.
-      const std::string P = corner.name(i + 1, 0), S = "$" + corner.name(0, down);
+      // Above 800 °C there is nothing to see; #N/A leaves a gap.
+      const std::string state = "PS(" + corner.name(i + 1, 0) + ";$" + corner.name(0, down) + ")";
       corner.put(i + 1, down,
-                 "=IF(IFERROR(TPS(" + P + ";" + S + ");1E9)>" + inUnits("T", "C", "800").substr(1) +
-                     ";NA();HPS(" + P + ";" + S + "))");
+                 fmt::format("=IF(IFERROR(T{};1E9)>{};NA();H{})", state, hottest, state));
     }
   }
   // Up the liquid and down the vapour.
