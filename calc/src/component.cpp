@@ -38,7 +38,7 @@ constexpr cppu::ImplementationEntry entry() {
           0};
 }
 
-const cppu::ImplementationEntry entries[] = {
+constexpr cppu::ImplementationEntry entries[] = {
     entry<Functions>(),
     entry<Commands>(),
     entry<UnitsPage>(),

@@ -32,7 +32,10 @@ namespace {
 
 constexpr char unitsName[] = "Calvex_Units";
 
-Reference<css::uno::XComponentContext> theContext;
+Reference<css::uno::XComponentContext>& theContext() {
+  static Reference<css::uno::XComponentContext> made;
+  return made;
+}
 
 // The documents by their address, which no other document has while this one is open.
 class OpenDocuments {
@@ -315,8 +318,8 @@ void refreshSoon(const Reference<XPropertySet>& model) {
   if (model.is()) Refresh::instance().order(model.get(), true);
 }
 
-void setContext(const Reference<css::uno::XComponentContext>& context) { theContext = context; }
+void setContext(const Reference<css::uno::XComponentContext>& context) { theContext() = context; }
 
-const Reference<css::uno::XComponentContext>& context() { return theContext; }
+const Reference<css::uno::XComponentContext>& context() { return theContext(); }
 
 }  // namespace calvex::calc

@@ -120,6 +120,13 @@ def test_one_bad_row_does_not_spoil_the_column(sheet):
         assert words in sheet.put(f"D{i}", f"=CALVEX.WHY(C{i})").String
 
 
+def test_errors_in_a_range_of_inputs_can_be_left_out(sheet):
+    sheet["A1:B3"].DataArray = ((10.0, 773.15), (10.0, 773.15), (10.0, 773.15))
+    sheet.put("A2", "=HPT(1;9999)")
+    sheet.array("C1:C3", '=HPT(IFERROR(A1:A3;"");B1:B3)')
+    assert [sheet.error(f"C{i}") for i in (1, 2, 3)] == [0, NOT_AVAILABLE, 0]
+
+
 def test_wrong_inputs_are_errors_with_reasons(sheet):
     sheet.put("A1", "text")
     sheet.put("A2", "=1/0")
