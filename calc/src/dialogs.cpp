@@ -103,19 +103,21 @@ void fillUnits(const Reference<XControlContainer>& window, const Document& docum
   setText(window, "cells", cells.empty() ? cells : "Set by cells of the document: " + cells);
 }
 
-Units chosenUnits(const Reference<XControlContainer>& window) {
+void keepChosenUnits(const Reference<XControlContainer>& window, const Document& document) {
   Units units;
   for (int group = 0; group < groupCount(); ++group) {
     const auto list = listOf(window, group);
-    if (list->getSelectedItemPos() > 0) units[group] = toUtf8(list->getSelectedItem());
+    if (list->getSelectedItemPos() > 0 && !document.unitsOfCells().contains(group)) {
+      units[group] = toUtf8(list->getSelectedItem());
+    }
   }
-  return units;
+  document.keepUnits(units);
 }
 
 void showUnits(Document& document) {
   const Dialog dialog("/dialogs/units.xdl");
   fillUnits(dialog.controls(), document);
-  if (dialog.execute()) document.keepUnits(chosenUnits(dialog.controls()));
+  if (dialog.execute()) keepChosenUnits(dialog.controls(), document);
 }
 
 void showRecord(Document& document, const Reference<css::table::XCell>& cell) {
@@ -183,8 +185,7 @@ sal_Bool UnitsPage::callHandlerMethod(const Reference<css::awt::XWindow>& window
     }
     setText(controls, "cells", "Units belong to a spreadsheet: open it first.");
   } else if (what == "ok") {
-    Units units = chosenUnits(controls);
-    if (units != document->units()) document->keepUnits(units);
+    keepChosenUnits(controls, *document);
   } else {
     fillUnits(controls, *document);
   }

@@ -21,8 +21,9 @@ void showRecord(Document& document, const Reference<css::table::XCell>& cell);
 /// Shows the units of a document in the list boxes unit0, unit1, ... of a window. Those that cells
 /// set cannot be chosen.
 void fillUnits(const Reference<css::awt::XControlContainer>& window, const Document& document);
-/// The units that are chosen in a window's list boxes.
-[[nodiscard]] Units chosenUnits(const Reference<css::awt::XControlContainer>& window);
+/// Keeps the units that are chosen in a window's list boxes, but those that cells set.
+void keepChosenUnits(const Reference<css::awt::XControlContainer>& window,
+                     const Document& document);
 
 /// The page of units: those of the document that is worked on.
 class UnitsPage : public cppu::WeakImplHelper2<css::awt::XContainerWindowEventHandler,

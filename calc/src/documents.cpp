@@ -294,8 +294,10 @@ bool Document::seemsChanged() const {
 }
 
 void Document::keepUnits(const Units& units) const {
+  const std::string text = unitsText(units);
+  if (text == named_) return;
   const auto names = namesOf(model_);
-  const OUString content = toOffice('"' + unitsText(units) + '"');
+  const OUString content = toOffice('"' + text + '"');
   if (names->hasByName(unitsName)) {
     const Reference<css::sheet::XNamedRange> name(names->getByName(unitsName), UNO_QUERY_THROW);
     name->setContent(content);

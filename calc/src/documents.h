@@ -55,7 +55,7 @@ class Document {
   bool readUnits();
   /// Whether a place that had units has another text now.
   [[nodiscard]] bool seemsChanged() const;
-  /// Keeps units in the document's name, as a step that can be undone.
+  /// Keeps units in the document's name, as a step that can be undone; the same ones are none.
   void keepUnits(const Units& units) const;
 
  private:

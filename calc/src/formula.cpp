@@ -72,6 +72,11 @@ Any contentsOf(const Reference<css::table::XCellRange>& range) {
 }
 
 Any otherFunction(const std::string& name, std::span<const Any> arguments) {
+  if (name == "IFERROR" && arguments.size() == 2) {  // the office takes no errors from outside
+    return combine(arguments[0], arguments[1], [](const Any& value, const Any& other) {
+      return errorOf(value) == 0 ? value : other;
+    });
+  }
   const Reference<css::sheet::XFunctionAccess> access(
       context()->getServiceManager()->createInstanceWithContext("com.sun.star.sheet.FunctionAccess",
                                                                 context()),
@@ -144,7 +149,6 @@ std::string whyOf(const Reference<XCell>& cell, calvex_engine* engine, calvex_en
 
 void Recalculation::follow(const Reference<XCell>& cell) {
   if (depth_ >= deepest) return;
-  engine_ = recording_;  // only the record of the cell itself is wanted
   const Engine aside;
   calvex_take_settings(aside.handle(), recording_);
   note(nameOf(cell) + ": " + whyOf(cell, aside.handle(), aside.handle(), depth_ + 1));
@@ -195,9 +199,9 @@ Any Recalculation::function(const std::string& name, std::span<const Any> argume
   return value;
 }
 
-std::string text(const calvex_engine* engine, std::size_t node) {
+std::string text(calvex_engine* engine, std::size_t node) {
   return textOf([&](char* text, std::size_t size, std::size_t* needed) {
-    calvex_trace_text(const_cast<calvex_engine*>(engine), node, text, size, needed);
+    calvex_trace_text(engine, node, text, size, needed);
   });
 }
 

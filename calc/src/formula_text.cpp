@@ -97,26 +97,6 @@ constexpr Operator operators[] = {
      }},
 };
 
-// Element by element; a single one goes with all.
-Any combine(const Any& a, const Any& b, Any (*compute)(const Any&, const Any&)) {
-  std::size_t rows = 0, columns = 0;
-  for (const Any* side : {&a, &b}) {
-    const Place extent = extentOf(*side);
-    rows = std::max(rows, extent.row);
-    columns = std::max(columns, extent.column);
-  }
-  if (rows == 1 && columns == 1) return compute(elementOf(a, {}), elementOf(b, {}));
-  Cells cells(static_cast<sal_Int32>(rows));
-  for (std::size_t i = 0; i < rows; ++i) {
-    Sequence<Any> row(static_cast<sal_Int32>(columns));
-    for (std::size_t j = 0; j < columns; ++j) {
-      row.getArray()[j] = compute(elementOf(a, {i, j}), elementOf(b, {i, j}));
-    }
-    cells.getArray()[i] = row;
-  }
-  return Any(cells);
-}
-
 class Parser {
  public:
   Parser(std::string_view text, Meaning& meaning) : text_(text), meaning_(meaning) {}
@@ -267,6 +247,25 @@ class Parser {
 };
 
 }  // namespace
+
+Any combine(const Any& a, const Any& b, Any (*compute)(const Any&, const Any&)) {
+  std::size_t rows = 0, columns = 0;
+  for (const Any* side : {&a, &b}) {
+    const Place extent = extentOf(*side);
+    rows = std::max(rows, extent.row);
+    columns = std::max(columns, extent.column);
+  }
+  if (rows == 1 && columns == 1) return compute(elementOf(a, {}), elementOf(b, {}));
+  Cells cells(static_cast<sal_Int32>(rows));
+  for (std::size_t i = 0; i < rows; ++i) {
+    Sequence<Any> row(static_cast<sal_Int32>(columns));
+    for (std::size_t j = 0; j < columns; ++j) {
+      row.getArray()[j] = compute(elementOf(a, {i, j}), elementOf(b, {i, j}));
+    }
+    cells.getArray()[i] = row;
+  }
+  return Any(cells);
+}
 
 Any computeFormula(std::string_view formula, Meaning& meaning) {
   return Parser(formula, meaning).whole();

@@ -29,6 +29,9 @@ class Meaning {
   virtual Any function(const std::string& name, std::span<const Any> arguments) = 0;
 };
 
+/// Two values element by element; a single one goes with all.
+[[nodiscard]] Any combine(const Any& a, const Any& b, Any (*compute)(const Any&, const Any&));
+
 /// The value of a formula with its sign of equality, and with the braces of an array formula.
 /// Throws `NotFollowed`, and what `meaning` throws.
 [[nodiscard]] Any computeFormula(std::string_view formula, Meaning& meaning);

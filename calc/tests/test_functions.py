@@ -163,6 +163,13 @@ def test_the_record_of_a_cell_is_rows(sheet):
         (1.0, "error", "Temperature parameter out of range (Valid range 260.00 to 2500.00 K)."))
 
 
+def test_the_record_is_of_the_cell_alone(sheet):
+    sheet.put("A1", "=TPH(10;-1)")
+    sheet.put("A2", "=IFERROR(A1;500)+HPT(1;9999)")
+    texts = [row[2] for row in sheet.array("B1:D3", "=CALVEX.TRACE(A2)")]
+    assert texts[0] == "HPT" and "out of range" in texts[1] and texts[2] is None
+
+
 def test_whole_columns_are_understood(sheet):
     sheet["A1:B2"].DataArray = ((10.0, 773.15), (10.0, 800.0))
     assert sheet.put("C1", "=SUM(IFERROR(HPT(A:A;B:B);0))").getError() == 0

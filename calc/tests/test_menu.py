@@ -145,6 +145,11 @@ def test_the_page_of_units_sets_those_of_the_document(office, shown, extension):
         tell("back")
         assert (T.SelectedItem, P.SelectedItem) == ("K", "psia") and not P.isEnabled()
         assert window.getControl("cells").Text == "Set by cells of the document: P=psia"
+        tell("ok")
+        assert not shown.NamedRanges.hasByName("Calvex_Units")
+        T.selectItem("C", True)
+        tell("ok")
+        assert shown.NamedRanges.getByName("Calvex_Units").Content == '"T=C"'
     finally:
         window.dispose()
 
