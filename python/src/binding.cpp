@@ -139,8 +139,6 @@ Binding::Binding(PyObject* core, const NumericMember& member)
       variant_(variantOf(member.member())),
       name_(member.member().name),
       types_(member.inputs().size() + member.outputs().size(), NPY_DOUBLE),
-      loop_{&UfuncBody::loop},
-      data_{this},
       values_(member.member().parameters().size()) {}
 
 bool Binding::call(ZvThermoInt& engine, const double* inputs, double* outputs) {
@@ -258,9 +256,9 @@ Ref asDoubles(PyObject* argument) {
   Ref array(PyArray_FROM_O(argument));
   if (!array) return array;
   const int number = PyArray_TYPE(reinterpret_cast<PyArrayObject*>(array.get()));
-  if (!PyTypeNum_ISINTEGER(number) && !PyTypeNum_ISFLOAT(number) && !PyTypeNum_ISBOOL(number)) {
-    return array;
-  }
+  const bool plain =
+      PyTypeNum_ISINTEGER(number) || PyTypeNum_ISFLOAT(number) || PyTypeNum_ISBOOL(number);
+  if (!plain) return array;
   return Ref(PyArray_FROM_OTF(array.get(), NPY_DOUBLE, NPY_ARRAY_ALIGNED));
 }
 
@@ -483,10 +481,10 @@ Ref Binding::ufunc(PyObject* core, const NumericMember& member) {
   if (!object) return object;
   auto* const binding = new Binding(core, member);
   reinterpret_cast<BindingObject*>(object.get())->binding = binding;
-  Ref ufunc(PyUFunc_FromFuncAndData(binding->loop_, binding->data_, binding->types_.data(), 1,
-                                    static_cast<int>(member.inputs().size()),
-                                    static_cast<int>(member.outputs().size()), PyUFunc_None,
-                                    binding->name_.c_str(), "", 0));
+  static PyUFuncGenericFunction loops[] = {&UfuncBody::loop};
+  Ref ufunc(PyUFunc_FromFuncAndData(
+      loops, binding->data_, binding->types_.data(), 1, static_cast<int>(member.inputs().size()),
+      static_cast<int>(member.outputs().size()), PyUFunc_None, binding->name_.c_str(), "", 0));
   if (!ufunc) return ufunc;
   auto* const made = reinterpret_cast<PyUFuncObject*>(ufunc.get());
   made->obj = object.release();

@@ -49,8 +49,7 @@ class Binding {
   const spreadsheet::Variant* variant_;
   std::string name_;
   std::vector<char> types_;
-  PyUFuncGenericFunction loop_[1];
-  void* data_[1];
+  void* data_[1] = {this};
   std::vector<Value> values_;  ///< the arguments of `call`
   Ref resultType_;
   unsigned resultGeneration_ = 0;

@@ -85,6 +85,7 @@ void Failures::add(const char* element, std::string_view reason, std::string_vie
 // The most frequent first, then as the array has them.
 std::vector<const Failures::Kind*> Failures::kinds() const {
   std::vector<const Kind*> all;
+  all.reserve(kinds_.size());
   for (const auto& entry : kinds_) all.push_back(&entry.second);
   std::ranges::sort(all, [](const Kind* a, const Kind* b) {
     return a->count != b->count ? a->count > b->count : a->first < b->first;

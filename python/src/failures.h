@@ -17,7 +17,7 @@ namespace calvex::python {
 class Failures {
  public:
   /// The failures of this thread go to it until its end; one inside another has its own.
-  explicit Failures(Errors errors) : errors_(errors), outer_(current_) { current_ = this; }
+  explicit Failures(Errors errors) : errors_(errors) { current_ = this; }
   ~Failures() { current_ = outer_; }
   Failures(const Failures&) = delete;
   Failures& operator=(const Failures&) = delete;
@@ -53,7 +53,7 @@ class Failures {
 
   static thread_local Failures* current_;
   Errors errors_;
-  Failures* outer_;
+  Failures* outer_ = current_;
   std::mutex mutex_;
   std::unordered_map<std::string, Kind> kinds_;
   std::unordered_map<std::string, std::uint32_t> numbers_;

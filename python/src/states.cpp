@@ -206,6 +206,7 @@ PyObject* states(PyObject* /*module*/, PyObject* arguments) {
     return PyArray_DATA(reinterpret_cast<PyArrayObject*>(array.get()));
   };
   std::vector<direct::Result> results;
+  results.reserve(which.size());
   for (std::size_t i = 0; i < which.size(); ++i) {
     results.push_back(
         {which[i], {static_cast<double*>(data(values)) + i * static_cast<std::size_t>(n)}});
