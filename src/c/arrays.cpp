@@ -207,6 +207,7 @@ int evaluate(calvex_engine& engine, const calvex_rows& asked) {
   requireList("inputs", asked.inputs, asked.input_count, asked.input_count);
   requireList("outputs", asked.outputs, asked.output_count, 4 * member->outputs().size());
   std::vector<direct::Column> inputs;
+  inputs.reserve(asked.input_count);
   for (std::size_t i = 0; i < asked.input_count; ++i) {
     inputs.push_back(columnOf({"inputs", i}, asked.inputs[i], n));
   }

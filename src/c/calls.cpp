@@ -150,7 +150,7 @@ int call(calvex_engine& engine, const Member& member, Inputs inputs, double* out
          std::size_t outputCount) {
   const std::span<const Parameter> parameters = member.parameters();
   require(member, numbersIn, inputs.numbers.size(), inputs.numbers.data());
-  require(member, textsIn, inputs.textCount, inputs.texts);
+  require(member, textsIn, inputs.textCount, static_cast<const void*>(inputs.texts));
   require(member, numbersOut, outputCount, outputs);
 
   engine.answer.clear();
