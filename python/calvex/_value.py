@@ -92,10 +92,10 @@ class Value:
 
     # As text ------------------------------------------------------------------------------------
 
-    def __format__(self, spec):
-        number = (format(self.value, spec) if np.ndim(self.value) == 0 or not spec else
+    def __format__(self, form):
+        number = (format(self.value, form) if np.ndim(self.value) == 0 or not form else
                   np.array2string(np.asarray(self.value),
-                                  formatter={"all": lambda x: format(x, spec)}))
+                                  formatter={"all": lambda x: format(x, form)}))
         return f"{number} {self.unit}".rstrip()
 
     def __str__(self):
