@@ -12,10 +12,14 @@ int main(int count, char** arguments) {
     std::cout << calvex::stringResources();
   } else if (what == "worksheet") {
     std::cout << calvex::worksheetFunctions();
-  } else if (what == "wrapper") {
+  } else if (what == "results") {
+    std::cout << calvex::wrapperResults();
+  } else if (what == "members") {
     std::cout << calvex::wrapperMembers();
+  } else if (what == "visits") {
+    std::cout << calvex::wrapperVisits();
   } else {
-    std::cerr << "usage: generate interface|strings|worksheet|wrapper\n";
+    std::cerr << "usage: generate interface|strings|worksheet|results|members|visits\n";
     return 2;
   }
 }

@@ -1,7 +1,7 @@
 /// \file
 /// Texts for other compilers, made from the tables: the interface definition and the string
 /// resources of the Windows module, kept in server/windows, the worksheet functions, kept in
-/// packaging/windows, and the members of the C++ wrapper, kept in include/calvex.
+/// packaging/windows, and three headers of the C++ wrapper, kept in include/calvex.
 /// scripts/update-generated makes them anew.
 #pragma once
 
@@ -26,7 +26,10 @@ inline constexpr std::string_view generatedNotice =
 /// Visual Basic: the end of the macro module, whose beginning is written by hand.
 [[nodiscard]] std::string worksheetFunctions();
 
-/// The members of the C++ wrapper over the C interface, with their real signatures.
+/// The headers of the C++ wrapper over the C interface: what members with several results answer,
+/// the engine with every member and its real signature, and a visit to all of them.
+[[nodiscard]] std::string wrapperResults();
 [[nodiscard]] std::string wrapperMembers();
+[[nodiscard]] std::string wrapperVisits();
 
 }  // namespace calvex

@@ -108,40 +108,57 @@ std::string change(const Member& member) {
                      isText ? "std::string_view" : cppType(value), member.dispatchId);
 }
 
+std::string header(std::string_view include, std::string_view declarations) {
+  return fmt::format(R"(// {}
+// clang-format off
+#pragma once
+{}
+namespace calvex {{
+
+{}
+}}  // namespace calvex
+)",
+                     generatedNotice, include, declarations);
+}
+
 }  // namespace
 
+std::string wrapperResults() {
+  std::string structures;
+  for (const Member& member : memberTable()) structures += structure(member);
+  return header("", structures);
+}
+
 std::string wrapperMembers() {
-  std::string structures, functions, visits;
+  std::string functions;
+  for (const Member& member : memberTable()) functions += definition(member) + change(member);
+  return header("\n// Included by calvex.hpp.\n#include \"calvex/results.hpp\"\n",
+                fmt::format(R"(/// An engine with every member. Values are in the engine's units.
+class Engine : public Core {{
+ public:
+{}}};
+)",
+                            functions));
+}
+
+std::string wrapperVisits() {
+  std::string visits;
   for (const Member& member : memberTable()) {
-    structures += structure(member);
-    functions += definition(member) + change(member);
     visits += fmt::format("  visit(\"{0}\", &Engine::{0});\n", member.name);
     if (member.put != nullptr) {
       visits += fmt::format("  visit(\"{0}\", &Engine::Set{0});\n", member.name);
     }
   }
-  return fmt::format(R"(// {}
-// Included by calvex.hpp.
-// clang-format off
-#pragma once
-
-namespace calvex {{
-
-{}
-/// An engine with every member. Values are in the engine's units.
-class Engine : public Core {{
- public:
-{}}};
-
-/// Calls visit(name, function) with every member, of a setting with the one that reads it and the
+  return header(
+      "\n#include \"calvex/calvex.hpp\"\n",
+      fmt::format(
+          R"(/// Calls visit(name, function) with every member, of a setting with the one that reads it and the
 /// one that changes it.
 template <class Visit>
 void forEachMember(Visit&& visit) {{
 {}}}
-
-}}  // namespace calvex
 )",
-                     generatedNotice, structures, functions, visits);
+          visits));
 }
 
 }  // namespace calvex

@@ -17,7 +17,7 @@
 #include <tuple>
 #include <vector>
 
-#include "calvex/calvex.hpp"
+#include "calvex/each_member.hpp"
 #include "server/client.h"
 #include "server/direct_members.h"
 #include "server/member_columns.h"

@@ -30,7 +30,10 @@ TEST(GeneratedTexts, TheKeptStringTableIsCurrent) {
       << "run scripts/update-generated";
 }
 
-TEST(GeneratedTexts, TheKeptMembersOfTheWrapperAreCurrent) {
+TEST(GeneratedTexts, TheKeptHeadersOfTheWrapperAreCurrent) {
+  EXPECT_EQ(kept("include/calvex/results.hpp"), wrapperResults()) << "run scripts/update-generated";
+  EXPECT_EQ(kept("include/calvex/each_member.hpp"), wrapperVisits())
+      << "run scripts/update-generated";
   EXPECT_EQ(kept("include/calvex/members.hpp"), wrapperMembers()) << "run scripts/update-generated";
 }
 
