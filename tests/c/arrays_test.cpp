@@ -8,9 +8,13 @@
 #include <string>
 #include <vector>
 
+#include "c/requests.h"
 #include "calvex/calvex.h"
 
 namespace {
+
+using calvex::test::requestOf;
+using calvex::test::rowsOf;
 
 struct Destroy {
   void operator()(calvex_engine* engine) const { calvex_destroy(engine); }
@@ -45,15 +49,9 @@ TEST_F(CArrays, TheDirectRoadTakesStridesConstantsAndEitherOrder) {
   const calvex_result results[] = {{'H', {h + 8, -4}, {nullptr, 0}, {nullptr, 0}},
                                    {'R', {density, 1}, {nullptr, 0}, {slope, 1}}};
   for (const bool swapped : {false, true}) {
-    calvex_request request{};
-    request.first_letter = swapped ? 'T' : 'P';
-    request.second_letter = swapped ? 'P' : 'T';
-    request.count = 3;
-    request.first = swapped ? calvex_column{&T, 0} : calvex_column{P, 2};
-    request.second = swapped ? calvex_column{P, 2} : calvex_column{&T, 0};
-    request.results = results;
-    request.result_count = 2;
-    request.status = {status, 2};
+    calvex_request request =
+        requestOf(swapped ? "TP" : "PT", 3, swapped ? calvex_column{&T, 0} : calvex_column{P, 2},
+                  swapped ? calvex_column{P, 2} : calvex_column{&T, 0}, results, {status, 2});
     request.phase = {phase, 1};
     ASSERT_EQ(calvex_direct(engine(), &request, sizeof request), CALVEX_OK);
     for (std::size_t i = 0; i < 3; ++i) {
@@ -77,15 +75,7 @@ TEST_F(CArrays, AFailedPointIsNaNAndTellsWhyAndItsNeighboursStay) {
   double h[] = {0.0, 0.0, 0.0};
   short status[3], phase[3];
   const calvex_result result{'H', {h, 1}, {nullptr, 0}, {nullptr, 0}};
-  calvex_request request{};
-  request.first_letter = 'P';
-  request.second_letter = 'T';
-  request.count = 3;
-  request.first = {P, 1};
-  request.second = {T, 1};
-  request.results = &result;
-  request.result_count = 1;
-  request.status = {status, 1};
+  calvex_request request = requestOf("PT", 3, {P, 1}, {T, 1}, {&result, 1}, {status, 1});
   request.phase = {phase, 1};
   ASSERT_EQ(calvex_direct(engine(), &request, sizeof request), CALVEX_OK);
   EXPECT_EQ(status[0], 0);
@@ -143,15 +133,8 @@ TEST_F(CArrays, AFailedPointTellsTheMembersReasonAndCause) {
     double values[3];
     short status[3];
     const calvex_result wanted{name[0], {values, 1}, {nullptr, 0}, {nullptr, 0}};
-    calvex_request request{};
-    request.first_letter = pair[0];
-    request.second_letter = pair[1];
-    request.count = 3;
-    request.first = {firsts, 1};
-    request.second = {seconds, 1};
-    request.results = &wanted;
-    request.result_count = 1;
-    request.status = {status, 1};
+    calvex_request request =
+        requestOf(pair, 3, {firsts, 1}, {seconds, 1}, {&wanted, 1}, {status, 1});
     if (pair != "PT") {
       ASSERT_EQ(calvex_direct(engine(), &request, sizeof request), CALVEX_OK);
       EXPECT_EQ(status[0], 0) << name;
@@ -202,15 +185,7 @@ TEST_F(CArrays, TheDirectRoadHasTheEnginesUnitsAlsoBesideTheCatalogue) {
     double h = 0.0;
     short status = -1;
     const calvex_result result{'H', {&h, 1}, {nullptr, 0}, {nullptr, 0}};
-    calvex_request request{};
-    request.first_letter = 'P';
-    request.second_letter = 'T';
-    request.count = 1;
-    request.first = {&P, 1};
-    request.second = {&T, 1};
-    request.results = &result;
-    request.result_count = 1;
-    request.status = {&status, 1};
+    calvex_request request = requestOf("PT", 1, {&P, 1}, {&T, 1}, {&result, 1}, {&status, 1});
     ASSERT_EQ(calvex_direct(engine(), &request, sizeof request), CALVEX_OK);
     EXPECT_EQ(status, 0);
     EXPECT_NEAR(h / call("HPT", P, T), 1.0, 1e-10) << pressure;
@@ -233,14 +208,7 @@ TEST_F(CArrays, MembersRunOverColumns) {
     std::vector<std::size_t> rows;
     std::string text;
   } told;
-  calvex_rows rows{};
-  rows.member = member;
-  rows.count = 3;
-  rows.inputs = inputs;
-  rows.input_count = 5;
-  rows.outputs = outputs;
-  rows.output_count = 1;
-  rows.status = {status, 1};
+  calvex_rows rows = rowsOf(member, 3, inputs, outputs, {status, 1});
   rows.threads = 1;
   rows.context = &told;
   rows.reason = [](void* context, std::size_t row, const char* text, std::size_t size) {
@@ -272,14 +240,7 @@ TEST_F(CArrays, AnyNumberOfThreadsAnswersTheSame) {
   for (const unsigned threads : {1U, 7U}) {
     const calvex_result result{
         'S', {threads == 1 ? one.data() : many.data(), 1}, {nullptr, 0}, {nullptr, 0}};
-    calvex_request request{};
-    request.first_letter = 'P';
-    request.second_letter = 'T';
-    request.count = n;
-    request.first = {P.data(), 1};
-    request.second = {T.data(), 1};
-    request.results = &result;
-    request.result_count = 1;
+    calvex_request request = requestOf("PT", n, {P.data(), 1}, {T.data(), 1}, {&result, 1});
     request.threads = threads;
     ASSERT_EQ(calvex_direct(engine(), &request, sizeof request), CALVEX_OK);
   }

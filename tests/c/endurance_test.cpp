@@ -7,9 +7,13 @@
 #include <cstdio>
 #include <string>
 
+#include "c/requests.h"
 #include "calvex/calvex.h"
 
 namespace {
+
+using calvex::test::requestOf;
+using calvex::test::rowsOf;
 
 // Bytes of the process that are in memory, by the kernel's account; 0 where it is not known.
 long residentBytes() {
@@ -86,15 +90,8 @@ class Program {
     double value = 0.0;
     short status = -1;
     const calvex_result result{'S', {&value, 1}, {nullptr, 0}, {nullptr, 0}};
-    calvex_request request{};
-    request.first_letter = 'P';
-    request.second_letter = 'T';
-    request.count = 1;
-    request.first = {given, 1};
-    request.second = {given + 1, 1};
-    request.results = &result;
-    request.result_count = 1;
-    request.status = {&status, 1};
+    const calvex_request request =
+        requestOf("PT", 1, {given, 1}, {given + 1, 1}, {&result, 1}, {&status, 1});
     return calvex_direct(engine_, &request, sizeof request) == CALVEX_OK && status == 0;
   }
   bool columns(const double* given) {
@@ -103,14 +100,7 @@ class Program {
     short status[2];
     const calvex_column inputs[] = {{given, 0}, {T, 1}};
     const calvex_output output{0, {values, 1}};
-    calvex_rows rows{};
-    rows.member = HPT_;
-    rows.count = 2;
-    rows.inputs = inputs;
-    rows.input_count = 2;
-    rows.outputs = &output;
-    rows.output_count = 1;
-    rows.status = {status, 1};
+    const calvex_rows rows = rowsOf(HPT_, 2, inputs, {&output, 1}, {status, 1});
     return calvex_columns(engine_, &rows, sizeof rows) == CALVEX_OK && status[0] == 0 &&
            status[1] == 108;
   }

@@ -17,6 +17,7 @@
 #include <tuple>
 #include <vector>
 
+#include "c/requests.h"
 #include "calvex/each_member.hpp"
 #include "server/client.h"
 #include "server/direct_members.h"
@@ -27,6 +28,9 @@
 
 namespace calvex {
 namespace {
+
+using calvex::test::requestOf;
+using calvex::test::rowsOf;
 
 constexpr int callCount = 2000;
 
@@ -346,15 +350,8 @@ TEST(Faces, TheDirectRoadAnswersTheMembersTo1em10) {
     double value = -1.0, wrapped = -1.0;
     short status = -1, wrappedStatus = -1;
     const calvex_result wanted{name[0], {&value, 1}, {nullptr, 0}, {nullptr, 0}};
-    calvex_request request{};
-    request.first_letter = pair[0];
-    request.second_letter = pair[1];
-    request.count = 1;
-    request.first = {&first, 0};
-    request.second = {&second, 0};
-    request.results = &wanted;
-    request.result_count = 1;
-    request.status = {&status, 1};
+    const calvex_request request =
+        requestOf(pair, 1, {&first, 0}, {&second, 0}, {&wanted, 1}, {&status, 1});
     ASSERT_EQ(calvex_direct(engine.handle(), &request, sizeof request), CALVEX_OK);
     const StateResult results[] = {{name[0], {&wrapped, 1}}};
     engine.states(pair, {&first, 1}, {&second, 1}, results, {&wrappedStatus, 1});
@@ -387,14 +384,7 @@ TEST(Faces, ColumnsAnswerTheMembersTo1em10) {
     std::vector<calvex_output> outputs;
     for (std::size_t i = 0; i < values.size(); ++i) outputs.push_back({i, {&values[i], 1}});
     short status = -1;
-    calvex_rows rows{};
-    rows.member = asked.member->dispatchId;
-    rows.count = 1;
-    rows.inputs = inputs.data();
-    rows.input_count = inputs.size();
-    rows.outputs = outputs.data();
-    rows.output_count = outputs.size();
-    rows.status = {&status, 1};
+    const calvex_rows rows = rowsOf(asked.member->dispatchId, 1, inputs, outputs, {&status, 1});
     ASSERT_EQ(calvex_columns(engine.handle(), &rows, sizeof rows), CALVEX_OK);
     EXPECT_EQ(status != 0, one.failed) << asked.member->name;
     for (std::size_t i = 0; i < one.numbers.size(); ++i) {

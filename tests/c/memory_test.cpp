@@ -6,9 +6,13 @@
 #include <new>
 #include <string>
 
+#include "c/requests.h"
 #include "calvex/calvex.h"
 
 namespace {
+
+using calvex::test::requestOf;
+using calvex::test::rowsOf;
 
 thread_local long left = -1;  // allocations until the memory ends; negative: never
 thread_local bool refused = false;
@@ -104,14 +108,7 @@ const Use uses[] = {
        short status[2];
        const calvex_column inputs[] = {{&P, 0}, {T, 1}};
        const calvex_output output{0, {h, 1}};
-       calvex_rows rows{};
-       rows.member = 0x33;
-       rows.count = 2;
-       rows.inputs = inputs;
-       rows.input_count = 2;
-       rows.outputs = &output;
-       rows.output_count = 1;
-       rows.status = {status, 1};
+       const calvex_rows rows = rowsOf(0x33, 2, inputs, {&output, 1}, {status, 1});
        return calvex_columns(e, &rows, sizeof rows);
      }},
     {"columns",
@@ -120,13 +117,7 @@ const Use uses[] = {
        double h[3];
        const calvex_column inputs[] = {{&P, 0}, {&T, 0}};
        const calvex_output output{0, {h, 1}};
-       calvex_rows rows{};
-       rows.member = 0x33;
-       rows.count = 3;
-       rows.inputs = inputs;
-       rows.input_count = 2;
-       rows.outputs = &output;
-       rows.output_count = 1;
+       const calvex_rows rows = rowsOf(0x33, 3, inputs, {&output, 1});
        return calvex_columns(e, &rows, sizeof rows);
      }},
     {"the direct road",
@@ -134,14 +125,7 @@ const Use uses[] = {
        const double h = 3000.0, s = 6.5;
        double T;
        const calvex_result result{'T', {&T, 1}, {nullptr, 0}, {nullptr, 0}};
-       calvex_request request{};
-       request.first_letter = 'H';
-       request.second_letter = 'S';
-       request.count = 1;
-       request.first = {&h, 1};
-       request.second = {&s, 1};
-       request.results = &result;
-       request.result_count = 1;
+       const calvex_request request = requestOf("HS", 1, {&h, 1}, {&s, 1}, {&result, 1});
        return calvex_direct(e, &request, sizeof request);
      }},
 };
