@@ -128,28 +128,48 @@ def test_the_page_of_units_sets_those_of_the_document(office, shown, extension):
     try:
         def tell(event):
             assert page.callHandlerMethod(window, event, "external_event")
+
+        quantities, units = window.getControl("quantities"), window.getControl("units")
+
+        def choose(group, unit):
+            quantities.selectItemPos(group, True)
+            units.selectItem(unit, True)
+
+        def chosen():
+            return quantities.Items[:2]
+
+        # LibreOffice leaves a page this room.
+        assert window.PosSize.Width <= 560 and window.PosSize.Height <= 380
         tell("initialize")
-        T, P = window.getControl("unit0"), window.getControl("unit1")
-        assert (T.SelectedItem, P.SelectedItem) == ("K", "MPa")
-        T.selectItem("C", True)
-        P.selectItem("bara", True)
+        assert chosen() == ("Temperature: K", "Pressure: MPa") and units.SelectedItem == "K"
+        choose(0, "C")
+        choose(1, "bara")
+        assert chosen() == ("Temperature: C", "Pressure: bara") and units.SelectedItem == "bara"
+        assert sheet["A1"].Value == model
         tell("ok")
         steam = answers("HPT", ["100bara", "500C"])[0]
         assert until(lambda: sheet["A1"].Value == pytest.approx(steam, rel=1e-12))
+        choose(0, "F")
         tell("back")
-        assert (T.SelectedItem, P.SelectedItem) == ("C", "bara")
+        assert chosen() == ("Temperature: C", "Pressure: bara")
         shown.UndoManager.undo()
         assert until(lambda: sheet["A1"].Value == model)
         sheet.put("B1", '=CALVEX.UNITS("P";"psia")')
         assert until(lambda: sheet["B1"].String and sheet["A1"].Value != model)
         tell("back")
-        assert (T.SelectedItem, P.SelectedItem) == ("K", "psia") and not P.isEnabled()
+        assert chosen() == ("Temperature: K", "Pressure: psia") and units.isEnabled()
+        quantities.selectItemPos(1, True)
+        assert units.SelectedItem == "psia" and not units.isEnabled()
         assert window.getControl("cells").Text == "Set by cells of the document: P=psia"
         tell("ok")
         assert not shown.NamedRanges.hasByName("Calvex_Units")
-        T.selectItem("C", True)
+        choose(0, "C")
+        assert units.isEnabled()
         tell("ok")
         assert shown.NamedRanges.getByName("Calvex_Units").Content == '"T=C"'
+        choose(0, "K")
+        tell("ok")
+        assert shown.NamedRanges.getByName("Calvex_Units").Content == '""'
     finally:
         window.dispose()
 
