@@ -144,12 +144,15 @@ constexpr int isobarCount = std::size(isobars);
 // Rows of entropy, enthalpies along the isobars and along the saturation line; answers how many.
 sal_Int32 writeMollier(const Corner& corner) {
   corner.putHeading(0, 0, "entropy");
+  corner.put(0, 1, "=CALVEX.UNIT(\"S\")");
   for (int i = 0; i < isobarCount; ++i) {
     corner.putHeading(i + 1, 0, inUnits("P", "MPa", isobars[i]));
+    // What the legend shows.
+    corner.put(i + 1, 1, "=ROUND(" + corner.name(i + 1, 0) + ";4)&\" \"&CALVEX.UNIT(\"P\")");
   }
-  corner.putHeading(isobarCount + 1, 0, "saturation");
+  corner.putHeading(isobarCount + 1, 1, "saturation");
   const std::string hottest = inUnits("T", "C", "800").substr(1);
-  sal_Int32 down = 1;
+  sal_Int32 down = 2;
   constexpr int first = 50, last = 950, step = 25;  // hundredths of kJ/(kg.K)
   for (int s = first; s <= last; s += step, ++down) {
     corner.put(0, down, inUnits("S", "kJ/(kg.K)", std::to_string(s) + "/100"));
@@ -190,9 +193,9 @@ void insertMollierChart(const Document& document) {
 
   const auto charts =
       Reference<css::table::XTableChartsSupplier>(sheet, UNO_QUERY_THROW)->getCharts();
-  const auto data =
+  const auto data =  // with the row of the legend
       Reference<css::sheet::XCellRangeAddressable>(
-          sheet->getCellRangeByPosition(0, 0, isobarCount + 1, rows - 1), UNO_QUERY_THROW)
+          sheet->getCellRangeByPosition(0, 1, isobarCount + 1, rows - 1), UNO_QUERY_THROW)
           ->getRangeAddress();
   const css::awt::Rectangle place(22000, 500, 20000, 15000);  // hundredths of a millimetre
   charts->addNewByName("Mollier", place, {&data, 1}, true, true);

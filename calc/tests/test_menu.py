@@ -65,12 +65,15 @@ def test_a_mollier_chart_is_a_chart_of_the_document(office, shown):
     sheet = Sheet(shown.Sheets[1])
     chart = shown.Sheets[1].Charts.getByIndex(0).EmbeddedObject
     assert chart.Diagram.DiagramType == "com.sun.star.chart.XYDiagram"
-    assert sheet["A14"].Value == pytest.approx(3.5)
+    assert sheet["B2"].String == "0.01 MPa" and sheet["A2"].String == "kJ/(kg.K)"
+    assert sheet["A15"].Value == pytest.approx(3.5)
     # Two phases at 0.01 MPa: an isobar is a straight line there, of the slope T.
-    slope = (sheet["B15"].Value - sheet["B14"].Value) / 0.25
+    slope = (sheet["B16"].Value - sheet["B15"].Value) / 0.25
     assert slope == pytest.approx(answers("TSatP", ["0.01"])[0], rel=1e-6)
     series = chart.FirstDiagram.CoordinateSystems[0].ChartTypes[0].DataSeries
     assert len(series) == 8
+    names = [one.DataSequences[0].Label.getTextualData() for one in series]
+    assert names[0] == ("0.01 MPa",) and names[7] == ("saturation",)
 
 
 def test_the_dialog_keeps_units_in_the_document(office, shown):
