@@ -76,7 +76,7 @@ void fillUnits(const Reference<XControlContainer>& window, const Document& docum
   setText(window, "cells", setByCells(document));
 }
 
-void keepChosenUnits(const Reference<XControlContainer>& window, const Document& document) {
+void keepChosenUnits(const Reference<XControlContainer>& window, Document& document) {
   Units units;
   for (int group = 0; group < groupCount(); ++group) {
     const auto list = listOf(window, group);

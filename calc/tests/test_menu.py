@@ -102,15 +102,16 @@ def test_a_template_calculates_on_opening(name, office, extension, folder):
             inlet = answers("HPT", ["100bara", "500C"])[0]
             power, T, h, x = answers("TurbineA", [str(inlet), "10", "0.005", "0.85", "20"])
             assert sheet["B15"].Value == pytest.approx(power, rel=1e-9)
-            assert sheet["F32"].Value == pytest.approx(power, rel=1e-9)
-            assert sheet["A32"].Value == pytest.approx(0.05)
+            assert sheet["F33"].Value == pytest.approx(power, rel=1e-9)
+            assert sheet["A33"].Value == pytest.approx(0.05)
         elif name == "boiler-house":
             # What comes in goes out: feed water = steam + blowdown; water + steam = feed + vent.
-            value = {row: sheet[f"B{row}"].Value for row in range(1, 33)}
-            assert value[28] == pytest.approx(value[8] + value[29])
-            assert value[18] + value[19] == pytest.approx(value[28] * (1 + value[15]))
-            assert value[31] == pytest.approx(value[30] / value[27])
+            value = {row: sheet[f"B{row}"].Value for row in range(1, 34)}
+            assert value[30] == pytest.approx(value[8] + value[31])
+            assert value[19] + value[20] == pytest.approx(value[30] * (1 + value[16]))
+            assert value[33] == pytest.approx(value[32] / value[29])
         else:
+            assert sheet["C8"].String == "0.00100031"
             assert sheet["B17"].Value == pytest.approx(1.01322, rel=1e-5)  # 100 °C, IAPS 1984
             assert sheet["B48"].Value == answers("HPT", ["1bara", "320C"])[0]
     finally:
@@ -184,3 +185,63 @@ def test_the_menu_and_the_help_are_in_the_extension(functions, extension):
         assert f"calvex.calc.Commands?{command}<" in menu
     page = archive.read("help/index.html").decode()
     assert [name for name in functions if f"<h3>{name}(" not in page] == []
+
+
+def in_other_units(sheet, units, cells):
+    """The cells in other units, their inputs converted."""
+    sheet["A3"].Formula = f"=CALVEX.UNITS({units})"
+    for name, quantity, old, new in cells:
+        value = sheet[name].Value
+        sheet[name].Value = float(answers("Convert", [quantity, old, new, repr(value)])[0])
+
+
+def test_templates_hold_in_other_units(office, extension, folder):
+    def opened(name):
+        return office.open(zipfile.ZipFile(extension).extract(f"templates/Calvex/{name}.ots", folder))
+
+    document = opened("turbine-expansion")
+    try:
+        sheet = Sheet(document.Sheets[0])
+        in_other_units(sheet, '"P";"MPa";"flow";"kg/h";"H";"kcal/kg";"power";"MW"',
+                       [("B6", "P", "bara", "MPa"), ("B7", "T", "C", "K"),
+                        ("B8", "flow", "kg/s", "kg/h"), ("B13", "P", "bara", "MPa")])
+        assert until(lambda: sheet["A3"].String and sheet["C15"].String == "MW")
+        assert sheet["B15"].Value == pytest.approx(23.172, rel=1e-4)
+        assert sheet["F33"].Value == pytest.approx(sheet["B15"].Value, rel=1e-9)
+    finally:
+        document.close(True)
+    document = opened("steam-tables")
+    try:
+        sheet = Sheet(document.Sheets[0])
+        enthalpy = sheet["F17"].Value  # of vapour at 100 °C
+        assert enthalpy == pytest.approx(2675.7, rel=1e-4)
+        in_other_units(sheet, '"T";"C";"P";"bara";"Q";"%"', [])
+        assert until(lambda: sheet["A3"].String.endswith("%"))
+        assert sheet["F17"].Value == pytest.approx(enthalpy, rel=1e-12)
+    finally:
+        document.close(True)
+
+
+def test_tables_are_right_with_qualities_in_per_cent(office, shown):
+    sheet = Sheet(shown.Sheets[0])
+    sheet.put("A1", '=CALVEX.UNITS("Q";"%")')
+    trigger(office, shown, "saturation", "B2")
+    assert until(lambda: sheet["A1"].String == "Q=%")
+    assert sheet["G4"].Value == pytest.approx(answers("HSatTQ", ["283.15", "1"])[0], rel=1e-12)
+
+
+@pytest.mark.parametrize("command", ["saturation", "state"])
+def test_a_table_is_written_only_where_there_is_room(command, office, shown):
+    def run(cell):
+        trigger(office, shown, command, cell)
+        return Sheet(shown.Sheets[0])[cell].String
+
+    sheet = Sheet(shown.Sheets[0])
+    sheet["C9"].String = "mine"
+    assert run("A1") == run("A1048570") == run("XFD1") == ""
+    assert sheet["C9"].String == "mine"
+    sheet["C9"].String = ""
+    shown.Sheets[0].protect("")
+    assert run("A1") == ""
+    shown.Sheets[0].unprotect("")
+    assert run("A1")
