@@ -98,7 +98,7 @@ constexpr ErrorFunction errorFunctions[] = {
 };
 
 const ErrorFunction* errorFunction(std::string_view name) {
-  const auto found = std::ranges::find(errorFunctions, name, &ErrorFunction::name);
+  const auto* const found = std::ranges::find(errorFunctions, name, &ErrorFunction::name);
   return found == std::end(errorFunctions) ? nullptr : found;
 }
 

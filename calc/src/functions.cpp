@@ -69,7 +69,7 @@ std::string noticesOf(const Units& units) {
         [&, number = group, &name = unit](char* text, std::size_t size, std::size_t* needed) {
           calvex_unit_notice(number, name.data(), name.size(), text, size, needed);
         });
-    if (!notice.empty()) notices += " (" + unit + ": " + notice + ")";
+    if (!notice.empty()) notices.append(" (").append(unit).append(": ").append(notice) += ')';
   }
   return notices;
 }

@@ -202,7 +202,7 @@ sal_Int32 writeMollier(const Corner& corner) {
   for (int i = 0; i < isobarCount; ++i) {
     corner.putHeading(i + 1, 0, inUnits("P", "MPa", isobars[i]));
     // What the legend shows.
-    corner.put(i + 1, 1, "=ROUND(" + corner.name(i + 1, 0) + ";4)&\" \"&CALVEX.UNIT(\"P\")");
+    corner.put(i + 1, 1, "=ROUND(" + corner.name(i + 1, 0) + R"(;4)&" "&CALVEX.UNIT("P"))");
   }
   corner.putHeading(isobarCount + 1, 1, "saturation");
   const std::string hottest = inUnits("T", "C", "800").substr(1);
