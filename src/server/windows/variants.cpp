@@ -7,12 +7,11 @@
 #include <new>
 
 #include "server/windows/boundary.h"
+#include "units/utf16.h"
 
 namespace calvex::com {
 
 namespace {
-
-constexpr UINT windows1252 = 1252;
 
 /// A variant that frees what it holds.
 struct Variant : VARIANT {
@@ -147,7 +146,7 @@ HRESULT giveObject(IDispatch& object, Variant& content) {
 
 }  // namespace
 
-// Nearly all texts are ASCII, which needs no table of the system's.
+// Nearly all texts are ASCII, and these two lie in the path of every call that has one.
 std::string toText(BSTR text) {
   const std::wstring_view wide(text, SysStringLen(text));
   std::string bytes(wide.size(), '\0');
@@ -156,24 +155,17 @@ std::string toText(BSTR text) {
                    [](wchar_t c) { return static_cast<char>(c); });
     return bytes;
   }
-  const int length = static_cast<int>(wide.size());
-  // At most a byte a character; no look-alikes, which could turn one unit's name into another.
-  const int written = WideCharToMultiByte(windows1252, WC_NO_BEST_FIT_CHARS, text, length,
-                                          bytes.data(), length, "?", nullptr);
-  bytes.resize(static_cast<std::size_t>(written));
-  return bytes;
+  return utf8Of(wide);
 }
 
 BSTR toBstr(std::string_view text) {
-  const int length = static_cast<int>(text.size());
-  const BSTR wide = SysAllocStringLen(nullptr, static_cast<UINT>(length));
-  if (wide == nullptr) throw std::bad_alloc();
   const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-  if (std::all_of(text.begin(), text.end(), isAscii)) {
-    std::copy(text.begin(), text.end(), wide);
-  } else {
-    MultiByteToWideChar(windows1252, 0, text.data(), length, wide, length);
-  }
+  const bool ascii = std::all_of(text.begin(), text.end(), isAscii);
+  const std::wstring other = ascii ? std::wstring() : utf16Of<wchar_t>(text);
+  const std::size_t size = ascii ? text.size() : other.size();
+  const BSTR wide = SysAllocStringLen(ascii ? nullptr : other.data(), static_cast<UINT>(size));
+  if (wide == nullptr) throw std::bad_alloc();
+  if (ascii) std::copy(text.begin(), text.end(), wide);
   return wide;
 }
 
