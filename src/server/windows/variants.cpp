@@ -2,7 +2,7 @@
 
 #include <dispex.h>
 
-#include <algorithm>
+#include <array>
 #include <memory>
 #include <new>
 
@@ -12,6 +12,20 @@
 namespace calvex::com {
 
 namespace {
+
+/// Answers what `use` makes of the text in UTF-16. Short ones, nearly all, need no memory for it.
+template <class Use>
+auto withUtf16(std::string_view text, Use&& use) {
+  std::array<wchar_t, 64> units;
+  bool ascii = text.size() <= units.size();
+  for (std::size_t i = 0; ascii && i < text.size(); ++i) {
+    units[i] = static_cast<unsigned char>(text[i]);
+    ascii = units[i] < 0x80;
+  }
+  if (ascii) return use(units.data(), static_cast<UINT>(text.size()));
+  const std::wstring wide = utf16Of<wchar_t>(text);
+  return use(wide.data(), static_cast<UINT>(wide.size()));
+}
 
 /// A variant that frees what it holds.
 struct Variant : VARIANT {
@@ -150,29 +164,28 @@ HRESULT giveObject(IDispatch& object, Variant& content) {
 std::string toText(BSTR text) {
   const std::wstring_view wide(text, SysStringLen(text));
   std::string bytes(wide.size(), '\0');
-  if (std::all_of(wide.begin(), wide.end(), [](wchar_t c) { return c < 0x80; })) {
-    std::transform(wide.begin(), wide.end(), bytes.begin(),
-                   [](wchar_t c) { return static_cast<char>(c); });
-    return bytes;
+  unsigned bits = 0;
+  for (std::size_t i = 0; i < wide.size(); ++i) {
+    bits |= wide[i];
+    bytes[i] = static_cast<char>(wide[i]);
   }
+  if (bits < 0x80) return bytes;
   return utf8Of(wide);
 }
 
 BSTR toBstr(std::string_view text) {
-  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-  const bool ascii = std::all_of(text.begin(), text.end(), isAscii);
-  const std::wstring other = ascii ? std::wstring() : utf16Of<wchar_t>(text);
-  const std::size_t size = ascii ? text.size() : other.size();
-  const BSTR wide = SysAllocStringLen(ascii ? nullptr : other.data(), static_cast<UINT>(size));
-  if (wide == nullptr) throw std::bad_alloc();
-  if (ascii) std::copy(text.begin(), text.end(), wide);
-  return wide;
+  return withUtf16(text, [](const wchar_t* wide, UINT size) {
+    const BSTR made = SysAllocStringLen(wide, size);
+    if (made == nullptr) throw std::bad_alloc();
+    return made;
+  });
 }
 
+// In place where it fits, which costs half of a new one.
 void replace(BSTR& target, std::string_view text) {
-  const BSTR content = toBstr(text);
-  SysFreeString(target);
-  target = content;
+  withUtf16(text, [&](const wchar_t* wide, UINT size) {
+    if (SysReAllocStringLen(&target, wide, size) == FALSE) throw std::bad_alloc();
+  });
 }
 
 void replace(VARIANT& target, const ResultArray& rows) {
