@@ -2,7 +2,7 @@ Attribute VB_Name = "Calvex"
 ' Calvex in Excel: properties of water and steam as worksheet functions.
 '
 ' Import this file in the Visual Basic editor (Alt+F11; File, Import File). The server must have
-' been registered; docs\windows.md says how. A cell whose function fails shows #N/A, and
+' been registered; docs\windows.html says how. A cell whose function fails shows #N/A, and
 ' =SteamWhy(A1) tells the reason.
 Option Explicit
 

@@ -73,7 +73,7 @@ echo What to do:
 echo - When the ZIP came from the internet: right-click it, Properties, Unblock; extract it again.
 echo - Close the programs that use Calvex (Excel, for one) and run this file again.
 echo - Let it stand on a local disk, not on a network drive.
-echo - docs\windows.md tells more under "When it does not work".
+echo - docs\windows.html tells more under "When it does not work".
 set "code=1"
 goto end
 
