@@ -37,7 +37,10 @@ export function Field({ name, label, text, hint, trouble, group, words, withoutU
   const told = [hint && `${id}-hint`, trouble && `${id}-trouble`].filter(Boolean).join(' ');
   return (
     <div class={trouble ? 'field wrong' : 'field'}>
-      <label for={id}>{label}</label>
+      <div class="named">
+        <label for={id}>{label}</label>
+        {hint && <span class="hint" id={`${id}-hint`}>{hint}</span>}
+      </div>
       <div class="typed">
         <input id={id} name={name} type="text" inputMode="text" autocomplete="off" spellcheck={false}
           value={text} aria-invalid={trouble ? 'true' : undefined}
@@ -45,7 +48,6 @@ export function Field({ name, label, text, hint, trouble, group, words, withoutU
           onInput={event => put({ [name]: event.currentTarget.value })} />
         {group >= 0 && !withoutUnits && <UnitChoice group={group} label={words} />}
       </div>
-      {hint && <p class="hint" id={`${id}-hint`}>{hint}</p>}
       {trouble && <p class="trouble" id={`${id}-trouble`}>{trouble}</p>}
     </div>
   );

@@ -9,8 +9,8 @@ import { draw, wholeView, type Drawing, type View } from './drawing.ts';
 import { firstKind, kinds, toDrawn, drawn, type Kind } from './kinds.ts';
 import { processPath, type Process } from './process.ts';
 
-const margin = { left: 62, right: 14, top: 12, bottom: 44 };
-const smallMargin = { left: 46, right: 8, top: 8, bottom: 34 };
+const margin = { left: 68, right: 14, top: 12, bottom: 44 };
+const smallMargin = { left: 54, right: 8, top: 8, bottom: 40 };
 
 export const kindNow = (): Kind => kinds[address.value.page === 'diagram' ? address.value.item : '']
   ?? kinds[value('kind')] ?? kinds[firstKind]!;
@@ -99,7 +99,7 @@ export function Diagram({ small = false, kind = kindNow(), process, over, onDraw
             <rect width={drawing.width} height={drawing.height} />
           </clipPath></defs>
           <g transform={`translate(${around.left},${around.top})`}>
-            <Axes drawing={drawing} />
+            <Axes drawing={drawing} left={around.left} />
             <g clip-path={`url(#${id}-c)`}>
               <g ref={lines}>
                 {drawing.paths.map(({ family, d }) => <path key={family} class={`line of-${family}`} d={d} />)}
@@ -108,24 +108,18 @@ export function Diagram({ small = false, kind = kindNow(), process, over, onDraw
               </g>
               <g class="labels">
                 {drawing.labels.map((label, i) => (
-                  <text key={i} class={`label of-${label.family}`} dy="0.32em"
+                  <g key={i} class={`label of-${label.family}`}
                     transform={`translate(${label.x.toFixed(1)},${label.y.toFixed(1)}) rotate(${label.angle.toFixed(1)})`}>
-                    {label.text}
-                  </text>
+                    <rect x={-label.width / 2} y={-6} width={label.width} height={12} />
+                    <text dy="0.34em">{label.text}</text>
+                  </g>
                 ))}
               </g>
               <g ref={overlay}>
                 {process && <path class="process" d={processPath(kind, drawing, process)} />}
                 {!process && state && <Dot kind={kind} drawing={drawing} state={state} />}
               </g>
-              {process?.points.map(point => (
-                <g key={point.name} class="point" data-process={point.name}
-                  transform={`translate(${drawing.x(toDrawn(kind.x, point.state.get(kind.x)))},${
-                    drawing.y(toDrawn(kind.y, point.state.get(kind.y)))})`}>
-                  <circle r={4.5} />
-                  <text class="name" x={8} y={-7}>{point.name}</text>
-                </g>
-              ))}
+              {process && <Marks kind={kind} drawing={drawing} process={process} />}
               {over}
             </g>
             <rect class="frame" ref={plot} width={drawing.width} height={drawing.height} />
@@ -143,7 +137,32 @@ function Dot({ kind, drawing, state }: { kind: Kind; drawing: Drawing; state: St
   return <path class="state-dot" d={`M${x.toFixed(2)},${y.toFixed(2)}h0.01`} />;
 }
 
-function Axes({ drawing }: { drawing: Drawing }) {
+/** The states of a process with their names, each where it covers no other. */
+function Marks({ kind, drawing, process }: { kind: Kind; drawing: Drawing; process: Process }) {
+  const { width } = drawing;
+  const taken: { x: number; y: number; size: number }[] = [];
+  return <>
+    {process.points.map(({ name, state }) => {
+      const x = drawing.x(toDrawn(kind.x, state.get(kind.x)));
+      const y = drawing.y(toDrawn(kind.y, state.get(kind.y)));
+      const size = 6.5 * name.length;
+      const spots = [[8, -7], [8, 13], [-8 - size, -7], [-8 - size, 13], [8, -20], [8, 26], [-8 - size, 26]]
+        .map(([dx, dy]) => ({ x: x + dx!, y: y + dy!, size }));
+      const free = spots.find(spot => spot.x > 0 && spot.x + size < width && taken.every(other =>
+        Math.abs(spot.y - other.y) > 12 || spot.x > other.x + other.size || other.x > spot.x + size))
+        ?? spots[0]!;
+      taken.push(free);
+      return (
+        <g key={name} class="point" data-process={name}>
+          <circle r={4.5} cx={x} cy={y} />
+          <text class="name" x={free.x} y={free.y}>{name}</text>
+        </g>
+      );
+    })}
+  </>;
+}
+
+function Axes({ drawing, left }: { drawing: Drawing; left: number }) {
   const { width, height, ticks, titles } = drawing;
   return (
     <g class="axes">
@@ -159,8 +178,9 @@ function Axes({ drawing }: { drawing: Drawing }) {
           <text x={-8} dy="0.32em" text-anchor="end">{text}</text>
         </g>
       ))}
-      <text class="title" x={width} y={height + 34} text-anchor="end">{titles.x}</text>
-      <text class="title" transform="translate(12,8) rotate(-90)" text-anchor="end" dy="0.32em">{titles.y}</text>
+      <text class="title" x={width} y={height + 35} text-anchor="end">{titles.x}</text>
+      <text class="title" text-anchor="end" dy="0.8em"
+        transform={`translate(${-left},0) rotate(-90)`}>{titles.y}</text>
     </g>
   );
 }

@@ -1,7 +1,14 @@
 // Writes on lines: where a line is straight enough and the page is free.
 import type { Points } from './lines.ts';
 
-export interface Label { text: string; family: string; x: number; y: number; angle: number }
+export interface Label {
+  text: string;
+  family: string;
+  x: number;
+  y: number;
+  angle: number;
+  width: number;
+}
 
 interface Spot { x: number; y: number }
 
@@ -31,7 +38,7 @@ export class Labeller {
       if (at < 0.6 * width || at > whole - 0.6 * width) continue;
       const [a, middle, b] = [-1, 0, 1].map(side => along(part, lengths, at + side * width / 2));
       const label = this.fits(a!, middle!, b!, width);
-      if (label) return { text, family, ...label };
+      if (label) return { text, family, width: width - 4, ...label };
     }
     return undefined;
   }

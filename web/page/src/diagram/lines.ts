@@ -48,7 +48,10 @@ export function survey(kind: Kind, window: Window): Survey {
 export function levels(family: string, seen: Survey, count: number): number[] {
   const range = seen[family];
   if (!range) return [];
-  if (family === 'P' || family === 'v') return roundPowers(...range, count);
+  if (family === 'P') {
+    return roundPowers(range[0], Math.min(range[1], modelToDrawn('P', mostPressure)), count);
+  }
+  if (family === 'v') return roundPowers(...range, count);
   if (family !== 'x') return roundLevels(...range, count);
   const [none, all] = [modelToDrawn('x', 0), modelToDrawn('x', 1)];
   return roundLevels(...range, Math.min(count, 10)).filter(level => level > none && level < all);
@@ -69,6 +72,9 @@ export function dome(kind: Kind, seen: Survey): Points {
 
 export const criticalPoint = (kind: Kind): Points => new Pen(kind, drawn.value, {}).critical();
 
+/** Lines end with the range of the formulation, 1000 MPa; the solver goes on to 3000. */
+const mostPressure = 1000;
+
 /** Computes points of one diagram. */
 class Pen {
   constructor(private kind: Kind, private engine: Engine, private seen: Survey) {}
@@ -78,7 +84,9 @@ class Pen {
   }
 
   private of(states: State<Float64Array>): Points {
-    return { x: states.get(this.kind.x), y: states.get(this.kind.y) };
+    const highest = modelToDrawn('P', mostPressure * 1.000001);
+    const inside = (value: number, i: number) => states.P[i]! <= highest ? value : NaN;
+    return { x: states.get(this.kind.x).map(inside), y: states.get(this.kind.y).map(inside) };
   }
 
   /** A little more than the window has, which a grid may miss, inside what the equation covers. */
@@ -95,7 +103,7 @@ class Pen {
   pressures(count: number): Float64Array {
     const [low, high] = this.seen.P!;
     return geometric(Math.max(low / 2, modelToDrawn('P', 1e-7)),
-      Math.min(high * 2, modelToDrawn('P', 2999)), count);
+      Math.min(high * 2, modelToDrawn('P', mostPressure)), count);
   }
 
   /** Of a quality, close together near the critical point. */

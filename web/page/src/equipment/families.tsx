@@ -137,8 +137,8 @@ const flash = (): Sketch => ({
 
 const exchanger = (): Sketch => ({
   ports: [
-    inlet('hot inlet', 'hot, in', 'M40,100H190', 40, 24),
-    outlet('hot outlet', 'hot, out', 'M330,100H480', 400, 24),
+    inlet('hot inlet', 'hot, in', 'M40,100H190', 40, 12),
+    outlet('hot outlet', 'hot, out', 'M330,100H480', 400, 12),
     inlet('cold inlet', 'cold, in', 'M480,160H320', 400, 178),
     outlet('cold outlet', 'cold, out', 'M200,160H40', 40, 178),
   ],
@@ -154,7 +154,7 @@ const ejector = (): Sketch => ({
   ports: [
     inlet('motive', 'motive steam', 'M30,90H120', 30, 24),
     inlet('suction', 'suction steam', 'M170,220V150', 30, 178),
-    outlet('discharge', 'discharge', 'M410,105H490', 410, 128),
+    outlet('discharge', 'discharge', 'M410,105H490', 418, 128),
   ],
   lines: [['motive', 'discharge'], ['suction', 'discharge']],
   shapes: <>

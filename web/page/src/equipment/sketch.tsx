@@ -18,10 +18,12 @@ export function SketchView({ sketch, streams, title }: {
   const values = (stream: string) => order.flatMap(letter => {
     const value = streams[stream]?.[letter];
     return value === undefined ? [] : [text(letter, value)];
-  }).slice(0, 4);
+  });
+  const bottom = Math.max(220, ...sketch.ports.map(({ at, stream }) =>
+    at[1] + 15.5 * (values(stream).length + 1)));
   const told = sketch.ports.map(port => `${port.title}: ${values(port.stream).join(', ')}`).join('; ');
   return (
-    <svg class="sketch" viewBox="0 0 520 270" role="img" aria-label={`${title}. ${told}`}>
+    <svg class="sketch" viewBox={`0 0 520 ${Math.ceil(bottom)}`} role="img" aria-label={`${title}. ${told}`}>
       <defs>
         <marker id="arrow" viewBox="0 0 8 8" refX="7" refY="4" markerWidth="8" markerHeight="8"
           markerUnits="userSpaceOnUse" orient="auto"><path class="arrow" d="M0,0L8,4L0,8Z" /></marker>

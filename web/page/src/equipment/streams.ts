@@ -42,9 +42,20 @@ export function streamsOf(member: MemberInfo, values: Readonly<Record<string, nu
     if (!place || value === undefined || !Number.isFinite(value)) continue;
     (streams[place.stream] ??= {})[place.letter] ??= value;
   }
+  shareFlows(streams);
   dropPressures(member, values, streams);
   sharePressure(streams);
   return streams;
+}
+
+/** What flows in flows out: the flow of "cold" is that of "cold inlet" and "cold outlet". */
+function shareFlows(streams: Streams) {
+  for (const [name, { M }] of Object.entries(streams)) {
+    for (const end of ['inlet', 'outlet']) {
+      const stream = streams[`${name} ${end}`];
+      if (stream && M !== undefined) stream.M ??= M;
+    }
+  }
 }
 
 /** A stream leaves with its inlet pressure less the drop. */

@@ -2,6 +2,7 @@
 import type { State } from 'calvex/load';
 
 import { capital, letterRow, pretty, propertyOf, reasonOf, show, steam, unitName } from '../engine.ts';
+import { useLater } from '../shell/later.ts';
 import { warnings } from './trace.tsx';
 
 /** What a phase is called in a sentence. */
@@ -15,10 +16,11 @@ const shown = (state: State) => state.all().filter(row => state.phase === 'two-p
   ? !Number.isNaN(row.value) : row.name !== 'x');
 
 export function Properties({ state }: { state: State }) {
+  const later = useLater();
   return (
     <section aria-labelledby="properties-title">
       <h2 id="properties-title" class="phase">{phaseText(state)}</h2>
-      {warnings.value.map(text => <p key={text} class="warning">{text}</p>)}
+      {later && warnings.value.map(text => <p key={text} class="warning">{text}</p>)}
       <table class="properties">
         <caption class="unseen">Properties of the state</caption>
         <thead class="unseen"><tr>
@@ -42,8 +44,8 @@ export function Properties({ state }: { state: State }) {
   );
 }
 
-/** Of the properties that the phases of a mixture have. */
-const saturated = ['V', 'R', 'H', 'S', 'U', 'C'];
+/** What both ends of a tie line have. */
+const saturated = ['V', 'R', 'H', 'S', 'U'];
 
 export function Saturation({ state }: { state: State }) {
   let phases: State[];
@@ -72,7 +74,7 @@ export function Saturation({ state }: { state: State }) {
             return (
               <tr key={letter}>
                 <th scope="row">{capital(words)}</th>
-                {phases.map((phase, i) => <td key={i} class="number">{value(phase, name)}</td>)}
+                {phases.map((phase, i) => <td key={i} class="number">{show(phase.get(name), 8)}</td>)}
                 <td class="unit">{pretty(unitName(group))}</td>
               </tr>
             );
@@ -81,14 +83,6 @@ export function Saturation({ state }: { state: State }) {
       </table>
     </section>
   );
-}
-
-function value(state: State, name: string): string {
-  try {
-    return show(state.get(name), 8);
-  } catch {
-    return '–';
-  }
 }
 
 /** All vapour in the unit of qualities: 1, or 100 %. */

@@ -6,6 +6,7 @@ import { capital, letterRow } from '../engine.ts';
 import { Field } from '../field.tsx';
 import { Diagram } from '../diagram/diagram.tsx';
 import { Announce } from '../shell/announce.tsx';
+import { useLater } from '../shell/later.ts';
 import { answer, choosePair, inputs, pair } from './inputs.ts';
 import { phaseText, Properties, Saturation } from './properties.tsx';
 import { Trace } from './trace.tsx';
@@ -15,6 +16,7 @@ const pairWords = (letters: string) =>
 
 export function StateView() {
   const { state, troubles } = answer.value;
+  const later = useLater();
   return (
     <div class="state">
       <form class="inputs" aria-label="Inputs of the state" onSubmit={event => event.preventDefault()}>
@@ -43,13 +45,13 @@ export function StateView() {
           </section>
         )}
       </div>
-      <aside>
+      {later && <aside>
         <a class="picture" href={linkTo('diagram')} aria-label="Open the diagrams">
           <Diagram small />
         </a>
         {state && <Saturation state={state} />}
         <Trace />
-      </aside>
+      </aside>}
     </div>
   );
 }

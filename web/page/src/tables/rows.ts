@@ -32,7 +32,7 @@ function reasonsOf(): string[] {
   return [...new Set(steam.value.reasons().filter(Boolean))];
 }
 
-const ofPhases = ['V', 'R', 'H', 'S', 'U', 'C'];
+const ofPhases = ['V', 'R', 'H', 'S', 'U'];
 const phases = ['liquid', 'vapour'] as const;
 
 /** Saturated liquid and vapour by temperature or by pressure. */
@@ -46,22 +46,9 @@ export function saturation(by: 'T' | 'P', range: Range): Table {
   const columns = [column(by), column(other),
     ...ofPhases.flatMap(letter => phases.map(phase => column(letter, phase)))];
   const values = [given, ends[1]!.get(other),
-    ...ofPhases.flatMap(letter => letter === 'C' ? capacities(ends[0]!)
-      : ends.map(states => states.get(propertyOf(letter).name)))];
+    ...ofPhases.flatMap(letter => ends.map(states => states.get(propertyOf(letter).name)))];
   const rows = Array.from(given, (_, i) => values.map(each => each[i]!));
   return { columns, rows: rows.filter(row => !Number.isNaN(row[1])), reasons };
-}
-
-/** A state on the line is a mixture's, which has no heat capacity: its phases have, by temperature and
- * density. */
-function capacities(saturated: State<Float64Array>): Float64Array[] {
-  return [0, 1].map(end => Float64Array.from(saturated.P, P => {
-    try {
-      return steam.value.state({ P, x: end * fullQuality() }).get('cp');
-    } catch {
-      return NaN;
-    }
-  }));
 }
 
 const ofStates = ['V', 'R', 'H', 'S', 'U', 'C', 'W', 'M', 'K'];

@@ -3,10 +3,11 @@ import { computed } from '@preact/signals';
 import { useState } from 'preact/hooks';
 
 import { address, put, value } from '../address.ts';
-import { capital, exampleText, holders, letterRow, readInput, reasonOf, show, toUser } from '../engine.ts';
+import { capital, holders, letterRow, readInput, reasonOf, show, toUser } from '../engine.ts';
 import type { Quantity } from '../engine.ts';
 import { Field } from '../field.tsx';
 import { copy, save } from '../files.ts';
+import { roundLevels, tidy } from '../numbers.ts';
 import { Announce } from '../shell/announce.tsx';
 import { asText, isobar, mostRows, saturation, type Table } from './rows.ts';
 
@@ -15,14 +16,14 @@ interface Kind {
   /** The letter that the rows run over. */
   by: 'T' | 'P';
   at?: 'P';
-  /** In model units: what the table opens with. */
-  first: { from: number; to: number; step: number; at?: number };
+  /** In model units: what the table opens with, in about so many rows of round numbers. */
+  first: { from: number; to: number; rows: number; at?: number };
 }
 
 const kinds: Readonly<Record<string, Kind>> = {
-  T: { title: 'Saturation by temperature', by: 'T', first: { from: 273.16, to: 643.16, step: 10 } },
-  P: { title: 'Saturation by pressure', by: 'P', first: { from: 0.5, to: 20, step: 0.5 } },
-  isobar: { title: 'Isobar', by: 'T', at: 'P', first: { from: 273.15, to: 1073.15, step: 20, at: 1 } },
+  T: { title: 'Saturation by temperature', by: 'T', first: { from: 273.16, to: 643.16, rows: 37 } },
+  P: { title: 'Saturation by pressure', by: 'P', first: { from: 0.1, to: 20, rows: 40 } },
+  isobar: { title: 'Isobar', by: 'T', at: 'P', first: { from: 273.16, to: 1073.15, rows: 40, at: 1 } },
 };
 
 interface Wanted extends Quantity { key: string; label: string; text: string }
@@ -33,19 +34,18 @@ const kind = computed<Kind>(() => kinds[value('table')] ?? kinds.T!);
 const wanted = computed<Wanted[]>(() => {
   const { by, at, first } = kind.value;
   const { group, words } = letterRow(by);
-  const text = (key: string, group: number, model: number, difference = false) =>
-    value(key, difference ? exampleText(-1, toUser(group, model) - toUser(group, 0))
-      : exampleText(group, model));
+  const round = roundLevels(toUser(group, first.from), toUser(group, first.to), first.rows);
+  const text = (key: string, otherwise: number) => value(key, tidy(otherwise));
   const fields: Wanted[] = [
-    { key: 'from', label: 'From', group, words, text: text('from', group, first.from) },
-    { key: 'to', label: 'To', group, words, text: text('to', group, first.to) },
+    { key: 'from', label: 'From', group, words, text: text('from', round[0]!) },
+    { key: 'to', label: 'To', group, words, text: text('to', round.at(-1)!) },
     { key: 'step', label: 'Step', group, words: `step of ${words}`, difference: true,
-      text: text('step', group, first.step, true) },
+      text: text('step', round[1]! - round[0]!) },
   ];
   if (!at) return fields;
   const fixed = letterRow(at);
   return [{ key: 'at', label: capital(fixed.words), group: fixed.group, words: fixed.words,
-    text: text('at', fixed.group, first.at!) }, ...fields];
+    text: text('at', toUser(fixed.group, first.at!)) }, ...fields];
 });
 
 holders.push(() => Object.fromEntries(wanted.value.map(field => [field.key, field])));
