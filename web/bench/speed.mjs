@@ -5,14 +5,17 @@
 import { spawnSync } from 'node:child_process';
 import { fileURLToPath } from 'node:url';
 
-const count = 1_000_000, limit = 2.5;
+const count = 1_000_000,
+  limit = 2.5;
 const [member = 'HPT', engine] = process.argv.slice(2);
 
 // States that a plant or a simulator has: 0.01 to 40 MPa, 280 to 1000 K. (A generator of Lehmer,
 // 1951, with the constants of Park and Miller, 1988: the same points in every process.)
 let seed = 7;
-const between = (low, high) => low + (high - low) * ((seed = seed * 16807 % 2147483647) / 2147483647);
-const P = new Float64Array(count), T = new Float64Array(count);
+const between = (low, high) =>
+  low + (high - low) * ((seed = (seed * 16807) % 2147483647) / 2147483647);
+const P = new Float64Array(count),
+  T = new Float64Array(count);
 for (let i = 0; i < count; ++i) {
   P[i] = Math.exp(between(Math.log(0.01), Math.log(40)));
   T[i] = between(280, 1000);
@@ -28,7 +31,7 @@ if (engine !== undefined) {
     steam[member](P, T);
     best = Math.min(best, performance.now() - start);
   }
-  console.log((1e6 * best / count).toFixed(1));
+  console.log(((1e6 * best) / count).toFixed(1));
   process.exit();
 }
 
@@ -50,7 +53,9 @@ for (let turn = 0; turn < 3; ++turn) {
 }
 console.log(`${member}, ${count} points, ns a point`);
 for (const { words, best } of forms) {
-  console.log(`${words.padEnd(34)}${best.toFixed(0).padStart(6)}${(best / forms[0].best).toFixed(2).padStart(8)}`);
+  console.log(
+    `${words.padEnd(34)}${best.toFixed(0).padStart(6)}${(best / forms[0].best).toFixed(2).padStart(8)}`,
+  );
 }
 if (forms[1].best > limit * forms[0].best) {
   console.error(`WebAssembly with vectors is to stay below ${limit} times this machine`);
