@@ -54,7 +54,7 @@ const vectors = Uint8Array.of(
 
 async function unpacked(base64) {
   const packed = Uint8Array.from(atob(base64), character => character.charCodeAt(0));
-  const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream('deflate-raw'));
+  const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream('deflate'));
   return new Response(stream).arrayBuffer();
 }
 
