@@ -23,7 +23,7 @@ export function read(hash: string): Address {
     try {
       return decodeURIComponent(part);
     } catch {
-      return part;  // a lone % is no fault of who follows the link
+      return part; // a lone % is no fault of who follows the link
     }
   });
   const query = new URLSearchParams(mark < 0 ? '' : text.slice(mark + 1));
@@ -31,14 +31,18 @@ export function read(hash: string): Address {
 }
 
 export function write({ page, item, values }: Address): string {
-  const query = new URLSearchParams(values).toString().replaceAll('%2C', ',').replaceAll('%3A', ':');
+  const query = new URLSearchParams(values)
+    .toString()
+    .replaceAll('%2C', ',')
+    .replaceAll('%3A', ':');
   const path = item ? `${page}/${encodeURIComponent(item)}` : page;
   return `#${path}${query && '?'}${query}`;
 }
 
 export const address = signal<Address>(read(location.hash));
 
-export const value = (key: string, otherwise = ''): string => address.value.values[key] ?? otherwise;
+export const value = (key: string, otherwise = ''): string =>
+  address.value.values[key] ?? otherwise;
 
 /** The address with some values changed; undefined takes one out. */
 export function changed(changes: Record<string, string | undefined>): Address {
@@ -83,6 +87,10 @@ export function go(next: Address) {
 }
 
 export function followAddress() {
-  addEventListener('popstate', () => { address.value = read(location.hash); });
-  addEventListener('pagehide', () => { if (pending !== undefined) writeNow(); });
+  addEventListener('popstate', () => {
+    address.value = read(location.hash);
+  });
+  addEventListener('pagehide', () => {
+    if (pending !== undefined) writeNow();
+  });
 }

@@ -8,12 +8,19 @@ import { apart, show, tidy } from './numbers.ts';
 export const keyword = (group: number): string => groups[group]!.keywords[0]!;
 
 /** The units that the address chooses, as one text: an engine is made anew when it changes. */
-const chosen = computed(() => JSON.stringify(Object.entries(address.value.values)
-  .filter(([key]) => key.startsWith('u.'))
-  .map(([key, unit]) => [key.slice(2), unit])
-  .sort()));
+const chosen = computed(() =>
+  JSON.stringify(
+    Object.entries(address.value.values)
+      .filter(([key]) => key.startsWith('u.'))
+      .map(([key, unit]) => [key.slice(2), unit])
+      .sort(),
+  ),
+);
 
-interface Made { steam: Engine; troubles: string[] }
+interface Made {
+  steam: Engine;
+  troubles: string[];
+}
 
 const made = computed<Made>(() => {
   const steam = new Engine();
@@ -41,7 +48,7 @@ export function reasonOf(failure: unknown): string {
 }
 
 /** The name of the unit of a quantity; none of a plain number. */
-export const unitName = (group: number): string => group < 0 ? '' : steam.value.unit(group);
+export const unitName = (group: number): string => (group < 0 ? '' : steam.value.unit(group));
 
 /** A unit as it is printed: "kJ/(kg·K)", "m³/kg", "°C". */
 export function pretty(unit: string): string {
@@ -77,7 +84,8 @@ export interface Quantity {
 }
 
 export type Reading =
-  { value: number; trouble?: undefined } | { value?: undefined; trouble: string };
+  | { value: number; trouble?: undefined }
+  | { value?: undefined; trouble: string };
 
 /** What was typed, in the chosen unit; a unit may stand behind the number. */
 export function readInput(text: string, { group, words, difference }: Quantity): Reading {
@@ -147,8 +155,10 @@ export function blamed<Input extends { words: string }>(reason: string, inputs: 
     const whole = text.search(new RegExp(`\\b${words.replace(/[^a-z0-9 ]/g, '.')}\\b`));
     if (whole >= 0) return whole;
     // "Pressure parameter out of range" is said of an inlet pressure too.
-    const kind = /enthalpy|pressure|temperature|entropy|quality|density|volume|energy|efficiency|flow/
-      .exec(words)?.[0];
+    const kind =
+      /enthalpy|pressure|temperature|entropy|quality|density|volume|energy|efficiency|flow/.exec(
+        words,
+      )?.[0];
     const at = kind ? text.indexOf(kind) : -1;
     return at < 0 ? Infinity : at;
   });

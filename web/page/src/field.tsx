@@ -11,13 +11,25 @@ export function UnitChoice({ group, label }: { group: number; label: string }) {
   const { units } = groups[group]!;
   const known = units.map(unit => unit.name);
   // Of two ways to write a unit, m³ and m^3, one is enough.
-  const names = [...new Set([now, ...known])].sort((a, b) => known.indexOf(a) - known.indexOf(b))
-    .filter((name, i, all) => name === now || all.findIndex(other => pretty(other) === pretty(name)) === i);
+  const names = [...new Set([now, ...known])]
+    .sort((a, b) => known.indexOf(a) - known.indexOf(b))
+    .filter(
+      (name, i, all) =>
+        name === now || all.findIndex(other => pretty(other) === pretty(name)) === i,
+    );
   if (names.length < 2) return <span class="unit">{pretty(now)}</span>;
   return (
-    <select class="unit" aria-label={`Unit of ${label}`} value={now}
-      onChange={event => chooseUnits({ [keyword(group)]: event.currentTarget.value })}>
-      {names.map(name => <option key={name} value={name}>{pretty(name) || 'fraction'}</option>)}
+    <select
+      class="unit"
+      aria-label={`Unit of ${label}`}
+      value={now}
+      onChange={event => chooseUnits({ [keyword(group)]: event.currentTarget.value })}
+    >
+      {names.map(name => (
+        <option key={name} value={name}>
+          {pretty(name) || 'fraction'}
+        </option>
+      ))}
     </select>
   );
 }
@@ -39,16 +51,32 @@ export function Field({ name, label, text, hint, trouble, group, words, withoutU
     <div class={trouble ? 'field wrong' : 'field'}>
       <div class="named">
         <label for={id}>{label}</label>
-        {hint && <span class="hint" id={`${id}-hint`}>{hint}</span>}
+        {hint && (
+          <span class="hint" id={`${id}-hint`}>
+            {hint}
+          </span>
+        )}
       </div>
       <div class="typed">
-        <input id={id} name={name} type="text" inputMode="text" autocomplete="off" spellcheck={false}
-          value={text} aria-invalid={trouble ? 'true' : undefined}
+        <input
+          id={id}
+          name={name}
+          type="text"
+          inputMode="text"
+          autocomplete="off"
+          spellcheck={false}
+          value={text}
+          aria-invalid={trouble ? 'true' : undefined}
           aria-describedby={told || undefined}
-          onInput={event => put({ [name]: event.currentTarget.value })} />
+          onInput={event => put({ [name]: event.currentTarget.value })}
+        />
         {group >= 0 && !withoutUnits && <UnitChoice group={group} label={words} />}
       </div>
-      {trouble && <p class="trouble" id={`${id}-trouble`}>{trouble}</p>}
+      {trouble && (
+        <p class="trouble" id={`${id}-trouble`}>
+          {trouble}
+        </p>
+      )}
     </div>
   );
 }

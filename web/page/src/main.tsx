@@ -9,14 +9,17 @@ import { keepOffline } from './shell/offline.ts';
 import './styles/page.css';
 
 const page = document.getElementById('page')!;
-load().then(() => {
-  followAddress();
-  page.replaceChildren();
-  render(<App />, page);
-  afterPaint(() => {
-    performance.mark('first state');
-    keepOffline();
-  });
-}, failure => {
-  page.textContent = `The engine does not run in this browser: ${reasonOf(failure)}`;
-});
+load().then(
+  () => {
+    followAddress();
+    page.replaceChildren();
+    render(<App />, page);
+    afterPaint(() => {
+      performance.mark('first state');
+      keepOffline();
+    });
+  },
+  failure => {
+    page.textContent = `The engine does not run in this browser: ${reasonOf(failure)}`;
+  },
+);

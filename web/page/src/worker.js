@@ -4,19 +4,35 @@ const version = VERSION;
 const files = FILES;
 
 self.addEventListener('install', event => {
-  event.waitUntil(caches.open(version).then(cache => cache.addAll(files)).then(() => self.skipWaiting()));
+  event.waitUntil(
+    caches
+      .open(version)
+      .then(cache => cache.addAll(files))
+      .then(() => self.skipWaiting()),
+  );
 });
 
 self.addEventListener('activate', event => {
-  event.waitUntil(caches.keys()
-    .then(names => Promise.all(names.filter(name => name !== version && name.startsWith('calvex-'))
-      .map(name => caches.delete(name))))
-    .then(() => self.clients.claim()));
+  event.waitUntil(
+    caches
+      .keys()
+      .then(names =>
+        Promise.all(
+          names
+            .filter(name => name !== version && name.startsWith('calvex-'))
+            .map(name => caches.delete(name)),
+        ),
+      )
+      .then(() => self.clients.claim()),
+  );
 });
 
 self.addEventListener('fetch', event => {
   if (event.request.method !== 'GET') return;
-  event.respondWith(caches.open(version)
-    .then(cache => cache.match(event.request, { ignoreSearch: true }))
-    .then(kept => kept ?? fetch(event.request)));
+  event.respondWith(
+    caches
+      .open(version)
+      .then(cache => cache.match(event.request, { ignoreSearch: true }))
+      .then(kept => kept ?? fetch(event.request)),
+  );
 });

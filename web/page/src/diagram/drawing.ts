@@ -28,16 +28,26 @@ export interface Drawing {
   critical: string;
   labels: Label[];
 }
-export interface Tick { at: number; text: string }
+export interface Tick {
+  at: number;
+  text: string;
+}
 
 /** The part of the plane that is looked at: how much larger, and what is in the middle, from 0 to 1. */
-export interface View { k: number; x: number; y: number }
+export interface View {
+  k: number;
+  x: number;
+  y: number;
+}
 export const wholeView: View = { k: 1, x: 0.5, y: 0.5 };
 
 export const transformOf = ({ k, x, y }: View, width: number, height: number): ZoomTransform =>
   zoomIdentity.translate(width / 2 - k * x * width, height / 2 - k * y * height).scale(k);
-export const viewOf = ({ k, x, y }: ZoomTransform, width: number, height: number): View =>
-  ({ k, x: (width / 2 - x) / (k * width), y: (height / 2 - y) / (k * height) });
+export const viewOf = ({ k, x, y }: ZoomTransform, width: number, height: number): View => ({
+  k,
+  x: (width / 2 - x) / (k * width),
+  y: (height / 2 - y) / (k * height),
+});
 
 /** The scales of the whole diagram. */
 function scales(kind: Kind, width: number, height: number) {
@@ -47,11 +57,18 @@ function scales(kind: Kind, width: number, height: number) {
   return { x: scaleLinear([x0!, x1!], [0, width]), y: up.domain([y0!, y1!]).range([height, 0]) };
 }
 
-export function draw(kind: Kind, view: View, width: number, height: number,
-  families: readonly string[], labelSize: number): Drawing {
+export function draw(
+  kind: Kind,
+  view: View,
+  width: number,
+  height: number,
+  families: readonly string[],
+  labelSize: number,
+): Drawing {
   const whole = scales(kind, width, height);
   const transform = transformOf(view, width, height);
-  const x: Scale = transform.rescaleX(whole.x), y: Scale = transform.rescaleY(whole.y);
+  const x: Scale = transform.rescaleX(whole.x),
+    y: Scale = transform.rescaleY(whole.y);
   const range = (scale: Scale) => {
     const [a, b] = scale.domain() as [number, number];
     return [Math.min(a, b), Math.max(a, b)] as const;
@@ -62,7 +79,8 @@ export function draw(kind: Kind, view: View, width: number, height: number,
 
   const domeLine = pixels(dome(kind, seen));
   for (let i = 0; i < domeLine.x.length; i += 3) labeller.take(domeLine.x[i]!, domeLine.y[i]!);
-  const paths: Drawing['paths'] = [], labels: Label[] = [];
+  const paths: Drawing['paths'] = [],
+    labels: Label[] = [];
   const count = Math.max(5, Math.round(width / 55));
   for (const family of families) {
     let d = '';
@@ -76,7 +94,14 @@ export function draw(kind: Kind, view: View, width: number, height: number,
   }
   const critical = pixels(criticalPoint(kind));
   return {
-    width, height, x, y, paths, labels, dome: pathOf(domeLine), critical: dot(critical.x[0]!, critical.y[0]!),
+    width,
+    height,
+    x,
+    y,
+    paths,
+    labels,
+    dome: pathOf(domeLine),
+    critical: dot(critical.x[0]!, critical.y[0]!),
     ticks: { x: ticks(x, width / 80, false), y: ticks(y, height / 50, kind.logarithmic) },
     titles: { x: axisTitle(kind.x), y: axisTitle(kind.y) },
   };
@@ -86,9 +111,12 @@ export function draw(kind: Kind, view: View, width: number, height: number,
 export const dot = (x: number, y: number): string => `M${x.toFixed(2)},${y.toFixed(2)}h0.01`;
 
 /** Far outside the page the numbers would be long and the lines nobody's. */
-const pathOf = ({ x, y }: Points): string => path<number>()
-  .defined((_, i) => Math.abs(x[i]!) < 1e5 && Math.abs(y[i]!) < 1e5)
-  .x((_, i) => x[i]!).y((_, i) => y[i]!).digits(1)(Array.from(x)) ?? '';
+const pathOf = ({ x, y }: Points): string =>
+  path<number>()
+    .defined((_, i) => Math.abs(x[i]!) < 1e5 && Math.abs(y[i]!) < 1e5)
+    .x((_, i) => x[i]!)
+    .y((_, i) => y[i]!)
+    .digits(1)(Array.from(x)) ?? '';
 
 function ticks(scale: Scale, count: number, logarithmic: boolean): Tick[] {
   let values = scale.ticks(Math.max(2, Math.round(count)));

@@ -1,8 +1,19 @@
 // The diagram as a picture of its own: SVG with its colours written in, or PNG.
 import { save } from '../files.ts';
 
-const styled = ['fill', 'stroke', 'stroke-width', 'stroke-dasharray', 'stroke-linecap', 'opacity',
-  'font-family', 'font-size', 'font-weight', 'text-anchor', 'paint-order'];
+const styled = [
+  'fill',
+  'stroke',
+  'stroke-width',
+  'stroke-dasharray',
+  'stroke-linecap',
+  'opacity',
+  'font-family',
+  'font-size',
+  'font-weight',
+  'text-anchor',
+  'paint-order',
+];
 
 /** The picture as it looks now, for programs that do not know the page's style. */
 export function pictureOf(svg: SVGSVGElement): string {

@@ -20,19 +20,32 @@ export interface Zoomer {
   stop(): void;
 }
 
-export function handle({ svg, frame, lines, over }: Surface, { width, height }: Drawing, view: View,
-  deeds: Deeds): Zoomer {
+export function handle(
+  { svg, frame, lines, over }: Surface,
+  { width, height }: Drawing,
+  view: View,
+  deeds: Deeds,
+): Zoomer {
   const origin = transformOf(view, width, height);
   let moved = false;
   // While it moves, what is drawn is moved; it is drawn anew when it rests.
   const behaviour = zoom<SVGRectElement, unknown>()
-    .extent([[0, 0], [width, height]])
-    .translateExtent([[0, 0], [width, height]])
+    .extent([
+      [0, 0],
+      [width, height],
+    ])
+    .translateExtent([
+      [0, 0],
+      [width, height],
+    ])
     .scaleExtent([1, 200])
     .clickDistance(4)
     // One finger reads the diagram or scrolls the page; two zoom.
-    .filter((event: Event) => !('touches' in event && (event as TouchEvent).touches.length < 2) &&
-      !(event instanceof MouseEvent && event.button !== 0))
+    .filter(
+      (event: Event) =>
+        !('touches' in event && (event as TouchEvent).touches.length < 2) &&
+        !(event instanceof MouseEvent && event.button !== 0),
+    )
     .on('zoom', ({ transform }: D3ZoomEvent<SVGRectElement, unknown>) => {
       const k = transform.k / origin.k;
       const change = `translate(${transform.x - k * origin.x},${transform.y - k * origin.y}) scale(${k})`;
@@ -51,14 +64,16 @@ export function handle({ svg, frame, lines, over }: Surface, { width, height }: 
 
   const spotOf = (event: MouseEvent): Spot | undefined => {
     const box = frame.getBoundingClientRect();
-    const x = event.clientX - box.left, y = event.clientY - box.top;
+    const x = event.clientX - box.left,
+      y = event.clientY - box.top;
     return x >= 0 && y >= 0 && x <= width && y <= height ? { x, y } : undefined;
   };
   let cursor: Spot = { x: width / 2, y: height / 2 };
 
   const by = (factor: number, dx = 0, dy = 0) => {
     const now = zoomTransform(frame);
-    const k = Math.min(Math.max(now.k * factor, 1), 200), s = k / now.k;
+    const k = Math.min(Math.max(now.k * factor, 1), 200),
+      s = k / now.k;
     const bound = (offset: number, size: number) => Math.min(0, Math.max(size - k * size, offset));
     const x = bound(width / 2 - s * (width / 2 - now.x) + dx, width);
     const y = bound(height / 2 - s * (height / 2 - now.y) + dy, height);
@@ -67,7 +82,9 @@ export function handle({ svg, frame, lines, over }: Surface, { width, height }: 
 
   const key = (event: KeyboardEvent) => {
     if (event.ctrlKey || event.metaKey || event.altKey) return;
-    const arrow = { ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1] }[event.key];
+    const arrow = { ArrowLeft: [-1, 0], ArrowRight: [1, 0], ArrowUp: [0, -1], ArrowDown: [0, 1] }[
+      event.key
+    ];
     if (arrow && event.shiftKey) {
       cursor = {
         x: Math.min(Math.max(cursor.x + 8 * arrow[0]!, 0), width),

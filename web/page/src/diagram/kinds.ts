@@ -18,25 +18,43 @@ export interface Kind {
 
 export const kinds: Readonly<Record<string, Kind>> = {
   Ts: {
-    title: 'Temperature over entropy', x: 's', y: 'T', logarithmic: false,
-    window: [0, 9.5, 273.15, 1073.15], families: { P: 0.94, v: 0.8, h: 0.3, x: 0.35 },
+    title: 'Temperature over entropy',
+    x: 's',
+    y: 'T',
+    logarithmic: false,
+    window: [0, 9.5, 273.15, 1073.15],
+    families: { P: 0.94, v: 0.8, h: 0.3, x: 0.35 },
   },
   hs: {
-    title: 'Enthalpy over entropy', x: 's', y: 'h', logarithmic: false,
-    window: [5.5, 9.2, 1900, 4000], families: { P: 0.9, T: 0.97, v: 0.82, x: 0.75 },
+    title: 'Enthalpy over entropy',
+    x: 's',
+    y: 'h',
+    logarithmic: false,
+    window: [5.5, 9.2, 1900, 4000],
+    families: { P: 0.9, T: 0.97, v: 0.82, x: 0.75 },
   },
   logph: {
-    title: 'Pressure over enthalpy', x: 'h', y: 'P', logarithmic: true,
-    window: [0, 4000, 0.001, 100], families: { T: 0.9, s: 0.7, v: 0.6, x: 0.25 },
+    title: 'Pressure over enthalpy',
+    x: 'h',
+    y: 'P',
+    logarithmic: true,
+    window: [0, 4000, 0.001, 100],
+    families: { T: 0.9, s: 0.7, v: 0.6, x: 0.25 },
   },
 };
 /** What one looks at first: Mollier's. */
 export const firstKind = 'hs';
 
 /** What the lines of a family have in common. */
-export const familyWords = (name: string): string => ({
-  P: 'isobars', T: 'isotherms', v: 'isochores', s: 'isentropes', h: 'isenthalps', x: 'quality',
-})[name]!;
+export const familyWords = (name: string): string =>
+  ({
+    P: 'isobars',
+    T: 'isotherms',
+    v: 'isochores',
+    s: 'isentropes',
+    h: 'isenthalps',
+    x: 'quality',
+  })[name]!;
 
 /** The engine of the diagrams, whose pressures are absolute: no logarithm is there of a gauge's zero. */
 export const drawn = computed<Engine>(() => {
@@ -56,12 +74,16 @@ export const drawn = computed<Engine>(() => {
 /** A property of a state in the chosen unit, in the diagrams'. */
 export const toDrawn = (name: string, value: number): number => {
   const { group } = properties[name]!;
-  return name === 'P' ? convert(group, value, steam.value.unit(group), drawn.value.unit(group)) : value;
+  return name === 'P'
+    ? convert(group, value, steam.value.unit(group), drawn.value.unit(group))
+    : value;
 };
 
 export const fromDrawn = (name: string, value: number): number => {
   const { group } = properties[name]!;
-  return name === 'P' ? convert(group, value, drawn.value.unit(group), steam.value.unit(group)) : value;
+  return name === 'P'
+    ? convert(group, value, drawn.value.unit(group), steam.value.unit(group))
+    : value;
 };
 
 /** A value in the model's unit, in the diagrams'. */

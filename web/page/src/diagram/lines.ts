@@ -5,13 +5,22 @@ import type { Engine, State } from 'calvex/load';
 import { roundLevels, roundPowers } from '../numbers.ts';
 import { drawn, modelToDrawn, type Kind } from './kinds.ts';
 
-export interface Points { x: Float64Array; y: Float64Array }
-export interface Line extends Points { family: string; level: number }
+export interface Points {
+  x: Float64Array;
+  y: Float64Array;
+}
+export interface Line extends Points {
+  family: string;
+  level: number;
+}
 type Range = readonly [number, number];
-export interface Window { x: Range; y: Range }
+export interface Window {
+  x: Range;
+  y: Range;
+}
 
 const spaced = (low: number, high: number, count: number): Float64Array =>
-  Float64Array.from({ length: count }, (_, i) => low + (high - low) * i / (count - 1));
+  Float64Array.from({ length: count }, (_, i) => low + ((high - low) * i) / (count - 1));
 const geometric = (low: number, high: number, count: number): Float64Array =>
   spaced(Math.log(low), Math.log(high), count).map(Math.exp);
 const filled = (count: number, value: number): Float64Array => new Float64Array(count).fill(value);
@@ -23,7 +32,8 @@ export function survey(kind: Kind, window: Window): Survey {
   const count = 24;
   const across = spaced(...window.x, count);
   const up = kind.logarithmic ? geometric(...window.y, count) : spaced(...window.y, count);
-  const x = new Float64Array(count * count), y = new Float64Array(count * count);
+  const x = new Float64Array(count * count),
+    y = new Float64Array(count * count);
   for (let i = 0; i < count; ++i) {
     for (let k = 0; k < count; ++k) {
       x[i * count + k] = across[i]!;
@@ -33,7 +43,8 @@ export function survey(kind: Kind, window: Window): Survey {
   const states = drawn.value.state({ [kind.x]: x, [kind.y]: y });
   const found: Record<string, Range> = {};
   for (const name of ['P', 'T', 'v', 'h', 's', 'x']) {
-    let low = Infinity, high = -Infinity;
+    let low = Infinity,
+      high = -Infinity;
     states.get(name).forEach((value, i) => {
       if (Number.isNaN(value) || (name === 'x' && states.phase[i] !== 'two-phase')) return;
       low = Math.min(low, value);
@@ -77,7 +88,11 @@ const mostPressure = 1000;
 
 /** Computes points of one diagram. */
 class Pen {
-  constructor(private kind: Kind, private engine: Engine, private seen: Survey) {}
+  constructor(
+    private kind: Kind,
+    private engine: Engine,
+    private seen: Survey,
+  ) {}
 
   points(pair: Readonly<Record<string, number | Float64Array>>): Points {
     return this.of(this.engine.state(pair) as State<Float64Array>);
@@ -85,7 +100,7 @@ class Pen {
 
   private of(states: State<Float64Array>): Points {
     const highest = modelToDrawn('P', mostPressure * 1.000001);
-    const inside = (value: number, i: number) => states.P[i]! <= highest ? value : NaN;
+    const inside = (value: number, i: number) => (states.P[i]! <= highest ? value : NaN);
     return { x: states.get(this.kind.x).map(inside), y: states.get(this.kind.y).map(inside) };
   }
 
@@ -94,7 +109,8 @@ class Pen {
     const [low, high] = this.seen[name] ?? [0, 0];
     const margin = 0.1 * (high - low);
     const [least, most] = {
-      T: [modelToDrawn('T', 260.01), modelToDrawn('T', 2499)], h: [-Infinity, Infinity],
+      T: [modelToDrawn('T', 260.01), modelToDrawn('T', 2499)],
+      h: [-Infinity, Infinity],
       s: [-Infinity, Infinity],
     }[name]!;
     return [Math.max(low - margin, least!), Math.min(high + margin, most!)];
@@ -102,8 +118,11 @@ class Pen {
 
   pressures(count: number): Float64Array {
     const [low, high] = this.seen.P!;
-    return geometric(Math.max(low / 2, modelToDrawn('P', 1e-7)),
-      Math.min(high * 2, modelToDrawn('P', mostPressure)), count);
+    return geometric(
+      Math.max(low / 2, modelToDrawn('P', 1e-7)),
+      Math.min(high * 2, modelToDrawn('P', mostPressure)),
+      count,
+    );
   }
 
   /** Of a quality, close together near the critical point. */
@@ -119,8 +138,10 @@ class Pen {
 
   critical(): Points {
     const T = this.engine.CritT() - 1e-6 * (this.engine.CritT() - modelToDrawn('T', 273.16));
-    const both = this.points({ T: filled(2, T),
-      x: Float64Array.of(modelToDrawn('x', 0), modelToDrawn('x', 1)) });
+    const both = this.points({
+      T: filled(2, T),
+      x: Float64Array.of(modelToDrawn('x', 0), modelToDrawn('x', 1)),
+    });
     const middle = (values: Float64Array) => Float64Array.of((values[0]! + values[1]!) / 2);
     return { x: middle(both.x), y: middle(both.y) };
   }
@@ -128,7 +149,8 @@ class Pen {
   isobar(P: number): Points {
     const [low, high] = this.range('h');
     const within = [...spaced(low, high, 300)];
-    if (P < this.engine.CritP()) {  // with the corners on the saturation line
+    if (P < this.engine.CritP()) {
+      // with the corners on the saturation line
       const x = Float64Array.of(modelToDrawn('x', 0), modelToDrawn('x', 1));
       const corners = this.engine.state({ P: filled(2, P), x }) as State<Float64Array>;
       within.push(...corners.h.filter(h => h > low && h < high));
@@ -144,14 +166,17 @@ class Pen {
     try {
       boiling = this.engine.PSatT(T);
     } catch {
-      return this.points({ P, T: filled(P.length, T) });  // below the triple point
+      return this.points({ P, T: filled(P.length, T) }); // below the triple point
     }
     const one = (side: Float64Array) => this.points({ P: side, T: filled(side.length, T) });
     const x = spaced(modelToDrawn('x', 0), modelToDrawn('x', 1), 30);
     const across = this.points({ T: filled(30, T), x });
-    if ('P' in this.kind.families) across.x.fill(NaN);  // where an isotherm is an isobar
-    return joined(one(P.filter(p => p > boiling * 1.00001)), across,
-      one(Float64Array.from([boiling * 0.9998, ...P.filter(p => p < boiling * 0.9997)])));
+    if ('P' in this.kind.families) across.x.fill(NaN); // where an isotherm is an isobar
+    return joined(
+      one(P.filter(p => p > boiling * 1.00001)),
+      across,
+      one(Float64Array.from([boiling * 0.9998, ...P.filter(p => p < boiling * 0.9997)])),
+    );
   }
 
   along(name: string, level: number): Points {

@@ -8,7 +8,10 @@ import { phaseText } from '../state/properties.tsx';
 import type { Drawing } from './drawing.ts';
 import { drawn, type Kind } from './kinds.ts';
 
-export interface Spot { x: number; y: number }
+export interface Spot {
+  x: number;
+  y: number;
+}
 
 /** The state at a place of a diagram, or why there is none. */
 export function stateAt(kind: Kind, drawing: Drawing, { x, y }: Spot): State | string {
@@ -26,8 +29,12 @@ export class Reader {
   private spot: Spot | undefined;
   private cells = new Map<string, HTMLElement>();
 
-  constructor(private kind: Kind, private drawing: Drawing, private table: HTMLElement,
-    private cross: SVGPathElement) {
+  constructor(
+    private kind: Kind,
+    private drawing: Drawing,
+    private table: HTMLElement,
+    private cross: SVGPathElement,
+  ) {
     for (const cell of table.querySelectorAll<HTMLElement>('[data-name]')) {
       this.cells.set(cell.dataset.name!, cell);
     }
@@ -38,7 +45,9 @@ export class Reader {
     this.frame ||= requestAnimationFrame(() => this.write());
   }
 
-  stop() { cancelAnimationFrame(this.frame); }
+  stop() {
+    cancelAnimationFrame(this.frame);
+  }
 
   private write() {
     this.frame = 0;
@@ -63,8 +72,15 @@ export class Reader {
   }
 }
 
-export function Readout({ kind, drawing, spot, cross }: {
-  kind: Kind; drawing: Drawing; spot: (reader: Reader) => void;
+export function Readout({
+  kind,
+  drawing,
+  spot,
+  cross,
+}: {
+  kind: Kind;
+  drawing: Drawing;
+  spot: (reader: Reader) => void;
   cross: { current: SVGPathElement | null };
 }) {
   const table = useRef<HTMLElement>(null);
@@ -75,14 +91,18 @@ export function Readout({ kind, drawing, spot, cross }: {
   }, [kind, drawing]);
   return (
     <section class="readout" ref={table} aria-label="State under the pointer">
-      <h2 class="phase" data-name="phase">Point at the diagram</h2>
+      <h2 class="phase" data-name="phase">
+        Point at the diagram
+      </h2>
       <table class="properties">
         <caption class="unseen">Properties of the state under the pointer</caption>
         <tbody>
           {Object.values(properties).map(({ name, words, group }) => (
             <tr key={name}>
               <th scope="row">{capital(words)}</th>
-              <td class="number" data-name={name}>–</td>
+              <td class="number" data-name={name}>
+                –
+              </td>
               <td class="unit">{group < 0 ? '' : pretty(drawn.value.unit(group))}</td>
             </tr>
           ))}

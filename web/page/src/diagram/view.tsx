@@ -19,42 +19,60 @@ const viewText = ({ k, x, y }: View): string | undefined =>
 
 export function DiagramView() {
   const kind = kindNow();
-  const reader = useRef<Reader | undefined>(undefined), cross = useRef<SVGPathElement>(null);
-  const surface = useRef<Surface | undefined>(undefined), zoomer = useRef<Zoomer | undefined>(undefined);
+  const reader = useRef<Reader | undefined>(undefined),
+    cross = useRef<SVGPathElement>(null);
+  const surface = useRef<Surface | undefined>(undefined),
+    zoomer = useRef<Zoomer | undefined>(undefined);
   const [drawing, setDrawing] = useState<Drawing>();
   const [said, say] = useState('');
 
   const tell = (spot: Spot, now: Drawing) => {
     const state = stateAt(kind, now, spot);
-    say(typeof state === 'string' ? 'No state here' : ['P', 'T', 'h', 's'].reduce((text, name) =>
-      `${text}, ${properties[name]!.words} ${show(state.get(name), 5)} ${state.unit(name)}`,
-    phaseText(state)));
+    say(
+      typeof state === 'string'
+        ? 'No state here'
+        : ['P', 'T', 'h', 's'].reduce(
+            (text, name) =>
+              `${text}, ${properties[name]!.words} ${show(state.get(name), 5)} ${state.unit(name)}`,
+            phaseText(state),
+          ),
+    );
   };
 
-  const onDrawn = useCallback((made: Surface, now: Drawing) => {
-    surface.current = made;
-    setDrawing(now);
-    zoomer.current = handle(made, now, viewNow(), {
-      look: spot => reader.current?.move(spot),
-      tell: spot => tell(spot, now),
-      zoomed: transform => put({ zoom: viewText(viewOf(transform, now.width, now.height)) }),
-      take: spot => {
-        const state = stateAt(kind, now, spot);
-        if (typeof state === 'string') return;
-        // Pressure and enthalpy tell a state everywhere; in the chosen units, not the diagram's.
-        const texts = Object.fromEntries([['P', 'P'], ['H', 'h']].map(([letter, name]) => {
-          return [letter, tidy(fromDrawn(name!, state.get(name!)))];
-        }));
-        go(withInputs(texts));
-        say(`State taken: ${phaseText(state)}`);
-      },
-    });
-    return () => zoomer.current?.stop();
-  }, [kind]);
+  const onDrawn = useCallback(
+    (made: Surface, now: Drawing) => {
+      surface.current = made;
+      setDrawing(now);
+      zoomer.current = handle(made, now, viewNow(), {
+        look: spot => reader.current?.move(spot),
+        tell: spot => tell(spot, now),
+        zoomed: transform => put({ zoom: viewText(viewOf(transform, now.width, now.height)) }),
+        take: spot => {
+          const state = stateAt(kind, now, spot);
+          if (typeof state === 'string') return;
+          // Pressure and enthalpy tell a state everywhere; in the chosen units, not the diagram's.
+          const texts = Object.fromEntries(
+            [
+              ['P', 'P'],
+              ['H', 'h'],
+            ].map(([letter, name]) => {
+              return [letter, tidy(fromDrawn(name!, state.get(name!)))];
+            }),
+          );
+          go(withInputs(texts));
+          say(`State taken: ${phaseText(state)}`);
+        },
+      });
+      return () => zoomer.current?.stop();
+    },
+    [kind],
+  );
 
   const hidden = value('without').split(',').filter(Boolean);
   const toggle = (family: string) => {
-    const next = hidden.includes(family) ? hidden.filter(name => name !== family) : [...hidden, family];
+    const next = hidden.includes(family)
+      ? hidden.filter(name => name !== family)
+      : [...hidden, family];
     put({ without: next.join() || undefined });
   };
   const name = `calvex-${kindName()}`;
@@ -65,9 +83,19 @@ export function DiagramView() {
           <legend class="unseen">Which diagram</legend>
           {Object.entries(kinds).map(([key, each]) => (
             <label key={key} title={each.title}>
-              <input type="radio" name="kind" checked={each === kind}
-                onChange={() => go({ ...address.value, page: 'diagram', item: key,
-                  values: { ...address.value.values, kind: key, zoom: '' } })} />
+              <input
+                type="radio"
+                name="kind"
+                checked={each === kind}
+                onChange={() =>
+                  go({
+                    ...address.value,
+                    page: 'diagram',
+                    item: key,
+                    values: { ...address.value.values, kind: key, zoom: '' },
+                  })
+                }
+              />
               <span>{{ Ts: 'T–s', hs: 'h–s', logph: 'log p–h' }[key]}</span>
             </label>
           ))}
@@ -76,34 +104,63 @@ export function DiagramView() {
           <legend class="unseen">Lines</legend>
           {Object.keys(kind.families).map(family => (
             <label key={family} class={`check of-${family}`}>
-              <input type="checkbox" checked={familiesNow(kind).includes(family)}
-                onChange={() => toggle(family)} />
+              <input
+                type="checkbox"
+                checked={familiesNow(kind).includes(family)}
+                onChange={() => toggle(family)}
+              />
               {capital(familyWords(family))}
             </label>
           ))}
         </fieldset>
         <span class="buttons">
-          <button type="button" onClick={() => zoomer.current?.by(1.5)} aria-label="Zoom in">+</button>
-          <button type="button" onClick={() => zoomer.current?.by(1 / 1.5)} aria-label="Zoom out">−</button>
-          <button type="button" disabled={viewNow() === wholeView}
-            onClick={() => put({ zoom: undefined })}>Whole</button>
-          <button type="button" onClick={() => saveSvg(surface.current!.svg, name)}>SVG</button>
-          <button type="button" onClick={() => savePng(surface.current!.svg, name)}>PNG</button>
-          <button type="button" onClick={() => print()}>Print</button>
+          <button type="button" onClick={() => zoomer.current?.by(1.5)} aria-label="Zoom in">
+            +
+          </button>
+          <button type="button" onClick={() => zoomer.current?.by(1 / 1.5)} aria-label="Zoom out">
+            −
+          </button>
+          <button
+            type="button"
+            disabled={viewNow() === wholeView}
+            onClick={() => put({ zoom: undefined })}
+          >
+            Whole
+          </button>
+          <button type="button" onClick={() => saveSvg(surface.current!.svg, name)}>
+            SVG
+          </button>
+          <button type="button" onClick={() => savePng(surface.current!.svg, name)}>
+            PNG
+          </button>
+          <button type="button" onClick={() => print()}>
+            Print
+          </button>
         </span>
       </div>
       <div class="beside">
         <div>
-          <Diagram kind={kind} onDrawn={onDrawn}
-            over={<path ref={cross} class="cross" data-screen="" />} />
+          <Diagram
+            kind={kind}
+            onDrawn={onDrawn}
+            over={<path ref={cross} class="cross" data-screen="" />}
+          />
           <p class="quiet keys">
-            Wheel or <kbd>+</kbd> <kbd>−</kbd> zooms, dragging or the arrows move, <kbd>0</kbd> shows
-            the whole. <kbd>Shift</kbd> and the arrows move the cross, a click or <kbd>Enter</kbd> takes
-            the state there.
+            Wheel or <kbd>+</kbd> <kbd>−</kbd> zooms, dragging or the arrows move, <kbd>0</kbd>{' '}
+            shows the whole. <kbd>Shift</kbd> and the arrows move the cross, a click or{' '}
+            <kbd>Enter</kbd> takes the state there.
           </p>
         </div>
-        {drawing && <Readout kind={kind} drawing={drawing} cross={cross}
-          spot={made => { reader.current = made; }} />}
+        {drawing && (
+          <Readout
+            kind={kind}
+            drawing={drawing}
+            cross={cross}
+            spot={made => {
+              reader.current = made;
+            }}
+          />
+        )}
       </div>
       <Announce text={said} />
     </div>

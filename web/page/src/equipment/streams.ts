@@ -10,25 +10,33 @@ export type Stream = Partial<Record<'P' | 'T' | 'H' | 'S' | 'Q' | 'M', number>>;
 export type Streams = Record<string, Stream>;
 
 const kindsOfValue: readonly { letter: keyof Stream; words: RegExp }[] = [
-  { letter: 'P', words: /\bpressure\b/ }, { letter: 'T', words: /\btemperature\b/ },
-  { letter: 'H', words: /\benthalpy\b/ }, { letter: 'S', words: /\bentropy\b/ },
-  { letter: 'Q', words: /\bquality\b/ }, { letter: 'M', words: /\bflow( rate)?\b/ },
+  { letter: 'P', words: /\bpressure\b/ },
+  { letter: 'T', words: /\btemperature\b/ },
+  { letter: 'H', words: /\benthalpy\b/ },
+  { letter: 'S', words: /\bentropy\b/ },
+  { letter: 'Q', words: /\bquality\b/ },
+  { letter: 'M', words: /\bflow( rate)?\b/ },
 ];
 const flowGroup = () => groups.find(group => group.name === 'Mass Flow Rate')!.number;
-const groupOf = (letter: keyof Stream): number => letter === 'M' ? flowGroup() : letterRow(letter).group;
+const groupOf = (letter: keyof Stream): number =>
+  letter === 'M' ? flowGroup() : letterRow(letter).group;
 
 const fillers = /\b(of|the|at|that|leaves|stream|flow)\b/g;
 /** "steam" and "water" count only where nothing else tells streams apart. */
 const media = /\b(steam|water)\b/g;
 
 /** The stream of a value, and which property of it the value is. */
-export function streamOf({ words, group }: ValueInfo): { stream: string; letter: keyof Stream } | undefined {
+export function streamOf({
+  words,
+  group,
+}: ValueInfo): { stream: string; letter: keyof Stream } | undefined {
   const text = words.replace(/,.*/, '');
   const kind = kindsOfValue.find(each => each.words.test(text) && groupOf(each.letter) === group);
   if (!kind) return undefined;
   const rest = text.replace(kind.words, '').replace(fillers, ' ');
-  const name = [rest.replace(media, ' '), rest].map(each => each.replace(/\s+/g, ' ').trim())
-    .find(Boolean) ?? '';
+  const name =
+    [rest.replace(media, ' '), rest].map(each => each.replace(/\s+/g, ' ').trim()).find(Boolean) ??
+    '';
   // "hot outlet" and "outlet hot" are one.
   return { stream: name.split(' ').sort().join(' '), letter: kind.letter };
 }
@@ -59,7 +67,11 @@ function shareFlows(streams: Streams) {
 }
 
 /** A stream leaves with its inlet pressure less the drop. */
-function dropPressures(member: MemberInfo, values: Readonly<Record<string, number>>, streams: Streams) {
+function dropPressures(
+  member: MemberInfo,
+  values: Readonly<Record<string, number>>,
+  streams: Streams,
+) {
   for (const info of member.inputs) {
     const side = /^pressure drop of the (\w+) stream$/.exec(info.words)?.[1];
     const drop = values[info.name];
@@ -67,7 +79,8 @@ function dropPressures(member: MemberInfo, values: Readonly<Record<string, numbe
     if (side === undefined || drop === undefined || before === undefined) continue;
     const { group } = letterRow('P');
     const { modelUnit } = groups[group]!;
-    const after = convert(group, before, unitName(group), modelUnit) -
+    const after =
+      convert(group, before, unitName(group), modelUnit) -
       convert(info.group, drop, unitName(info.group), groups[info.group]!.modelUnit);
     (streams[`${side} outlet`] ??= {}).P = convert(group, after, modelUnit, unitName(group));
   }
@@ -75,7 +88,7 @@ function dropPressures(member: MemberInfo, values: Readonly<Record<string, numbe
 
 /** Where a model has one pressure, all of its streams have it. */
 function sharePressure(streams: Streams) {
-  const pressures = Object.values(streams).flatMap(({ P }) => P === undefined ? [] : [P]);
+  const pressures = Object.values(streams).flatMap(({ P }) => (P === undefined ? [] : [P]));
   if (pressures.length !== 1) return;
   for (const stream of Object.values(streams)) stream.P ??= pressures[0];
 }
@@ -85,7 +98,14 @@ export function stateOf({ P, T, H, Q }: Stream): State | undefined {
   const pairs: Record<string, number | undefined>[] = [{ P, h: H }];
   // A temperature on the saturation line tells a state only with the quality.
   const wet = Q !== undefined && Q > 0 && Q < 1;
-  pairs.push(...wet ? [{ P, x: Q }] : [{ P, T }, { P, x: Q }]);
+  pairs.push(
+    ...(wet
+      ? [{ P, x: Q }]
+      : [
+          { P, T },
+          { P, x: Q },
+        ]),
+  );
   for (const pair of pairs) {
     if (Object.values(pair).some(value => value === undefined)) continue;
     try {

@@ -7,5 +7,5 @@ export function Announce({ text }: { text: string }) {
     const wait = setTimeout(() => say(text), 500);
     return () => clearTimeout(wait);
   }, [text]);
-  return <p class="unseen" role="status" aria-live="polite">{said}</p>;
+  return <output class="unseen">{said}</output>;
 }

@@ -37,8 +37,13 @@ export function App() {
   const main = useRef<HTMLElement>(null);
   const [keysShown, showKeys] = useState(false);
   const [copied, setCopied] = useState(false);
-  useKeys(views.map(view => view.page), () => showKeys(true));
-  useLayoutEffect(() => { document.title = `${title} – Calvex, water and steam`; }, [title]);
+  useKeys(
+    views.map(view => view.page),
+    () => showKeys(true),
+  );
+  useLayoutEffect(() => {
+    document.title = `${title} – Calvex, water and steam`;
+  }, [title]);
   useEffect(() => {
     document.addEventListener('click', follow);
     return () => document.removeEventListener('click', follow);
@@ -50,33 +55,52 @@ export function App() {
   };
   return (
     <>
-      <a class="skip" href="#main">To the content</a>
+      <a class="skip" href="#main">
+        To the content
+      </a>
       <header class="top">
-        <p class="brand"><strong>Calvex</strong> <span>water and steam</span></p>
+        <p class="brand">
+          <strong>Calvex</strong> <span>water and steam</span>
+        </p>
         <nav aria-label="Views">
           {views.map((view, i) => (
-            <a key={view.page} href={linkTo(view.page)} title={`Key ${i + 1}`}
-              aria-current={view.title === title ? 'page' : undefined}>{view.title}</a>
+            <a
+              key={view.page}
+              href={linkTo(view.page)}
+              title={`Key ${i + 1}`}
+              aria-current={view.title === title ? 'page' : undefined}
+            >
+              {view.title}
+            </a>
           ))}
           <a href="docs/index.html">Documentation</a>
         </nav>
         <div class="buttons">
-          <button type="button" onClick={share}>{copied ? 'Copied' : 'Copy link'}</button>
+          <button type="button" onClick={share}>
+            {copied ? 'Copied' : 'Copy link'}
+          </button>
           <button type="button" onClick={nextTheme} aria-label={`Colours: ${theme.value}`}>
             {{ auto: 'Auto', light: 'Light', dark: 'Dark' }[theme.value]}
           </button>
-          <button type="button" class="help" onClick={() => showKeys(true)} aria-label="Keys">?</button>
+          <button type="button" class="help" onClick={() => showKeys(true)} aria-label="Keys">
+            ?
+          </button>
         </div>
-        <p class="unseen" role="status">{copied ? 'The link is in the clipboard.' : ''}</p>
+        <output class="unseen">{copied ? 'The link is in the clipboard.' : ''}</output>
       </header>
       <main id="main" ref={main} tabIndex={-1}>
         <h1 class="unseen">{title}</h1>
-        {unitTroubles.value.map(text => <p key={text} class="trouble notice" role="alert">{text}</p>)}
+        {unitTroubles.value.map(text => (
+          <p key={text} class="trouble notice" role="alert">
+            {text}
+          </p>
+        ))}
         <View />
       </main>
       <footer>
         <p>
-          Calvex {version}, IAPS Formulation 1984. Computed in this page: nothing you type leaves it.
+          Calvex {version}, IAPS Formulation 1984. Computed in this page: nothing you type leaves
+          it.
         </p>
       </footer>
       <KeysDialog shown={keysShown} close={() => showKeys(false)} />

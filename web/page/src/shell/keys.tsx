@@ -14,12 +14,20 @@ const typing = (target: EventTarget | null): boolean =>
 export function useKeys(pages: readonly string[], showKeys: () => void) {
   useEffect(() => {
     const key = (event: KeyboardEvent) => {
-      if (!single.value || event.ctrlKey || event.metaKey || event.altKey ||
-        typing(event.target) || document.querySelector('dialog[open]')) return;
+      if (
+        !single.value ||
+        event.ctrlKey ||
+        event.metaKey ||
+        event.altKey ||
+        typing(event.target) ||
+        document.querySelector('dialog[open]')
+      )
+        return;
       const page = pages[Number(event.key) - 1];
       if (page) go({ ...address.value, page, item: '' });
       else if (event.key === '?') showKeys();
-      else if (event.key === '/') document.querySelector<HTMLElement>('main input, main select')?.focus();
+      else if (event.key === '/')
+        document.querySelector<HTMLElement>('main input, main select')?.focus();
       else return;
       event.preventDefault();
     };
@@ -47,16 +55,29 @@ export function KeysDialog({ shown, close }: { shown: boolean; close: () => void
     <dialog ref={dialog} aria-labelledby="keys-title" onClose={close}>
       <h2 id="keys-title">Keys</h2>
       <dl class="keys">
-        {keys.map(([key, words]) => <div key={key}><dt><kbd>{key}</kbd></dt><dd>{words}</dd></div>)}
+        {keys.map(([key, words]) => (
+          <div key={key}>
+            <dt>
+              <kbd>{key}</kbd>
+            </dt>
+            <dd>{words}</dd>
+          </div>
+        ))}
       </dl>
       <label class="check">
-        <input type="checkbox" checked={single.value} onChange={event => {
-          single.value = event.currentTarget.checked;
-          remember('keys', single.value ? 'on' : 'off');
-        }} />
+        <input
+          type="checkbox"
+          checked={single.value}
+          onChange={event => {
+            single.value = event.currentTarget.checked;
+            remember('keys', single.value ? 'on' : 'off');
+          }}
+        />
         single keys work outside of fields
       </label>
-      <form method="dialog"><button>Close</button></form>
+      <button type="button" onClick={() => dialog.current?.close()}>
+        Close
+      </button>
     </dialog>
   );
 }

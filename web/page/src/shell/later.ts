@@ -9,7 +9,7 @@ let painted = false;
 export function useLater(): boolean {
   const [later, set] = useState(painted);
   useEffect(() => {
-    if (!later) afterPaint(() => set(painted = true));
+    if (!later) afterPaint(() => set((painted = true)));
   }, []);
   return later;
 }

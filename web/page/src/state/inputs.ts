@@ -3,8 +3,17 @@ import { CalvexError, pairs, type State } from 'calvex/load';
 import { computed } from '@preact/signals';
 
 import { address, replace, changed } from '../address.ts';
-import { blamed, exampleText, holders, letterRow, members, propertyOf, readInput, reasonOf, steam }
-  from '../engine.ts';
+import {
+  blamed,
+  exampleText,
+  holders,
+  letterRow,
+  members,
+  propertyOf,
+  readInput,
+  reasonOf,
+  steam,
+} from '../engine.ts';
 import type { Quantity } from '../engine.ts';
 
 export interface Input extends Quantity {
@@ -20,8 +29,10 @@ const quantityOf = (letter: string): Quantity => {
 /** The keys of the state in the address: its inputs, in their order. */
 const stateLetters = new Set(pairs.join(''));
 const lettersOf = (keys: string[]) => keys.filter(key => stateLetters.has(key));
-const pairOf = (letters: string[]) => pairs.find(pair =>
-  letters.length === 2 && pair.includes(letters[0]!) && pair.includes(letters[1]!));
+const pairOf = (letters: string[]) =>
+  pairs.find(
+    pair => letters.length === 2 && pair.includes(letters[0]!) && pair.includes(letters[1]!),
+  );
 
 /** A value to begin with: that of the member's example which answers or takes the letter. */
 function firstText(letter: string, pair: string): string {
@@ -38,16 +49,21 @@ function firstText(letter: string, pair: string): string {
 
 export const pair = computed(() => pairOf(lettersOf(Object.keys(address.value.values))) ?? 'PT');
 
-export const inputs = computed<Input[]>(() => pair.value.split('').map(letter => ({
-  letter, ...quantityOf(letter),
-  text: address.value.values[letter] ?? firstText(letter, pair.value),
-})));
+export const inputs = computed<Input[]>(() =>
+  pair.value.split('').map(letter => ({
+    letter,
+    ...quantityOf(letter),
+    text: address.value.values[letter] ?? firstText(letter, pair.value),
+  })),
+);
 
-holders.push(() => Object.fromEntries([...stateLetters].map(letter => [letter, quantityOf(letter)])));
+holders.push(() =>
+  Object.fromEntries([...stateLetters].map(letter => [letter, quantityOf(letter)])),
+);
 
 export type Answer =
-  { state: State; troubles?: undefined } |
-  { state?: undefined; troubles: Record<string, string>; code?: number };
+  | { state: State; troubles?: undefined }
+  | { state?: undefined; troubles: Record<string, string>; code?: number };
 
 /** The state, or what is wrong by the letter of the input whose fault it is. */
 export const answer = computed<Answer>(() => {
@@ -71,18 +87,27 @@ export const answer = computed<Answer>(() => {
 /** Another pair: what the state is now, in other properties. */
 export function choosePair(next: string) {
   const { state } = answer.value;
-  replace(withInputs(Object.fromEntries(next.split('').map(letter => {
-    const known = state?.get(propertyOf(letter).name) ?? NaN;
-    const kept = address.value.values[letter];
-    const text = Number.isFinite(known) ? exampleText(-1, known) : kept ?? firstText(letter, next);
-    return [letter, text];
-  }))));
+  replace(
+    withInputs(
+      Object.fromEntries(
+        next.split('').map(letter => {
+          const known = state?.get(propertyOf(letter).name) ?? NaN;
+          const kept = address.value.values[letter];
+          const text = Number.isFinite(known)
+            ? exampleText(-1, known)
+            : (kept ?? firstText(letter, next));
+          return [letter, text];
+        }),
+      ),
+    ),
+  );
 }
 
 /** The address with these inputs of the state. */
 export function withInputs(texts: Record<string, string>) {
-  const others = Object.fromEntries(lettersOf(Object.keys(address.value.values))
-    .map(letter => [letter, undefined]));
+  const others = Object.fromEntries(
+    lettersOf(Object.keys(address.value.values)).map(letter => [letter, undefined]),
+  );
   const without = changed(others);
   return { ...without, values: { ...texts, ...without.values } };
 }

@@ -25,17 +25,28 @@ export const trace = computed<TraceNode | undefined>(() => {
   return root;
 });
 
-const messages = (node: TraceNode): number => node.children.reduce((count, child) =>
-  count + messages(child), node.kind === 'call' || node.kind === 'root' ? 0 : 1);
+const messages = (node: TraceNode): number =>
+  node.children.reduce(
+    (count, child) => count + messages(child),
+    node.kind === 'call' || node.kind === 'root' ? 0 : 1,
+  );
 
 function Node({ node, open }: { node: TraceNode; open: boolean }) {
-  const text = <><span class={`kind ${node.kind.replace(' ', '-')}`}>{node.kind}</span> {node.text}</>;
+  const text = (
+    <>
+      <span class={`kind ${node.kind.replace(' ', '-')}`}>{node.kind}</span> {node.text}
+    </>
+  );
   if (node.children.length === 0) return <li>{text}</li>;
   return (
     <li>
       <details open={open}>
         <summary>{text}</summary>
-        <ul>{node.children.map((child, i) => <Node key={i} node={child} open={open} />)}</ul>
+        <ul>
+          {node.children.map((child, i) => (
+            <Node key={i} node={child} open={open} />
+          ))}
+        </ul>
       </details>
     </li>
   );
@@ -49,19 +60,29 @@ export function Trace() {
     <section class="trace" aria-labelledby="trace-title">
       <h2 id="trace-title">Trace</h2>
       <p class="quiet">
-        {pair.value === 'HS' ? 'No member takes enthalpy and entropy, so nothing is recorded.' :
-          count === 0 ? 'The calls left no message.' :
-          `${count} message${count === 1 ? '' : 's'} of the calls behind this state.`}
+        {pair.value === 'HS'
+          ? 'No member takes enthalpy and entropy, so nothing is recorded.'
+          : count === 0
+            ? 'The calls left no message.'
+            : `${count} message${count === 1 ? '' : 's'} of the calls behind this state.`}
       </p>
       <label class="check">
-        <input type="checkbox" checked={notes}
-          onChange={event => put({ trace: event.currentTarget.checked ? 'notes' : undefined })} />
+        <input
+          type="checkbox"
+          checked={notes}
+          onChange={event => put({ trace: event.currentTarget.checked ? 'notes' : undefined })}
+        />
         with the notes of the solver
       </label>
       {root && root.children.length > 0 && (
         <ul class="tree">
-          {root.children.map((child, i) => <Node key={`${child.text}${i}`} node={child}
-            open={child.gravest !== 'note' && child.gravest !== 'call'} />)}
+          {root.children.map((child, i) => (
+            <Node
+              key={`${child.text}${i}`}
+              node={child}
+              open={child.gravest !== 'note' && child.gravest !== 'call'}
+            />
+          ))}
         </ul>
       )}
     </section>

@@ -4,7 +4,12 @@ import type { State } from 'calvex/load';
 import { pretty, propertyOf, steam, unitName } from '../engine.ts';
 import { fullQuality } from '../state/properties.tsx';
 
-export interface Column { words: string; of?: 'liquid' | 'vapour'; unit: string; symbol: string }
+export interface Column {
+  words: string;
+  of?: 'liquid' | 'vapour';
+  unit: string;
+  symbol: string;
+}
 export interface Table {
   columns: Column[];
   /** A text is a phase; NaN is a value that there is not. */
@@ -13,7 +18,11 @@ export interface Table {
   reasons: string[];
 }
 
-export interface Range { from: number; to: number; step: number }
+export interface Range {
+  from: number;
+  to: number;
+  step: number;
+}
 export const mostRows = 5000;
 
 /** The values of a range, its end too where a step reaches it but for rounding. */
@@ -24,7 +33,7 @@ export function valuesOf({ from, to, step }: Range): number[] {
 
 const column = (letter: string, of?: Column['of']): Column => {
   const { words, group, name } = propertyOf(letter);
-  return { words, unit: group < 0 ? '' : pretty(unitName(group)), symbol: name, ...of && { of } };
+  return { words, unit: group < 0 ? '' : pretty(unitName(group)), symbol: name, ...(of && { of }) };
 };
 
 /** Why the points of an array failed, each reason once. */
@@ -39,14 +48,24 @@ const phases = ['liquid', 'vapour'] as const;
 export function saturation(by: 'T' | 'P', range: Range): Table {
   const given = Float64Array.from(valuesOf(range));
   const other = by === 'T' ? 'P' : 'T';
-  const ends = phases.map((_, end) => steam.value.state({
-    [by]: given, x: new Float64Array(given.length).fill(end * fullQuality()),
-  }) as State<Float64Array>);
+  const ends = phases.map(
+    (_, end) =>
+      steam.value.state({
+        [by]: given,
+        x: new Float64Array(given.length).fill(end * fullQuality()),
+      }) as State<Float64Array>,
+  );
   const reasons = reasonsOf();
-  const columns = [column(by), column(other),
-    ...ofPhases.flatMap(letter => phases.map(phase => column(letter, phase)))];
-  const values = [given, ends[1]!.get(other),
-    ...ofPhases.flatMap(letter => ends.map(states => states.get(propertyOf(letter).name)))];
+  const columns = [
+    column(by),
+    column(other),
+    ...ofPhases.flatMap(letter => phases.map(phase => column(letter, phase))),
+  ];
+  const values = [
+    given,
+    ends[1]!.get(other),
+    ...ofPhases.flatMap(letter => ends.map(states => states.get(propertyOf(letter).name))),
+  ];
   const rows = Array.from(given, (_, i) => values.map(each => each[i]!));
   return { columns, rows: rows.filter(row => !Number.isNaN(row[1])), reasons };
 }
@@ -56,12 +75,17 @@ const ofStates = ['V', 'R', 'H', 'S', 'U', 'C', 'W', 'M', 'K'];
 /** States at one pressure by temperature, with both saturated states where it crosses the line. */
 export function isobar(pressure: number, range: Range): Table {
   const given = Float64Array.from(valuesOf(range));
-  const states = steam.value.state({ P: new Float64Array(given.length).fill(pressure), T: given }) as
-    State<Float64Array>;
+  const states = steam.value.state({
+    P: new Float64Array(given.length).fill(pressure),
+    T: given,
+  }) as State<Float64Array>;
   const reasons = reasonsOf();
   const values = ofStates.map(letter => states.get(propertyOf(letter).name));
-  const rows: (number | string)[][] = Array.from(given, (T, i) =>
-    [T, states.phase[i]!, ...values.map(each => each[i]!)]).filter(row => row[1] !== '');
+  const rows: (number | string)[][] = Array.from(given, (T, i) => [
+    T,
+    states.phase[i]!,
+    ...values.map(each => each[i]!),
+  ]).filter(row => row[1] !== '');
   for (const [end, phase] of phases.entries()) {
     try {
       const state = steam.value.state({ P: pressure, x: end * fullQuality() });
@@ -74,7 +98,11 @@ export function isobar(pressure: number, range: Range): Table {
     }
   }
   const phase: Column = { words: 'phase', unit: '', symbol: 'phase' };
-  return { columns: [column('T'), phase, ...ofStates.map(letter => column(letter))], rows, reasons };
+  return {
+    columns: [column('T'), phase, ...ofStates.map(letter => column(letter))],
+    rows,
+    reasons,
+  };
 }
 
 function one(state: State, letter: string): number {
@@ -90,8 +118,14 @@ export const heading = ({ symbol, of, unit }: Column): string =>
 
 /** With all digits, for a spreadsheet; what is missing is an empty cell. */
 export const asText = ({ columns, rows }: Table, between: string): string =>
-  [columns.map(heading), ...rows.map(row => row.map(cell =>
-    typeof cell === 'string' ? cell : Number.isFinite(cell) ? String(cell) : ''))]
-    .map(cells => cells.map(cell => cell.includes(between) ? `"${cell}"` : cell).join(between))
-    .join('\r\n') + '\r\n';
-
+  [
+    columns.map(heading),
+    ...rows.map(row =>
+      row.map(cell =>
+        typeof cell === 'string' ? cell : Number.isFinite(cell) ? String(cell) : '',
+      ),
+    ),
+  ]
+    .map(cells => cells.map(cell => (cell.includes(between) ? `"${cell}"` : cell)).join(between))
+    .map(text => `${text}\r\n`)
+    .join('');

@@ -5,17 +5,37 @@ import { put, value } from '../address.ts';
 import { capital, chooseUnits, groups, pretty, readInput, show, unitName } from '../engine.ts';
 import { Field, UnitChoice } from '../field.tsx';
 
-const modelUnits = () => Object.fromEntries(groups.map(group => [group.keywords[0]!, group.modelUnit]));
+const modelUnits = () =>
+  Object.fromEntries(groups.map(group => [group.keywords[0]!, group.modelUnit]));
 
 /** What people mostly work in, beside the units of the model. */
 const sets: readonly { title: string; units: Readonly<Record<string, string>> }[] = [
   { title: 'MPa and K', units: {} },
-  { title: 'bar and °C', units: { P: 'bara', T: 'C', 'Flow Rate': 'te/h', Power: 'MW', 'Heat Duty': 'MW' } },
-  { title: 'psi and °F', units: {
-    P: 'psia', T: 'F', H: 'Btu/lb', S: 'Btu/(lb.R)', U: 'Btu/lb', A: 'Btu/lb', G: 'Btu/lb',
-    V: 'ft3/lbm', R: 'lb/ft³', C: 'Btu/(lb.F)', W: 'ft/s', 'Flow Rate': 'lb/h', 'Heat Duty': 'MMBtu/h',
-    Power: 'hp', DT: 'F', DP: 'psia',
-  } },
+  {
+    title: 'bar and °C',
+    units: { P: 'bara', T: 'C', 'Flow Rate': 'te/h', Power: 'MW', 'Heat Duty': 'MW' },
+  },
+  {
+    title: 'psi and °F',
+    units: {
+      P: 'psia',
+      T: 'F',
+      H: 'Btu/lb',
+      S: 'Btu/(lb.R)',
+      U: 'Btu/lb',
+      A: 'Btu/lb',
+      G: 'Btu/lb',
+      V: 'ft3/lbm',
+      R: 'lb/ft³',
+      C: 'Btu/(lb.F)',
+      W: 'ft/s',
+      'Flow Rate': 'lb/h',
+      'Heat Duty': 'MMBtu/h',
+      Power: 'hp',
+      DT: 'F',
+      DP: 'psia',
+    },
+  },
 ];
 
 export function UnitsView() {
@@ -27,20 +47,27 @@ export function UnitsView() {
           They hold in every view and stand in the address, so a link keeps them. Numbers that were
           typed are converted.
         </p>
-        <p class="buttons" role="group" aria-label="Sets of units">
+        <fieldset class="buttons">
+          <legend class="unseen">Sets of units</legend>
           {sets.map(({ title, units }) => (
-            <button key={title} type="button" onClick={() => chooseUnits({ ...modelUnits(), ...units })}>
+            <button
+              key={title}
+              type="button"
+              onClick={() => chooseUnits({ ...modelUnits(), ...units })}
+            >
               {title}
             </button>
           ))}
-        </p>
+        </fieldset>
         <table class="properties">
           <caption class="unseen">The unit of each quantity</caption>
           <tbody>
             {groups.map(group => (
               <tr key={group.number}>
                 <th scope="row">{group.name}</th>
-                <td><UnitChoice group={group.number} label={group.name} /></td>
+                <td>
+                  <UnitChoice group={group.number} label={group.name} />
+                </td>
                 <td class="quiet">{noticeOf(group.number)}</td>
               </tr>
             ))}
@@ -63,17 +90,25 @@ function Converter() {
   const text = value('amount', '1');
   const quantity = { group: known.number, words: known.name };
   const reading = readInput(text, quantity);
-  const rows = known.units.filter((unit, i, all) =>
-    all.findIndex(other => pretty(other.name) === pretty(unit.name)) === i);
+  const rows = known.units.filter(
+    (unit, i, all) => all.findIndex(other => pretty(other.name) === pretty(unit.name)) === i,
+  );
   return (
     <section aria-labelledby="convert-title">
       <h2 id="convert-title">A value in all units</h2>
       <form class="inputs" aria-label="Value to convert" onSubmit={event => event.preventDefault()}>
         <div class="field">
           <label for="quantity">Quantity</label>
-          <select id="quantity" value={known.keywords[0]}
-            onChange={event => put({ quantity: event.currentTarget.value, amount: undefined })}>
-            {groups.map(group => <option key={group.number} value={group.keywords[0]}>{group.name}</option>)}
+          <select
+            id="quantity"
+            value={known.keywords[0]}
+            onChange={event => put({ quantity: event.currentTarget.value, amount: undefined })}
+          >
+            {groups.map(group => (
+              <option key={group.number} value={group.keywords[0]}>
+                {group.name}
+              </option>
+            ))}
           </select>
         </div>
         <Field name="amount" label="Value" text={text} {...quantity} trouble={reading.trouble} />
