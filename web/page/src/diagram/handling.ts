@@ -24,6 +24,7 @@ export function handle(
   { svg, frame, lines, over }: Surface,
   { width, height }: Drawing,
   view: View,
+  pointed: Spot | undefined,
   deeds: Deeds,
 ): Zoomer {
   const origin = transformOf(view, width, height);
@@ -66,7 +67,7 @@ export function handle(
     const [x, y] = pointer(event, frame);
     return x >= 0 && y >= 0 && x <= width && y <= height ? { x, y } : undefined;
   };
-  let cursor: Spot = { x: width / 2, y: height / 2 };
+  let cursor: Spot = pointed ?? { x: width / 2, y: height / 2 };
 
   const by = (factor: number, dx = 0, dy = 0) => {
     const now = zoomTransform(frame);
