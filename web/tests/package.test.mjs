@@ -35,7 +35,7 @@ test('an empty folder with the package answers', () => {
 
 test('the example of its page runs', () => {
   const page = readFileSync(join(folder, 'node_modules/calvex/README.md'), 'utf8');
-  const [, example] = /```js\n([^]*?)```/.exec(page);
+  const [, example] = /```js\n(.*?)```/s.exec(page);
   writeFileSync(
     join(folder, 'example.js'),
     example.replace('steam.HPT(100, 500);', 'console.log(steam.HPT(100, 500));'),
