@@ -153,9 +153,9 @@ std::string groupRow(int index) {
   const auto beside = unitsBesideCatalogue(group);
   units.insert(units.end(), beside.begin(), beside.end());
   return fmt::format(
-      R"({{"number":{},"name":{},"keywords":{},"modelUnit":{},"notice":{},"units":{}}})",
-      index, quoted(row.displayName), list(row.keywords, quoted),
-      quoted(toUtf8(row.internalUnit)), quoted(groupNotice(group)),
+      R"({{"number":{},"name":{},"keywords":{},"modelUnit":{},"notice":{},"units":{}}})", index,
+      quoted(row.displayName), list(row.keywords, quoted), quoted(toUtf8(row.internalUnit)),
+      quoted(groupNotice(group)),
       list(units, [&](const ZvUomLiteKeyword& each) { return unit(group, each); }));
 }
 
