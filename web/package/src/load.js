@@ -1,6 +1,5 @@
 // Everything of the package, and the engine that must be loaded before it is used.
 import { defineMembers } from './engine.js';
-import { readTables } from './table.js';
 import { start } from './wasm.js';
 
 export { Engine, Results } from './engine.js';
@@ -53,7 +52,9 @@ const vectors = Uint8Array.of(
 );
 
 async function unpacked(base64) {
-  const packed = Uint8Array.from(atob(base64), character => character.charCodeAt(0));
+  const text = atob(base64);
+  const packed = new Uint8Array(text.length);
+  for (let i = 0; i < text.length; ++i) packed[i] = text.charCodeAt(i);
   const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream('deflate'));
   return new Response(stream).arrayBuffer();
 }
@@ -67,7 +68,6 @@ export function load(options = {}) {
       ? import('./engine-simd.wasm.js')
       : import('./engine.wasm.js'));
     await start(await WebAssembly.compile(await unpacked(packed)));
-    readTables();
     defineMembers();
   })();
   return loading;

@@ -127,9 +127,3 @@ export function textFrom(give) {
     return decoder.decode(memoryBytes().subarray(large, large + size));
   });
 }
-
-/** A text that ends with a zero byte. */
-export function textAt(address) {
-  const memory = memoryBytes();
-  return decoder.decode(memory.subarray(address, memory.indexOf(0, address)));
-}

@@ -1,8 +1,10 @@
-// The tables that the JavaScript package reads when it is loaded, as one text in JSON: the members and
-// what they mean in words, the quantities and their units, the letters and the messages.
+// The tables that the JavaScript package is built with, as one text in JSON: the members and what
+// they mean in words, the quantities and their units, the letters and the messages.
 #include <fmt/format.h>
 
+#include <array>
 #include <cmath>
+#include <numeric>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -82,10 +84,10 @@ std::string_view resultName(const Parameter& parameter) {
 
 std::string input(const Parameter& parameter, const ParameterExplanation& explained) {
   const Limits limits = explained.limits.value_or(Limits{});
-  return fmt::format(R"({{{},"low":{},"high":{},"aboveLow":{},"belowHigh":{}}})",
-                     value(parameter.name, typeName(parameter.type), parameter.group,
-                           explained.words),
-                     number(limits.low), number(limits.high), limits.aboveLow, limits.belowHigh);
+  return fmt::format(
+      R"({{{},"low":{},"high":{},"aboveLow":{},"belowHigh":{}}})",
+      value(parameter.name, typeName(parameter.type), parameter.group, explained.words),
+      number(limits.low), number(limits.high), limits.aboveLow, limits.belowHigh);
 }
 
 std::string token(const Member& member, const spreadsheet::Token& row) {
@@ -107,10 +109,10 @@ struct Parameters {
       if (parameter.isInput() && parameter.type != ValueType::array) {
         inputs.push_back(input(parameter, words));
       } else {
-        outputs.push_back('{' +
-                          value(resultName(parameter), typeName(parameter.type), parameter.group,
-                                words.words) +
-                          '}');
+        outputs.push_back(
+            '{' +
+            value(resultName(parameter), typeName(parameter.type), parameter.group, words.words) +
+            '}');
       }
     }
   }
@@ -134,8 +136,7 @@ std::string memberRow(const Member& member) {
       R"("inputs":{},"outputs":{},"hasTokens":{},"preparation":{},"example":{}}})",
       member.name, member.dispatchId, kindOf(member), headingText(explained.heading),
       quoted(explained.title), quoted(explained.notes), quoted(explained.other),
-      list(parameters.inputs, asItIs), list(parameters.outputs, asItIs),
-      !tokensOf(member).empty(),
+      list(parameters.inputs, asItIs), list(parameters.outputs, asItIs), !tokensOf(member).empty(),
       list(explained.preparation, call), call(explained.example));
 }
 
@@ -145,15 +146,16 @@ std::string unit(UnitGroup group, const ZvUomLiteKeyword& row) {
                      quoted(unitNotice(group, row.name)));
 }
 
-std::string groupRow(UnitGroup group) {
+std::string groupRow(int index) {
+  const auto group = UnitGroup(index);
   const UnitGroupRow& row = unitGroupTable()[static_cast<std::size_t>(group)];
   std::vector<ZvUomLiteKeyword> units(row.units.begin(), row.units.end());
   const auto beside = unitsBesideCatalogue(group);
   units.insert(units.end(), beside.begin(), beside.end());
   return fmt::format(
-      R"({{"number":{},"name":{},"keywords":{},"modelUnit":{},"notice":{},"units":{}}})",
-      static_cast<int>(group), quoted(row.displayName), list(row.keywords, quoted),
-      quoted(toUtf8(row.internalUnit)), quoted(groupNotice(group)),
+      R"({{"number":{},"name":{},"keywords":{},"modelUnit":{},"notice":{},"units":{}}})", index,
+      quoted(row.displayName), list(row.keywords, quoted), quoted(toUtf8(row.internalUnit)),
+      quoted(groupNotice(group)),
       list(units, [&](const ZvUomLiteKeyword& each) { return unit(group, each); }));
 }
 
@@ -170,14 +172,13 @@ constexpr Message messageRows[] = {
 };
 
 std::string tables() {
-  std::vector<UnitGroup> groups;
-  for (int i = 0; i < unitGroupCount; ++i) groups.push_back(UnitGroup(i));
+  std::array<int, unitGroupCount> groups{};
+  std::iota(groups.begin(), groups.end(), 0);
   return fmt::format(R"({{"members":{},"groups":{},"letters":{},"messages":{}}})",
                      list(memberTable(), memberRow), list(groups, groupRow),
-                     list(letterExplanations(), letterRow),
-                     list(messageRows, [](Message message) {
-                       return fmt::format(R"({{"number":{},"text":{}}})",
-                                          static_cast<int>(message), quoted(messageText(message)));
+                     list(letterExplanations(), letterRow), list(messageRows, [](Message message) {
+                       return fmt::format(R"({{"number":{},"text":{}}})", static_cast<int>(message),
+                                          quoted(messageText(message)));
                      }));
 }
 
