@@ -34,13 +34,22 @@
 //
 #include <hwy/contrib/math/math-inl.h>
 #include <hwy/highway.h>
+#ifdef __wasm_simd128__
+#include <wasm_simd128.h>
+
+#include <limits>
+#endif
 
 HWY_BEFORE_NAMESPACE();
 namespace calvex::direct::HWY_NAMESPACE {
 
 #include "direct/one_lane-inl.h"
 //
+#ifdef __wasm_simd128__
+#include "direct/wasm_lanes-inl.h"
+#else
 #include "direct/lanes-inl.h"
+#endif
 //
 #include "direct/dual-inl.h"
 //

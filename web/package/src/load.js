@@ -1,0 +1,36 @@
+// Everything of the package, and the engine that must be loaded before it is used.
+import { defineMembers } from './engine.js';
+import { readTables } from './table.js';
+import { start } from './wasm.js';
+
+export { Engine, Results } from './engine.js';
+export { State, pairs, properties } from './state.js';
+export { findMember, findMembers, groups, letters, members, messages, version } from './table.js';
+export { convert, findGroup, findUnit } from './units.js';
+export { CalvexError } from './wasm.js';
+
+/** Whether the engine works on two numbers at a time. */
+export let simd = false;
+
+// A function that splats a number over a vector: (func (drop (f64x2.splat (f64.const 0))))
+const vectors = Uint8Array.of(0, 97, 115, 109, 1, 0, 0, 0, 1, 4, 1, 96, 0, 0, 3, 2, 1, 0, 10, 16, 1,
+  14, 0, 68, 0, 0, 0, 0, 0, 0, 0, 0, 253, 20, 26, 11);
+
+async function unpacked(base64) {
+  const packed = Uint8Array.from(atob(base64), character => character.charCodeAt(0));
+  const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream('deflate-raw'));
+  return new Response(stream).arrayBuffer();
+}
+
+let loading;
+/** Makes the engine ready; once, however often it is called. */
+export function load(options = {}) {
+  loading ??= (async () => {
+    simd = (options.simd ?? true) && WebAssembly.validate(vectors);
+    const { default: packed } = await (simd ? import('./engine-simd.wasm.js') : import('./engine.wasm.js'));
+    await start(await WebAssembly.compile(await unpacked(packed)));
+    readTables();
+    defineMembers();
+  })();
+  return loading;
+}
