@@ -1,0 +1,42 @@
+// The documentation: guides, members, equations. Run in web/: npx eleventy --config=site/eleventy.config.js
+import { posix } from 'node:path';
+
+import * as esbuild from 'esbuild';
+
+import './data/guides.js';
+import { copied } from './source/markdown.mjs';
+import { formula } from './source/mathematics.mjs';
+import { output, packageModule, root } from './source/places.mjs';
+
+/** An address from the page that has it: pages are opened from files as well. */
+const relative = (target, from) => {
+  const path = posix.relative(posix.dirname(from), `/${target}`);
+  return path.startsWith('.') ? path : `./${path}`;
+};
+
+/** Numbers as tables print them: with a true minus sign. */
+const printed = number => String(number).replace('e-', ' × 10⁻').replace(/^-/, '−')
+  .replace(/10⁻(\d+)/, (_, digits) => `10⁻${[...digits].map(digit => '⁰¹²³⁴⁵⁶⁷⁸⁹'[digit]).join('')}`);
+
+export default function (config) {
+  config.addFilter('from', relative);
+  config.addFilter('formula', tex => formula(tex));
+  config.addFilter('symbol', tex => formula(tex, false));
+  config.addFilter('printed', printed);
+  config.addFilter('script', value => JSON.stringify(value).replaceAll('<', '\\u003c'));
+  config.addPassthroughCopy({ 'site/style.css': 'style.css', 'site/source/theme.js': 'theme.js' });
+  for (const [source, place] of copied) config.addPassthroughCopy({ [`../${source}`]: place });
+
+  // What pages run: classic scripts, which need no server.
+  config.on('eleventy.after', () => esbuild.build({
+    entryPoints: [`${root}web/site/source/member.mjs`, `${root}web/site/source/search.mjs`],
+    outdir: output, bundle: true, minify: true, format: 'iife', target: 'es2022',
+    legalComments: 'none', alias: { 'calvex/load': packageModule.replace('index.js', 'load.js') },
+  }));
+
+  config.setQuietMode(true);
+  return {
+    dir: { input: 'site/pages', includes: '../layouts', data: '../data', output: '../build/site/docs' },
+    markdownTemplateEngine: 'njk', htmlTemplateEngine: 'njk',
+  };
+}
