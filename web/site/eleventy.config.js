@@ -20,9 +20,12 @@ const printed = number => String(number).replace('e-', ' × 10⁻').replace(/^-/
 
 export default function (config) {
   config.addFilter('from', relative);
-  config.addFilter('formula', tex => formula(tex));
+  config.addPairedShortcode('display', tex => formula(tex));
+  config.addPairedShortcode('inline', tex => formula(tex, false));
   config.addFilter('symbol', tex => formula(tex, false));
+  config.addFilter('greek', name => /^[a-z]{3}/.test(name) ? `\\${name}` : name.replace(/(\d+)/, '_$1'));
   config.addFilter('printed', printed);
+  config.addFilter('rounded', number => number === 0 ? '0' : printed(number.toExponential(1)));
   config.addFilter('script', value => JSON.stringify(value).replaceAll('<', '\\u003c'));
   config.addPassthroughCopy({ 'site/style.css': 'style.css', 'site/source/theme.js': 'theme.js' });
   for (const [source, place] of copied) config.addPassthroughCopy({ [`../${source}`]: place });
