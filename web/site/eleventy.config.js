@@ -14,8 +14,8 @@ const relative = (target, from) => {
   return path.startsWith('.') ? path : `./${path}`;
 };
 
-/** Numbers as tables print them: with a true minus sign. */
-const printed = number => String(number).replace('e-', ' × 10⁻').replace(/^-/, '−')
+/** Numbers as tables print them, with a true minus sign. Printed coefficients have at most 15 digits. */
+const printed = number => String(Number(Number(number).toPrecision(15))).replace('e-', ' × 10⁻').replace(/^-/, '−')
   .replace(/10⁻(\d+)/, (_, digits) => `10⁻${[...digits].map(digit => '⁰¹²³⁴⁵⁶⁷⁸⁹'[digit]).join('')}`);
 
 export default function (config) {
@@ -28,6 +28,12 @@ export default function (config) {
   config.addFilter('rounded', number => number === 0 ? '0' : printed(number.toExponential(1)));
   config.addFilter('script', value => JSON.stringify(value).replaceAll('<', '\\u003c'));
   config.addPassthroughCopy({ 'site/style.css': 'style.css', 'site/source/theme.js': 'theme.js' });
+  // Few systems have a font with the tables that formulas need.
+  const font = 'node_modules/@fontsource/noto-sans-math';
+  config.addPassthroughCopy({
+    [`${font}/files/noto-sans-math-latin-400-normal.woff2`]: 'noto-sans-math.woff2',
+    [`${font}/LICENSE`]: 'noto-sans-math.txt',
+  });
   for (const [source, place] of copied) config.addPassthroughCopy({ [`../${source}`]: place });
 
   // What pages run: classic scripts, which need no server.

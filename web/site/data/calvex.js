@@ -15,6 +15,9 @@ function limits({ low, high, aboveLow, belowHigh }) {
   return [lower, upper].filter(Boolean).join(' ');
 }
 
+/** What a setting or a constant answers has the member's name. */
+const nameOf = (row, output) => row.inputs.length === 0 && row.outputs.length === 1 ? row.name : output.name;
+
 const ofGroup = value => value.group < 0 ? undefined : calvex.groups[value.group];
 
 /** What the command line's help has beside the table: a setting's values, the call that it shows, and
@@ -28,7 +31,8 @@ function help(name) {
   }
   const calls = sections.example?.slice(0, 1) ??
     sections['example, in a script'].filter(line => !line.startsWith(' '));
-  return { calls, value: sections.value ?? [], automation: sections['for automation clients'] };
+  const isScript = sections.example === undefined;
+  return { calls, isScript, value: sections.value ?? [], automation: sections['for automation clients'] };
 }
 
 function page(row) {
@@ -44,7 +48,7 @@ function page(row) {
       ...input, group: ofGroup(input), limits: limits(input), value: row.example.inputs[i] ?? '',
     })),
     answered: row.outputs.map((output, i) => ({
-      ...output, group: ofGroup(output), value: outputs[i].value, shown: shown(outputs[i].value),
+      ...output, name: nameOf(row, output), group: ofGroup(output), value: outputs[i].value, shown: shown(outputs[i].value),
     })),
     groups: [...new Set([...given, ...row.outputs].map(value => value.group))].filter(n => n >= 0),
     messages: messagesOf(calvex, row),

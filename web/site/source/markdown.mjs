@@ -86,14 +86,16 @@ function sectionsOf(tokens, headings) {
   return sections;
 }
 
-/** Title, headings below it, HTML, and the sections with their texts. */
+/** Title, headings below it, the HTML of both, and the sections with their texts. */
 export function render(text, source, pages) {
   const headings = [];
   const markdown = parser(source, pages, headings);
   const tokens = markdown.parse(text, {});
+  const html = part => markdown.renderer.render(part, markdown.options, {});
+  const titleEnd = tokens.findIndex(token => token.type === 'heading_close') + 1;
   return {
     title: headings[0].title, headings: headings.slice(1),
-    html: markdown.renderer.render(tokens, markdown.options, {}),
+    head: html(tokens.slice(0, titleEnd)), body: html(tokens.slice(titleEnd)),
     sections: sectionsOf(tokens, headings),
   };
 }

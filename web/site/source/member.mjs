@@ -41,7 +41,7 @@ async function run() {
   });
   outcome.className = '';
   outcome.textContent = [
-    outputs.map(({ name, value, unit }) => `${name} = ${shown(value)} ${unit}`.trim()).join(', ') || 'Done.',
+    outputs.map(({ value, unit }, i) => `${results[i].dataset.result} = ${shown(value)} ${unit}`.trim()).join(', ') || 'Done.',
     ...warnings.map(({ text }) => `Warning: ${text}`),
   ].join(' ');
 }

@@ -7,7 +7,7 @@ function* probes(input) {
   for (const limit of [input.low, input.high]) {
     if (!Number.isFinite(limit)) continue;
     yield limit;
-    yield limit + (limit === input.low ? -1 : 1) * Math.max(1, Math.abs(limit) / 10);
+    yield limit + (limit === input.low ? -1 : 1) * Math.max(1, Math.round(Math.abs(limit) / 10));
   }
   if (input.group >= 0) yield* [1e6, 1e-6];
 }
@@ -21,7 +21,8 @@ function* calls(calvex, member) {
   // Pressure and temperature on the saturation line.
   const at = ['P', 'T'].map(name => member.inputs.findIndex(input => input.name === name));
   if (at.every(i => i >= 0)) {
-    yield given.with(at[0], new calvex.Engine().PSatT(500)).with(at[1], 500);
+    const onLine = new calvex.Engine().PSatT(500).toPrecision(6);
+    yield given.with(at[0], Number(onLine)).with(at[1], 500);
   }
 }
 

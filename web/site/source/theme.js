@@ -1,19 +1,24 @@
 // Light or dark: the reader's system decides until the button does. A slash goes to the search.
 (() => {
-  const key = 'calvex-theme', root = document.documentElement;
-  const kept = () => { try { return localStorage.getItem(key); } catch { return null; } };
-  const isDark = () => (root.dataset.theme ??
-    (matchMedia('(prefers-color-scheme: dark)').matches ? 'dark' : 'light')) === 'dark';
-  if (kept()) root.dataset.theme = kept();
+  const key = 'calvex.theme', root = document.documentElement;  // as the page of states has it
+  const themes = ['auto', 'light', 'dark'];
+  const remembered = () => { try { return localStorage.getItem(key); } catch { return null; } };
+  let theme = themes.includes(remembered()) ? remembered() : 'auto';
+  const show = () => {
+    if (theme === 'auto') delete root.dataset.theme;
+    else root.dataset.theme = theme;
+  };
+  show();
 
   addEventListener('DOMContentLoaded', () => {
     const button = document.querySelector('#theme');
-    const name = () => { button.textContent = isDark() ? 'Light' : 'Dark'; };
+    const name = () => { button.textContent = `Colours: ${theme}`; };
     button.hidden = false;
     name();
     button.addEventListener('click', () => {
-      root.dataset.theme = isDark() ? 'light' : 'dark';
-      try { localStorage.setItem(key, root.dataset.theme); } catch { /* for this page only */ }
+      theme = themes[(themes.indexOf(theme) + 1) % themes.length];
+      try { localStorage.setItem(key, theme); } catch { /* for this page only */ }
+      show();
       name();
     });
     // On a phone the guides would push the page away.
