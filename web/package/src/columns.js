@@ -1,4 +1,5 @@
-// Members over arrays, in blocks that stay in the processor's cache: properties by the direct road.
+// Arrays: requests of the engine, laid out in its memory and run in blocks that stay in the
+// processor's cache.
 import { memoryNumbers, memoryView, wasm, withRoom } from './wasm.js';
 
 const blockRows = 4096;
@@ -6,105 +7,118 @@ const blockRows = 4096;
 export const isColumn = value =>
   Array.isArray(value) || (ArrayBuffer.isView(value) && !(value instanceof DataView));
 
-/** The inputs as numbers or lists of numbers, and the length that they have together. */
+/** How a value is shown in a message. */
+export const shown = value => (typeof value === 'string' ? JSON.stringify(value) : String(value));
+
+/** The length that the arrays among the inputs have together; undefined: all are numbers. */
 export function commonLength(called, names, given) {
   let length;
   given.forEach((value, i) => {
     const wanted = `${called}: ${names[i]} is to be a number or an array of numbers`;
-    if (isColumn(value)) {
-      if (length !== undefined && value.length !== length) {
-        const lengths = names.map((name, j) => isColumn(given[j]) ? `${name} ${given[j].length}` : '');
-        throw new RangeError(`${called}: arrays of these lengths do not go together: ` +
-          lengths.filter(Boolean).join(', '));
-      }
-      length = value.length;
-      if (!Array.isArray(value)) return;
-      const at = value.findIndex(element => typeof element !== 'number');
-      if (at >= 0) throw new TypeError(`${wanted}; at [${at}] it has ${String(value[at])}`);
-    } else if (typeof value !== 'number') {
-      const shown = typeof value === 'string' ? JSON.stringify(value) : String(value);
-      throw new TypeError(`${wanted}, not ${shown}`);
+    if (typeof value === 'number') return;
+    if (!isColumn(value)) throw new TypeError(`${wanted}, not ${shown(value)}`);
+    const at = Array.isArray(value) ? value.findIndex(x => typeof x !== 'number') : -1;
+    if (at >= 0) throw new TypeError(`${wanted}; at [${at}] it has ${shown(value[at])}`);
+    length ??= value.length;
+    if (value.length !== length) {
+      const lengths = names.flatMap((name, j) =>
+        isColumn(given[j]) ? `${name} ${given[j].length}` : [],
+      );
+      throw new RangeError(
+        `${called}: arrays of these lengths do not go together: ${lengths.join(', ')}`,
+      );
     }
   });
   return length;
 }
 
-/** The outputs of a member over arrays and numbers: a Float64Array each, NaN where a row fails. A call
- * with numbers alone has one row, and throws where it fails. */
-export function columns(engine, name, row, given) {
-  const names = row.inputs.map(input => input.name);
-  const arrayLength = commonLength(`${name}(${names.join(', ')})`, names, given);
-  const length = arrayLength ?? 1;
-  const results = row.outputs.map(() => new Float64Array(length));
-  const failed = [];
-  const block = Math.min(blockRows, Math.max(length, 1));
-  const inputs = given.length, outputs = results.length;
-  // The columns, one after the other, the statuses, then the lists and the request of calvex_columns.
-  const statuses = 8 * block * (inputs + outputs), lists = statuses + 8 * Math.ceil(block / 4);
-  const request = lists + 8 * inputs + 12 * outputs;
-  withRoom(request + 48, room => {
-    const memory = memoryView();
-    const put = (at, value) => memory.setUint32(at, value, true);
-    const column = i => room + 8 * block * i;
-    given.forEach((value, i) => {
-      put(room + lists + 8 * i, column(i));
-      put(room + lists + 8 * i + 4, isColumn(value) ? 1 : 0);
-      if (!isColumn(value)) memoryNumbers()[column(i) / 8] = value;
-    });
-    results.forEach((_, i) => {
-      const at = room + lists + 8 * inputs + 12 * i;
-      put(at, i);
-      put(at + 4, column(inputs + i));
-      put(at + 8, 1);
-    });
-    const rows = [row.number, 0, room + lists, inputs, room + lists + 8 * inputs, outputs,
-      room + statuses, 1, 0, 0, 1];
-    rows.forEach((value, i) => put(room + request + 4 * i, value));
-
-    for (let begin = 0; begin < length; begin += block) {
-      const count = Math.min(block, length - begin);
-      const numbers = memoryNumbers();
+/** Runs a request over the inputs, into lists of numbers and of codes, all of one length.
+ *
+ * `layOut` writes what the engine reads besides the columns into `size` bytes and answers what runs it:
+ * it is told the addresses of columns and how many elements to go from one row to the next. */
+export function inBlocks(given, numbers, codes, size, layOut) {
+  const { length } = codes[0];
+  const rows = Math.min(blockRows, Math.max(length, 1));
+  const columns = given.length + numbers.length;
+  const codeBytes = 8 * Math.ceil(rows / 4);
+  const tail = 8 * rows * columns + codeBytes * codes.length;
+  withRoom(tail + size, room => {
+    const input = i => room + 8 * rows * i;
+    const output = i => input(given.length + i);
+    const code = i => room + 8 * rows * columns + codeBytes * i;
+    const run = layOut({ view: memoryView(), at: room + tail, input, output, code });
+    for (let begin = 0; begin < length; begin += rows) {
+      const count = Math.min(rows, length - begin);
       given.forEach((value, i) => {
-        if (!isColumn(value)) return;
-        const part = begin === 0 && count === length ? value
-          : Array.isArray(value) ? value.slice(begin, begin + count)
-          : value.subarray(begin, begin + count);
-        numbers.set(part, column(i) / 8);
+        const place = input(i) / 8;
+        if (!isColumn(value)) memoryNumbers()[place] = value;
+        else if (count === value.length) memoryNumbers().set(value, place);
+        else memoryNumbers().set(value.slice(begin, begin + count), place);
       });
-      memoryView().setUint32(room + request + 4, count, true);
-      const code = wasm.calvex_columns(engine.address, room + request, 44);
-      if (code !== 0) throw engine.failure(code, name);
-      const after = memoryNumbers();
-      results.forEach((result, i) => {
-        const at = column(inputs + i) / 8;
-        result.set(after.subarray(at, at + count), begin);
+      run(count);
+      numbers.forEach((list, i) => {
+        list.set(memoryNumbers().subarray(output(i) / 8, output(i) / 8 + count), begin);
       });
-      const status = new Int16Array(wasm.memory.buffer, room + statuses, count);
-      for (let i = 0; i < count; ++i) {
-        if (status[i] === 0) continue;
-        if (arrayLength === undefined) throw engine.failure(status[i], name);
-        failed.push(begin + i);
-      }
+      codes.forEach((list, i) => {
+        list.set(new Int16Array(wasm.memory.buffer, code(i), count), begin);
+      });
     }
   });
-  if (arrayLength !== undefined) {
-    keepFailed(engine, length, failed, given, (then, inputsOfRow) =>
-      columns(then, name, row, inputsOfRow));
-  }
+}
+
+/** The place from one row to the next: none for a number, which all rows have. */
+export const strideOf = value => (isColumn(value) ? 1 : 0);
+
+/** Writes whole numbers, one after the other. */
+export function write(view, at, values) {
+  values.forEach((value, i) => view.setUint32(at + 4 * i, value, true));
+}
+
+/** The outputs of a member over arrays and numbers: a Float64Array each, NaN where a row fails. A
+ * call with numbers alone has one row, and throws where that fails. */
+export function columns(engine, name, row, given) {
+  const names = row.inputs.map(input => input.name);
+  const length = commonLength(`${name}(${names.join(', ')})`, names, given);
+  const results = row.outputs.map(() => new Float64Array(length ?? 1));
+  const status = new Int16Array(length ?? 1);
+  const inputs = given.length;
+  const outputs = results.length;
+  inBlocks(given, results, [status], 44 + 8 * inputs + 12 * outputs, place => {
+    const { view, at } = place;
+    const inputList = at + 44;
+    const outputList = inputList + 8 * inputs;
+    given.forEach((value, i) => write(view, inputList + 8 * i, [place.input(i), strideOf(value)]));
+    results.forEach((_, i) => write(view, outputList + 12 * i, [i, place.output(i), 1]));
+    // calvex_rows: member, count, inputs, outputs, status, reason, context, threads
+    const lists = [inputList, inputs, outputList, outputs];
+    write(view, at, [row.number, 0, ...lists, place.code(0), 1, 0, 0, 1]);
+    return count => {
+      memoryView().setUint32(at + 4, count, true);
+      engine.require(wasm.calvex_columns(engine.address, at, 44), name);
+    };
+  });
+  if (length === undefined) engine.require(status[0], name);
+  else keepFailed(engine, status, given, (then, point) => columns(then, name, row, point));
   return results;
 }
 
 /** Keeps why rows failed, to be found out when somebody asks: with the inputs and the units that they
  * had. */
-export function keepFailed(engine, length, failed, given, again) {
+export function keepFailed(engine, status, given, again) {
+  const failed = [];
+  status.forEach((code, row) => {
+    if (code !== 0) failed.push([row, given.map(value => (isColumn(value) ? value[row] : value))]);
+  });
   const then = failed.length === 0 ? undefined : engine.kept();
-  const kept = failed.map(row => given.map(value => isColumn(value) ? value[row] : value));
-  engine.keepArray(length, failed.map((row, i) => [row, () => {
-    try {
-      again(then, kept[i]);
-    } catch (failure) {
-      return failure.cause ? `${failure.reason} ${failure.cause}` : failure.reason;
+  engine.keepReasons(() => {
+    const reasons = new Array(status.length).fill('');
+    for (const [row, point] of failed) {
+      try {
+        again(then, point);
+      } catch (failure) {
+        reasons[row] = failure.full;
+      }
     }
-    return '';
-  }]));
+    return reasons;
+  });
 }

@@ -1,10 +1,18 @@
 // Engines: every member of the table in one's own units.
-import { columns, isColumn } from './columns.js';
+import { columns, isColumn, shown } from './columns.js';
 import { State } from './state.js';
-import { findMember, groups, memberNames } from './table.js';
+import { groups, memberNames } from './table.js';
 import { trace } from './trace.js';
 import { groupNumber } from './units.js';
-import { CalvexError, memoryNumbers, memoryView, scratch, textFrom, wasm, withTexts } from './wasm.js';
+import {
+  CalvexError,
+  memoryNumbers,
+  memoryView,
+  scratch,
+  textFrom,
+  wasm,
+  withTexts,
+} from './wasm.js';
 
 /** Engines that nobody has any more give their memory back. */
 const lost = new FinalizationRegistry(address => wasm.calvex_destroy(address));
@@ -12,8 +20,7 @@ const lost = new FinalizationRegistry(address => wasm.calvex_destroy(address));
 export class Engine {
   #address;
   #kept;
-  /** What the last array left: its length, and the rows that failed. */
-  #array = { length: 0, failed: [] };
+  #reasons = () => [];
 
   constructor(units = {}) {
     if (wasm === undefined) throw new Error('the engine is not there yet: await load() first');
@@ -54,9 +61,13 @@ export class Engine {
 
   /** A copy with the units and settings of the moment, the same one until they change: for states and
    * reasons, which are asked for later. */
-  kept() { return this.#kept ??= this.clone(); }
+  kept() {
+    return (this.#kept ??= this.clone());
+  }
   /** Units or settings may be others from now on. */
-  changed() { this.#kept = undefined; }
+  changed() {
+    this.#kept = undefined;
+  }
 
   // Units ------------------------------------------------------------------------------------------
 
@@ -69,8 +80,9 @@ export class Engine {
     this.changed();
     const word = groups[groupNumber(quantity)].keywords[0];
     const code = withTexts([word, String(unit)], (_texts, _sizes, [group, name]) =>
-      wasm.calvex_set_unit(this.address, ...group, ...name));
-    if (code !== 0) throw this.failure(code, '');
+      wasm.calvex_set_unit(this.address, ...group, ...name),
+    );
+    this.require(code, '');
   }
 
   units() {
@@ -79,25 +91,30 @@ export class Engine {
 
   // States -----------------------------------------------------------------------------------------
 
-  state(pair) { return new State(this, pair); }
+  state(pair) {
+    return new State(this, pair);
+  }
 
   // What the engine has to tell ----------------------------------------------------------------------
 
-  trace() { return trace(this.address); }
-
-  reasons() {
-    const reasons = new Array(this.#array.length).fill('');
-    for (const [row, reason] of this.#array.failed) reasons[row] = reason();
-    return reasons;
+  trace() {
+    return trace(this.address);
   }
 
-  /** Keeps what `reasons` tells of an array, for this package. */
-  keepArray(length, failed) { this.#array = { length, failed }; }
+  reasons() {
+    return this.#reasons();
+  }
 
-  /** The last failure as an exception, for this package. */
-  failure(code, member) {
-    return new CalvexError(code, textFrom((...room) => wasm.calvex_last_error(this.address, ...room)),
-      textFrom((...room) => wasm.calvex_last_cause(this.address, ...room)), member);
+  /** Keeps what tells why points of an array failed, for this package. */
+  keepReasons(reasons) {
+    this.#reasons = reasons;
+  }
+
+  /** Throws the last failure, if the code is that of one; for this package. */
+  require(code, member) {
+    if (code === 0) return;
+    const text = which => textFrom((...room) => which(this.address, ...room));
+    throw new CalvexError(code, text(wasm.calvex_last_error), text(wasm.calvex_last_cause), member);
   }
 }
 
@@ -112,22 +129,29 @@ function requireCount(name, row, given) {
   const count = row.inputs.length;
   if (given.length === count) return;
   const missing = row.inputs.slice(given.length).map(input => input.name);
-  throw new TypeError(`${callText(name, row)} takes ${count} argument${count === 1 ? '' : 's'}, ` +
-    `${given.length} ${given.length === 1 ? 'was' : 'were'} given` + (missing.length === 0 ? '' :
-    `: ${missing.join(' and ')} ${missing.length === 1 ? 'is' : 'are'} missing`));
+  throw new TypeError(
+    `${callText(name, row)} takes ${count} argument${count === 1 ? '' : 's'}, ` +
+      `${given.length} ${given.length === 1 ? 'was' : 'were'} given` +
+      (missing.length === 0
+        ? ''
+        : `: ${missing.join(' and ')} ${missing.length === 1 ? 'is' : 'are'} missing`),
+  );
 }
 
 function refuse(name, row, i, wanted, value) {
-  const shown = typeof value === 'string' ? JSON.stringify(value) : String(value);
-  throw new TypeError(`${callText(name, row)}: ${row.inputs[i].name} is to be ${wanted}, not ${shown}`);
+  const wrong = `${callText(name, row)}: ${row.inputs[i].name} is to be ${wanted}`;
+  throw new TypeError(`${wrong}, not ${shown(value)}`);
 }
 
 /** The results of a member by name; `units` tells the unit of each. */
 export class Results {
   constructor(engine, outputs, values) {
-    outputs.forEach((output, i) => { this[output.name] = values[i]; });
-    const units = Object.fromEntries(outputs.map(output =>
-      [output.name, output.group < 0 ? '' : engine.unit(output.group)]));
+    outputs.forEach((output, i) => {
+      this[output.name] = values[i];
+    });
+    const units = Object.fromEntries(
+      outputs.map(output => [output.name, output.group < 0 ? '' : engine.unit(output.group)]),
+    );
     Object.defineProperty(this, 'units', { value: Object.freeze(units) });
     Object.freeze(this);
   }
@@ -139,15 +163,19 @@ function answer(engine, row, values) {
 
 /** Numbers in, numbers out, beside the layout of `calvex_call`. */
 function callNumbers(engine, name, row, given) {
-  const place = scratch(), room = memoryNumbers(), at = place / 8;
-  const inputs = row.inputs.length, outputs = row.outputs.length;
+  const place = scratch(),
+    room = memoryNumbers(),
+    at = place / 8;
+  const inputs = row.inputs.length,
+    outputs = row.outputs.length;
   for (let i = 0; i < inputs; ++i) {
-    if (typeof given[i] !== 'number') refuse(name, row, i, 'a number or an array of numbers', given[i]);
+    if (typeof given[i] !== 'number')
+      refuse(name, row, i, 'a number or an array of numbers', given[i]);
     room[at + i] = given[i];
   }
   const results = place + 8 * inputs;
   const code = wasm.calvex_call(engine.address, row.number, place, inputs, results, outputs);
-  if (code !== 0) throw engine.failure(code, name);
+  engine.require(code, name);
   const numbers = memoryNumbers();
   if (outputs === 1) return numbers[at + inputs];
   return answer(engine, row, Array.from(numbers.subarray(at + inputs, at + inputs + outputs)));
@@ -158,10 +186,11 @@ function functionOf(name, row) {
     requireCount(name, row, given);
     if (given.some(isColumn)) return answer(this, row, columns(this, name, row, given));
     if (!row.hasTokens) return callNumbers(this, name, row, given);
-    given.forEach((value, i) => {
-      if (typeof value !== 'number') refuse(name, row, i, 'a number or an array of numbers', value);
-    });
-    return answer(this, row, columns(this, name, row, given).map(column => column[0]));
+    return answer(
+      this,
+      row,
+      columns(this, name, row, given).map(column => column[0]),
+    );
   };
 }
 
@@ -170,7 +199,8 @@ function methodOf(name, row) {
   const outputs = row.outputs.filter(isNumber);
   return function (...given) {
     requireCount(name, row, given);
-    const numbers = [], texts = [];
+    const numbers = [],
+      texts = [];
     row.inputs.forEach((input, i) => {
       const isText = input.type === 'string';
       if (typeof given[i] !== (isText ? 'string' : 'number')) {
@@ -179,16 +209,31 @@ function methodOf(name, row) {
       (isText ? texts : numbers).push(given[i]);
     });
     if (row.inputs.length !== 0) this.changed();
-    const place = scratch(), results = place + 8 * numbers.length;
+    const place = scratch(),
+      results = place + 8 * numbers.length;
     const code = withTexts(texts, (list, sizes) => {
       memoryNumbers().set(numbers, place / 8);
-      return wasm.calvex_call_texts(this.address, row.number, place, numbers.length, list, sizes,
-        texts.length, results, outputs.length);
+      return wasm.calvex_call_texts(
+        this.address,
+        row.number,
+        place,
+        numbers.length,
+        list,
+        sizes,
+        texts.length,
+        results,
+        outputs.length,
+      );
     });
-    if (code !== 0) throw this.failure(code, name);
+    this.require(code, name);
     const found = Array.from(memoryNumbers().subarray(results / 8, results / 8 + outputs.length));
-    const values = row.outputs.map(output => isNumber(output) ? found.shift() :
-      output.type === 'string' ? table(this)[0]?.[0] ?? '' : table(this));
+    const values = row.outputs.map(output =>
+      isNumber(output)
+        ? found.shift()
+        : output.type === 'string'
+          ? (table(this)[0]?.[0] ?? '')
+          : table(this),
+    );
     return values.length === 0 ? undefined : answer(this, row, values);
   };
 }
@@ -197,7 +242,8 @@ function methodOf(name, row) {
 function table(engine) {
   const place = scratch();
   wasm.calvex_answer_size(engine.address, place, place + 4);
-  const rows = memoryView().getUint32(place, true), count = memoryView().getUint32(place + 4, true);
+  const rows = memoryView().getUint32(place, true),
+    count = memoryView().getUint32(place + 4, true);
   const cell = (row, column) => {
     wasm.calvex_answer_kind(engine.address, row, column, place);
     if (memoryView().getInt32(place, true) === 1) {
@@ -206,8 +252,9 @@ function table(engine) {
     wasm.calvex_answer_number(engine.address, row, column, place);
     return memoryNumbers()[place / 8];
   };
-  return Array.from({ length: rows }, (_, row) => Array.from({ length: count },
-    (_, column) => cell(row, column)));
+  return Array.from({ length: rows }, (_, row) =>
+    Array.from({ length: count }, (_, column) => cell(row, column)),
+  );
 }
 
 function settingOf(name, row) {
@@ -215,26 +262,36 @@ function settingOf(name, row) {
   const isText = row.outputs[0].type === 'string';
   return {
     configurable: true,
-    get() { return read.call(this); },
-    set: row.kind === 'reading' ? undefined : function (value) {
-      if (typeof value !== (isText ? 'string' : 'number')) {
-        throw new TypeError(`${name} is to be ${isText ? 'a text' : 'a number'}, not ${String(value)}`);
-      }
-      this.changed();
-      const code = isText
-        ? withTexts([value], (_texts, _sizes, [text]) =>
-          wasm.calvex_put_text(this.address, row.number, ...text))
-        : wasm.calvex_put(this.address, row.number, value);
-      if (code !== 0) throw this.failure(code, name);
+    get() {
+      return read.call(this);
     },
+    set:
+      row.kind === 'reading'
+        ? undefined
+        : function (value) {
+            if (typeof value !== (isText ? 'string' : 'number')) {
+              throw new TypeError(
+                `${name} is to be ${isText ? 'a text' : 'a number'}, not ${String(value)}`,
+              );
+            }
+            this.changed();
+            const code = isText
+              ? withTexts([value], (_texts, _sizes, [text]) =>
+                  wasm.calvex_put_text(this.address, row.number, ...text),
+                )
+              : wasm.calvex_put(this.address, row.number, value);
+            this.require(code, name);
+          },
   };
 }
 
 /** Gives all engines the members of the table. */
 export function defineMembers() {
   for (const [name, row] of memberNames()) {
-    const property = row.kind === 'setting' || row.kind === 'reading' ? settingOf(name, row)
-      : { value: row.kind === 'function' ? functionOf(name, row) : methodOf(name, row) };
+    const property =
+      row.kind === 'setting' || row.kind === 'reading'
+        ? settingOf(name, row)
+        : { value: row.kind === 'function' ? functionOf(name, row) : methodOf(name, row) };
     Object.defineProperty(Engine.prototype, name, { configurable: true, ...property });
   }
 }

@@ -4,14 +4,21 @@ import type { Members } from './members.js';
 export type { Members } from './members.js';
 
 /** Numbers of many points: a Float64Array, another array of numbers. */
-export type Numbers = Float64Array | Float32Array | Int32Array | Int16Array | Uint32Array | readonly number[];
+export type Numbers =
+  | Float64Array
+  | Float32Array
+  | Int32Array
+  | Int16Array
+  | Uint32Array
+  | readonly number[];
 
 /** A quantity with units: a word ("pressure"), a letter ("P") or its number. */
 export type Quantity = string | number;
 
 /** What a member answers with several results: by name, and the unit of each. */
-export type Results<Names extends string, N> = { readonly [name in Names]: N } &
-  { readonly units: { readonly [name in Names]: string } };
+export type Results<Names extends string, N> = { readonly [name in Names]: N } & {
+  readonly units: { readonly [name in Names]: string };
+};
 
 /** Makes the engine ready: to be awaited once before anything else is used. `import 'calvex'` has
  * done it. `simd: false` takes the engine for machines without vectors. */
@@ -31,6 +38,8 @@ export class CalvexError extends Error {
   readonly reason: string;
   /** What is behind it where the reason does not say so; mostly empty. */
   readonly cause: string;
+  /** Both. */
+  readonly full: string;
   /** The member that failed. */
   readonly member: string;
 }

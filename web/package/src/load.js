@@ -1,6 +1,5 @@
 // Everything of the package, and the engine that must be loaded before it is used.
 import { defineMembers } from './engine.js';
-import { readTables } from './table.js';
 import { start } from './wasm.js';
 
 export { Engine, Results } from './engine.js';
@@ -13,12 +12,50 @@ export { CalvexError } from './wasm.js';
 export let simd = false;
 
 // A function that splats a number over a vector: (func (drop (f64x2.splat (f64.const 0))))
-const vectors = Uint8Array.of(0, 97, 115, 109, 1, 0, 0, 0, 1, 4, 1, 96, 0, 0, 3, 2, 1, 0, 10, 16, 1,
-  14, 0, 68, 0, 0, 0, 0, 0, 0, 0, 0, 253, 20, 26, 11);
+const vectors = Uint8Array.of(
+  0,
+  97,
+  115,
+  109,
+  1,
+  0,
+  0,
+  0,
+  1,
+  4,
+  1,
+  96,
+  0,
+  0,
+  3,
+  2,
+  1,
+  0,
+  10,
+  16,
+  1,
+  14,
+  0,
+  68,
+  0,
+  0,
+  0,
+  0,
+  0,
+  0,
+  0,
+  0,
+  253,
+  20,
+  26,
+  11,
+);
 
 async function unpacked(base64) {
-  const packed = Uint8Array.from(atob(base64), character => character.charCodeAt(0));
-  const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream('deflate-raw'));
+  const text = atob(base64);
+  const packed = new Uint8Array(text.length);
+  for (let i = 0; i < text.length; ++i) packed[i] = text.charCodeAt(i);
+  const stream = new Blob([packed]).stream().pipeThrough(new DecompressionStream('deflate'));
   return new Response(stream).arrayBuffer();
 }
 
@@ -27,9 +64,10 @@ let loading;
 export function load(options = {}) {
   loading ??= (async () => {
     simd = (options.simd ?? true) && WebAssembly.validate(vectors);
-    const { default: packed } = await (simd ? import('./engine-simd.wasm.js') : import('./engine.wasm.js'));
+    const { default: packed } = await (simd
+      ? import('./engine-simd.wasm.js')
+      : import('./engine.wasm.js'));
     await start(await WebAssembly.compile(await unpacked(packed)));
-    readTables();
     defineMembers();
   })();
   return loading;

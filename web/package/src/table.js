@@ -1,41 +1,24 @@
 // What the engine's tables say: the members, the quantities and their units.
-import { textAt, wasm } from './wasm.js';
+import tables from './tables.js';
 
-/** The members in the order of the table; see index.d.ts. */
-export const members = [];
+const infinite = { low: -Infinity, high: Infinity };
+
+/** The members in the order of the table; see load.d.ts. */
+export const members = tables.members.map(row => ({
+  ...row,
+  inputs: row.inputs.map(input => ({
+    ...input,
+    low: input.low ?? infinite.low,
+    high: input.high ?? infinite.high,
+  })),
+}));
 /** The quantities with units, by number. */
-export const groups = [];
-/** The letters of the members' names. */
-export const letters = [];
-/** The messages of the engine. */
-export const messages = [];
-export let version = '';
+export const { groups, letters, messages, version } = tables;
 
-const byName = new Map();
-
-/** Reads the tables of the engine that has been started. */
-export function readTables() {
-  const tables = JSON.parse(textAt(wasm.calvex_web_tables()));
-  members.push(...tables.members.map(member));
-  groups.push(...tables.groups);
-  letters.push(...tables.letters);
-  messages.push(...tables.messages.filter(row => row.number >= 2));
-  version = tables.messages[0].text;
-  for (const row of members) byName.set(row.name, row);
-  // A model that has only a member for spreadsheets goes by its own name too.
-  for (const row of members) {
-    if (row.hasTokens && !byName.has(row.name.slice(2))) byName.set(row.name.slice(2), row);
-  }
-}
-
-function member(row) {
-  const bound = (value, infinite) => value ?? infinite;
-  for (const input of row.inputs) {
-    input.low = bound(input.low, -Infinity);
-    input.high = bound(input.high, Infinity);
-  }
-  if (row.hasTokens) row.example.inputs.pop();
-  return row;
+const byName = new Map(members.map(row => [row.name, row]));
+// A model that has only a member for spreadsheets goes by its own name too.
+for (const row of members) {
+  if (row.hasTokens && !byName.has(row.name.slice(2))) byName.set(row.name.slice(2), row);
 }
 
 /** The names by which an engine has its members, with their rows. */

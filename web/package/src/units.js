@@ -13,10 +13,13 @@ export function groupNumber(word) {
     throw new TypeError(`a quantity is a text such as "T" or "pressure", not ${String(word)}`);
   }
   const code = withTexts([word], (_texts, _sizes, [text]) =>
-    wasm.calvex_find_group(...text, scratch()));
+    wasm.calvex_find_group(...text, scratch()),
+  );
   if (code === 0) return memoryView().getInt32(scratch(), true);
-  throw new RangeError(`"${word}" is no quantity with a unit; there are ` +
-    groups.map(group => group.keywords[0]).join(', '));
+  throw new RangeError(
+    `"${word}" is no quantity with a unit; there are ` +
+      groups.map(group => group.keywords[0]).join(', '),
+  );
 }
 
 export const findGroup = word => groups[groupNumber(word)];
@@ -35,7 +38,8 @@ export function findUnit(quantity, word) {
 
 /** A number, or an array of them, from one unit of a quantity to another. */
 export function convert(quantity, value, from, to) {
-  const a = findUnit(quantity, from), b = findUnit(quantity, to);
-  const one = x => a === b ? x : (x + a.offset) * a.factor / b.factor - b.offset;
+  const a = findUnit(quantity, from),
+    b = findUnit(quantity, to);
+  const one = x => (a === b ? x : ((x + a.offset) * a.factor) / b.factor - b.offset);
   return typeof value === 'number' ? one(value) : Float64Array.from(value, one);
 }

@@ -19,27 +19,42 @@ function look() {
     numbers = new Float64Array(wasm.memory.buffer);
   }
 }
-export function memoryBytes() { look(); return bytes; }
-export function memoryNumbers() { look(); return numbers; }
-export function memoryView() { return new DataView(wasm.memory.buffer); }
+function memoryBytes() {
+  look();
+  return bytes;
+}
+export function memoryNumbers() {
+  look();
+  return numbers;
+}
+export function memoryView() {
+  return new DataView(wasm.memory.buffer);
+}
 
 /** A call that failed: `message` is the reason and, where there is one, the cause behind it. */
 export class CalvexError extends Error {
   constructor(code, reason, cause = '', member = '') {
-    super((member ? `${member} failed: ` : '') + (cause ? `${reason} ${cause}` : reason));
+    const full = cause ? `${reason} ${cause}` : reason;
+    super(member ? `${member} failed: ${full}` : full);
     this.name = 'CalvexError';
     this.code = code;
     this.reason = reason;
     this.cause = cause;
+    this.full = full;
     this.member = member;
   }
 }
 
-const noFiles = () => 8;  // "bad file number": there are none
+const noFiles = () => 8; // "bad file number": there are none
 const imports = {
   wasi_snapshot_preview1: {
-    fd_close: noFiles, fd_read: noFiles, fd_seek: noFiles, fd_write: noFiles,
-    proc_exit: code => { throw new Error(`the engine ended with ${code}`); },
+    fd_close: noFiles,
+    fd_read: noFiles,
+    fd_seek: noFiles,
+    fd_write: noFiles,
+    proc_exit: code => {
+      throw new Error(`the engine ended with ${code}`);
+    },
     environ_sizes_get: (count, size) => {
       const view = memoryView();
       view.setUint32(count, 0, true);
@@ -84,7 +99,8 @@ export function withTexts(texts, use) {
   const encoded = texts.map(text => encoder.encode(text));
   const total = encoded.reduce((sum, text) => sum + text.length, 0);
   return withRoom(8 * texts.length + total + 8, room => {
-    const memory = memoryBytes(), view = memoryView();
+    const memory = memoryBytes(),
+      view = memoryView();
     let at = room + 8 * texts.length;
     const places = encoded.map((text, i) => {
       memory.set(text, at);
@@ -100,7 +116,8 @@ export function withTexts(texts, use) {
 
 /** A text that a function writes: give(address, size, address of the size that is needed). */
 export function textFrom(give) {
-  const needed = desk, room = desk + 8;
+  const needed = desk,
+    room = desk + 8;
   let code = give(room, deskSize - 8, needed);
   const size = memoryView().getUint32(needed, true) - 1;
   if (code === 0) return decoder.decode(memoryBytes().subarray(room, room + size));
@@ -109,10 +126,4 @@ export function textFrom(give) {
     code = give(large, size + 1, needed);
     return decoder.decode(memoryBytes().subarray(large, large + size));
   });
-}
-
-/** A text that ends with a zero byte. */
-export function textAt(address) {
-  const memory = memoryBytes();
-  return decoder.decode(memory.subarray(address, memory.indexOf(0, address)));
 }

@@ -1,5 +1,5 @@
-// The tables that the JavaScript package reads when it is loaded, as one text in JSON: the members and
-// what they mean in words, the quantities and their units, the letters and the messages.
+// The tables that the JavaScript package is built with, as one text in JSON: the members and what they
+// mean in words, the quantities and their units, the letters and the messages.
 #include <fmt/format.h>
 
 #include <cmath>
