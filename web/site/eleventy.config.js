@@ -6,7 +6,7 @@ import * as esbuild from 'esbuild';
 import './data/guides.js';
 import { copied } from './source/markdown.mjs';
 import { formula } from './source/mathematics.mjs';
-import { output, packageModule, root } from './source/places.mjs';
+import { output, root } from './source/places.mjs';
 
 /** An address from the page that has it: pages are opened from files as well. */
 const relative = (target, from) => {
@@ -15,19 +15,26 @@ const relative = (target, from) => {
 };
 
 /** Numbers as tables print them, with a true minus sign. Printed coefficients have at most 15 digits. */
-const printed = number => String(Number(Number(number).toPrecision(15))).replace('e-', ' × 10⁻').replace(/^-/, '−')
-  .replace(/10⁻(\d+)/, (_, digits) => `10⁻${[...digits].map(digit => '⁰¹²³⁴⁵⁶⁷⁸⁹'[digit]).join('')}`);
+const printed = number =>
+  String(Number(Number(number).toPrecision(15)))
+    .replace('e-', ' × 10⁻')
+    .replace(/^-/, '−')
+    .replace(
+      /10⁻(\d+)/,
+      (_, digits) => `10⁻${[...digits].map(digit => '⁰¹²³⁴⁵⁶⁷⁸⁹'[digit]).join('')}`,
+    );
 
 export default function (config) {
   config.addFilter('from', relative);
   config.addPairedShortcode('display', tex => formula(tex));
   config.addPairedShortcode('inline', tex => formula(tex, false));
   config.addFilter('symbol', tex => formula(tex, false));
-  config.addFilter('greek', name => /^[a-z]{3}/.test(name) ? `\\${name}` : name.replace(/(\d+)/, '_$1'));
+  config.addFilter('greek', name =>
+    /^[a-z]{3}/.test(name) ? `\\${name}` : name.replace(/(\d+)/, '_$1'),
+  );
   config.addFilter('printed', printed);
-  config.addFilter('rounded', number => number === 0 ? '0' : printed(number.toExponential(1)));
+  config.addFilter('rounded', number => (number === 0 ? '0' : printed(number.toExponential(1))));
   config.addFilter('script', value => JSON.stringify(value).replaceAll('<', '\\u003c'));
-  config.addPassthroughCopy({ 'site/style.css': 'style.css', 'site/source/theme.js': 'theme.js' });
   // Few systems have a font with the tables that formulas need.
   const font = 'node_modules/@fontsource/noto-sans-math';
   config.addPassthroughCopy({
@@ -36,16 +43,36 @@ export default function (config) {
   });
   for (const [source, place] of copied) config.addPassthroughCopy({ [`../${source}`]: place });
 
-  // What pages run: classic scripts, which need no server.
-  config.on('eleventy.after', () => esbuild.build({
-    entryPoints: [`${root}web/site/source/member.mjs`, `${root}web/site/source/search.mjs`],
-    outdir: output, bundle: true, minify: true, format: 'iife', target: 'es2022',
-    legalComments: 'none', alias: { 'calvex/load': packageModule.replace('index.js', 'load.js') },
-  }));
+  // What pages run and look like: classic scripts and one sheet, which need no server.
+  const source = `${root}web/site`;
+  config.on('eleventy.after', () =>
+    esbuild.build({
+      entryPoints: [
+        `${source}/source/theme.js`,
+        `${source}/source/member.mjs`,
+        `${source}/source/search.mjs`,
+        `${source}/style.css`,
+      ],
+      outdir: output,
+      entryNames: '[name]',
+      bundle: true,
+      minify: true,
+      format: 'iife',
+      target: 'es2022',
+      legalComments: 'none',
+      external: ['*.woff2'],
+    }),
+  );
 
   config.setQuietMode(true);
   return {
-    dir: { input: 'site/pages', includes: '../layouts', data: '../data', output: '../build/site/docs' },
-    markdownTemplateEngine: 'njk', htmlTemplateEngine: 'njk',
+    dir: {
+      input: 'site/pages',
+      includes: '../layouts',
+      data: '../data',
+      output: '../build/site/docs',
+    },
+    markdownTemplateEngine: 'njk',
+    htmlTemplateEngine: 'njk',
   };
 }

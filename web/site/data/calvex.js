@@ -2,11 +2,10 @@
 // answers to the examples.
 import { execFileSync } from 'node:child_process';
 
+import * as calvex from 'calvex';
 import { runExample, shown } from '../source/example.mjs';
-import { commandLine, packageModule } from '../source/places.mjs';
+import { commandLine } from '../source/places.mjs';
 import { messagesOf } from '../source/probes.mjs';
-
-const calvex = await import(packageModule);
 
 /** "above 0 to 3000" */
 function limits({ low, high, aboveLow, belowHigh }) {
@@ -16,9 +15,10 @@ function limits({ low, high, aboveLow, belowHigh }) {
 }
 
 /** What a setting or a constant answers has the member's name. */
-const nameOf = (row, output) => row.inputs.length === 0 && row.outputs.length === 1 ? row.name : output.name;
+const nameOf = (row, output) =>
+  row.inputs.length === 0 && row.outputs.length === 1 ? row.name : output.name;
 
-const ofGroup = value => value.group < 0 ? undefined : calvex.groups[value.group];
+const ofGroup = value => (value.group < 0 ? undefined : calvex.groups[value.group]);
 
 /** What the command line's help has beside the table: a setting's values, the call that it shows, and
  * what automation clients see. */
@@ -29,15 +29,21 @@ function help(name) {
     const [title, ...lines] = part.split('\n');
     sections[title] = lines.filter(Boolean).map(line => line.slice(2));
   }
-  const calls = sections.example?.slice(0, 1) ??
+  const calls =
+    sections.example?.slice(0, 1) ??
     sections['example, in a script'].filter(line => !line.startsWith(' '));
   const isScript = sections.example === undefined;
-  return { calls, isScript, value: sections.value ?? [], automation: sections['for automation clients'] };
+  return {
+    calls,
+    isScript,
+    value: sections.value ?? [],
+    automation: sections['for automation clients'],
+  };
 }
 
 function page(row) {
-  const given = row.kind === 'setting' ? row.outputs.map(output => ({ ...output, name: 'value' }))
-    : row.inputs;
+  const given =
+    row.kind === 'setting' ? row.outputs.map(output => ({ ...output, name: 'value' })) : row.inputs;
   const { outputs, failure } = runExample(calvex, row, row.example.inputs);
   if (failure) throw new Error(`the example of ${row.name} fails: ${failure.reason}`);
   return {
@@ -45,10 +51,17 @@ function page(row) {
     sentence: `${row.title[0].toUpperCase()}${row.title.slice(1)}.`,
     url: `members/${row.name}.html`,
     given: given.map((input, i) => ({
-      ...input, group: ofGroup(input), limits: limits(input), value: row.example.inputs[i] ?? '',
+      ...input,
+      group: ofGroup(input),
+      limits: limits(input),
+      value: row.example.inputs[i] ?? '',
     })),
     answered: row.outputs.map((output, i) => ({
-      ...output, name: nameOf(row, output), group: ofGroup(output), value: outputs[i].value, shown: shown(outputs[i].value),
+      ...output,
+      name: nameOf(row, output),
+      group: ofGroup(output),
+      value: outputs[i].value,
+      shown: shown(outputs[i].value),
     })),
     groups: [...new Set([...given, ...row.outputs].map(value => value.group))].filter(n => n >= 0),
     messages: messagesOf(calvex, row),
@@ -64,8 +77,12 @@ for (const member of members) {
 
 /** Which members said a message. */
 function saidBy(number) {
-  return members.flatMap(member => member.messages.filter(message => message.code === number)
-    .slice(0, 1).map(message => ({ member, message })));
+  return members.flatMap(member =>
+    member.messages
+      .filter(message => message.code === number)
+      .slice(0, 1)
+      .map(message => ({ member, message })),
+  );
 }
 
 export default {

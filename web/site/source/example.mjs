@@ -2,12 +2,16 @@
 // read.
 
 /** Inputs come from fields, the table's preparation has numbers as texts: both as the member wants. */
-const typed = (row, inputs) => inputs.map((value, i) =>
-  row.inputs[i]?.type === 'string' ? String(value) : Number(value));
+const typed = (row, inputs) =>
+  inputs.map((value, i) => (row.inputs[i]?.type === 'string' ? String(value) : Number(value)));
 
 /** Ten digits, as the command line prints. */
-export const shown = value => typeof value !== 'number' ? String(value)
-  : Number.isFinite(value) ? String(Number(value.toPrecision(10))) : String(value);
+export const shown = value =>
+  typeof value !== 'number'
+    ? String(value)
+    : Number.isFinite(value)
+      ? String(Number(value.toPrecision(10)))
+      : String(value);
 
 /** Runs a member in a new engine of the loaded package, with units by the keyword of their quantity.
  * Answers `outputs`, a row { name, value, unit } for each result, or `failure`, { reason, cause, code };
@@ -15,10 +19,13 @@ export const shown = value => typeof value !== 'number' ? String(value)
 export function runExample(calvex, member, inputs, units = {}) {
   const engine = new calvex.Engine(units);
   try {
-    for (const call of member.preparation) perform(engine, calvex.findMember(call.member), call.inputs);
+    for (const call of member.preparation)
+      perform(engine, calvex.findMember(call.member), call.inputs);
     const values = perform(engine, member, inputs);
     const outputs = member.outputs.map((output, i) => ({
-      name: output.name, value: values[i], unit: output.group < 0 ? '' : engine.unit(output.group),
+      name: output.name,
+      value: values[i],
+      unit: output.group < 0 ? '' : engine.unit(output.group),
     }));
     return { outputs, warnings: warningsOf(engine.trace()) };
   } catch (failure) {

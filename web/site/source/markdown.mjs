@@ -3,10 +3,13 @@
 import { existsSync } from 'node:fs';
 import { posix } from 'node:path';
 
+import { members } from 'calvex';
 import MarkdownIt from 'markdown-it';
 import anchor from 'markdown-it-anchor';
 
 import { root } from './places.mjs';
+
+const names = new Set(members.map(member => member.name));
 
 /** Files of the checkout that pages show or offer, with their places in the site. */
 export const copied = new Map();
@@ -50,7 +53,8 @@ function tidyTables(tokens) {
 function parser(source, pages, headings) {
   const markdown = new MarkdownIt({ html: false });
   markdown.use(anchor, {
-    callback: (token, { slug, title }) => headings.push({ level: Number(token.tag[1]), slug, title }),
+    callback: (token, { slug, title }) =>
+      headings.push({ level: Number(token.tag[1]), slug, title }),
   });
   markdown.core.ruler.push('site', state => {
     state.tokens = tidyTables(state.tokens);
@@ -62,6 +66,20 @@ function parser(source, pages, headings) {
       }
     }
   });
+  // A member that is named leads to its page.
+  markdown.renderer.rules.code_inline = (tokens, i) => {
+    const text = markdown.utils.escapeHtml(tokens[i].content);
+    const isLinked =
+      tokens
+        .slice(0, i)
+        .reduce(
+          (depth, { nesting, type }) => (type.startsWith('link_') ? depth + nesting : depth),
+          0,
+        ) > 0;
+    return !names.has(text) || isLinked
+      ? `<code>${text}</code>`
+      : `<a href="./members/${text}.html"><code>${text}</code></a>`;
+  };
   // What may be wider than the page scrolls by itself, also by keyboard.
   markdown.renderer.rules.table_open = () =>
     '<div class="wide" tabindex="0" role="group" aria-label="Table"><table>\n';
@@ -94,8 +112,10 @@ export function render(text, source, pages) {
   const html = part => markdown.renderer.render(part, markdown.options, {});
   const titleEnd = tokens.findIndex(token => token.type === 'heading_close') + 1;
   return {
-    title: headings[0].title, headings: headings.slice(1),
-    head: html(tokens.slice(0, titleEnd)), body: html(tokens.slice(titleEnd)),
+    title: headings[0].title,
+    headings: headings.slice(1),
+    head: html(tokens.slice(0, titleEnd)),
+    body: html(tokens.slice(titleEnd)),
     sections: sectionsOf(tokens, headings),
   };
 }

@@ -10,26 +10,36 @@ const selects = [...form.querySelectorAll('select')];
 const results = [...form.querySelectorAll('output')];
 
 let loading;
-const loaded = () => loading ??= calvex.load();
+const loaded = () => (loading ??= calvex.load());
 
 /** Units by keyword, of all quantities on the page. */
-const units = () => Object.fromEntries(selects.map(select =>
-  [calvex.groups[select.dataset.group].keywords[0], select.value]));
+const units = () =>
+  Object.fromEntries(
+    selects.map(select => [calvex.groups[select.dataset.group].keywords[0], select.value]),
+  );
 
 async function run() {
   await loaded();
   const member = calvex.findMember(form.dataset.member);
   const empty = fields.find(field => field.value.trim() === '');
-  const wrong = empty ?? fields.find(field => field.matches('.number') && !Number.isFinite(Number(field.value)));
+  const wrong =
+    empty ??
+    fields.find(field => field.matches('.number') && !Number.isFinite(Number(field.value)));
   for (const field of fields) field.toggleAttribute('aria-invalid', field === wrong);
   if (wrong) {
     const name = wrong.labels[0].textContent;
-    fail(wrong === empty ? `${name} is missing.` : `${name} is to be a number, not ${wrong.value}.`);
+    fail(
+      wrong === empty ? `${name} is missing.` : `${name} is to be a number, not ${wrong.value}.`,
+    );
     wrong.focus();
     return;
   }
-  const { outputs, failure, warnings } = runExample(calvex, member, fields.map(field => field.value.trim()),
-    units());
+  const { outputs, failure, warnings } = runExample(
+    calvex,
+    member,
+    fields.map(field => field.value.trim()),
+    units(),
+  );
   if (failure) {
     fail([failure.reason, failure.cause].filter(Boolean).join(' '));
     return;
@@ -41,7 +51,9 @@ async function run() {
   });
   outcome.className = '';
   outcome.textContent = [
-    outputs.map(({ value, unit }, i) => `${results[i].dataset.result} = ${shown(value)} ${unit}`.trim()).join(', ') || 'Done.',
+    outputs
+      .map(({ value, unit }, i) => `${results[i].dataset.result} = ${shown(value)} ${unit}`.trim())
+      .join(', ') || 'Done.',
     ...warnings.map(({ text }) => `Warning: ${text}`),
   ].join(' ');
 }
@@ -87,7 +99,9 @@ for (const select of selects) select.addEventListener('change', () => choose(sel
 for (const button of document.querySelectorAll('button.call')) {
   button.addEventListener('click', async () => {
     form.reset();
-    JSON.parse(button.dataset.inputs).forEach((value, i) => { fields[i].value = value; });
+    JSON.parse(button.dataset.inputs).forEach((value, i) => {
+      fields[i].value = value;
+    });
     await run();
     fields[0].focus();
   });

@@ -3,7 +3,6 @@ import { fileURLToPath } from 'node:url';
 
 export const root = fileURLToPath(new URL('../../..', import.meta.url));
 export const output = `${root}build/site/docs`;
-/** The package as it is built, and the programs of the machine. */
-export const packageModule = `${root}build/web/package/index.js`;
+/** Programs of the machine. */
 export const commandLine = `${root}build/release/apps/calvex`;
 export const generator = `${root}build/release/apps/calvex_generate`;

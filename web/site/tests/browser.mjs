@@ -19,7 +19,8 @@ export async function openPage(browser, path, options = {}) {
   page.on('pageerror', error => page.faults.push(error.message));
   page.on('request', request => {
     const url = request.url();
-    if (!url.startsWith(address('')) && !/^(data|blob):/.test(url)) page.faults.push(`asks for ${url}`);
+    if (!url.startsWith(address('')) && !/^(data|blob):/.test(url))
+      page.faults.push(`asks for ${url}`);
   });
   if (path !== undefined) await page.goto(address(path));
   return page;
@@ -27,7 +28,9 @@ export async function openPage(browser, path, options = {}) {
 
 /** Presses the button and waits for the answer. */
 export async function run(page) {
-  await page.locator('#outcome').evaluate(outcome => { outcome.textContent = ''; });
+  await page.locator('#outcome').evaluate(outcome => {
+    outcome.textContent = '';
+  });
   await page.getByRole('button', { name: 'Run', exact: true }).click();
   await page.waitForFunction(() => document.querySelector('#outcome').textContent !== '');
 }

@@ -4,18 +4,17 @@ import { existsSync, readFileSync, readdirSync } from 'node:fs';
 import { posix } from 'node:path';
 import { test } from 'node:test';
 
+import { members } from 'calvex';
 import { HtmlValidate } from 'html-validate';
 import { Parser } from 'htmlparser2';
 
-import { output, packageModule } from '../source/places.mjs';
-
-const { members } = await import(packageModule);
+import { output } from '../source/places.mjs';
 
 /** What a page has for links: its names, and what it asks for. */
 function read(path) {
   const page = { ids: [], links: [] };
   new Parser({
-    onopentag(tag, { id, href, src, action }) {
+    onopentag(_tag, { id, href, src, action }) {
       if (id !== undefined) page.ids.push(id);
       for (const link of [href, src, action]) if (link !== undefined) page.links.push(link);
     },
@@ -28,7 +27,10 @@ const pages = new Map(paths.map(path => [path, read(path)]));
 
 test('Every member has a page', () => {
   const absent = members.filter(member => !pages.has(`members/${member.name}.html`));
-  assert.deepEqual(absent.map(member => member.name), []);
+  assert.deepEqual(
+    absent.map(member => member.name),
+    [],
+  );
   assert.equal(paths.filter(path => path.startsWith('members/')).length, members.length);
 });
 
@@ -39,7 +41,7 @@ test('Every guide has a page, and what it shows is in the folder', () => {
 
 /** Why a link is none that leads somewhere in the folder; empty for one that does. */
 function fault(path, link) {
-  if (link === 'data:,') return '';  // the icon that there is none
+  if (link === 'data:,') return ''; // the icon that there is none
   if (!/^(\.\.?\/|#)/.test(link)) return 'is not relative';
   const [file, fragment] = link.split('#');
   const target = file === '' ? path : posix.normalize(posix.join(posix.dirname(path), file));
@@ -70,7 +72,8 @@ test('A link that is not relative, leads nowhere or names nothing is found', () 
 
 test('No name stands twice on a page', () => {
   const twice = [...pages].flatMap(([path, { ids }]) =>
-    ids.filter((id, i) => ids.indexOf(id) !== i).map(id => `${path}#${id}`));
+    ids.filter((id, i) => ids.indexOf(id) !== i).map(id => `${path}#${id}`),
+  );
   assert.deepEqual(twice, []);
 });
 
@@ -84,7 +87,9 @@ test('The HTML is valid', async () => {
   for (const path of paths) {
     const { results } = await validator.validateFile(posix.join(output, path));
     for (const { messages } of results) {
-      faults.push(...messages.map(({ line, ruleId, message }) => `${path}:${line}: ${ruleId}: ${message}`));
+      faults.push(
+        ...messages.map(({ line, ruleId, message }) => `${path}:${line}: ${ruleId}: ${message}`),
+      );
     }
   }
   assert.deepEqual(faults.slice(0, 20), []);
