@@ -108,7 +108,7 @@ function sectionsOf(tokens, headings) {
 export function render(text, source, pages) {
   const headings = [];
   const markdown = parser(source, pages, headings);
-  const tokens = markdown.parse(text, {});
+  const tokens = markdown.parse(text.replaceAll(/^<!--.*-->\n/gm, ''), {});
   const html = part => markdown.renderer.render(part, markdown.options, {});
   const titleEnd = tokens.findIndex(token => token.type === 'heading_close') + 1;
   return {
