@@ -53,13 +53,18 @@ HWY_INLINE Lanes polynomial(const double (&c)[n], Lanes x) {
   return sum;
 }
 
-/// e^x = 2^k e^r with |r| <= ln 2 / 2, where 1 + r + r^2/2! + ... + r^13/13! is exact to 4e-18. Below
-/// -708, where it leaves the normal numbers, 0; above 709 infinite.
+/// e^x = 2^k e^r with |r| <= ln 2 / 2, where 1 + r + r^2/2! + ... + r^13/13! is exact to 4e-18.
+/// Below -708, where it leaves the normal numbers, 0; above 709 infinite.
 HWY_INLINE Lanes exp(Lanes x) {
-  constexpr double even[] = {1.0,           1.0 / 2.0,         1.0 / 24.0,       1.0 / 720.0,
+  constexpr double even[] = {1.0,           1.0 / 2.0,       1.0 / 24.0,       1.0 / 720.0,
                              1.0 / 40320.0, 1.0 / 3628800.0, 1.0 / 479001600.0};
-  constexpr double odd[] = {1.0,            1.0 / 6.0,          1.0 / 120.0,       1.0 / 5040.0,
-                            1.0 / 362880.0, 1.0 / 39916800.0, 1.0 / 6227020800.0};
+  constexpr double odd[] = {1.0,
+                            1.0 / 6.0,
+                            1.0 / 120.0,
+                            1.0 / 5040.0,
+                            1.0 / 362880.0,
+                            1.0 / 39916800.0,
+                            1.0 / 6227020800.0};
   const Lanes shifted = x * 1.4426950408889634 + wholeNumbers;  // 1/ln 2
   const Lanes k = shifted - wholeNumbers;
   const Lanes r = (x - k * ln2High) - k * ln2Low;

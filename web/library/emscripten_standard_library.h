@@ -14,7 +14,8 @@
 
 _LIBCPP_BEGIN_NAMESPACE_STD
 
-// --- Algorithms over ranges with projections ------------------------------------------------------
+// --- Algorithms over ranges with projections
+// ------------------------------------------------------
 
 namespace ranges {
 
@@ -29,7 +30,8 @@ constexpr auto find_if(Range&& range, Test test, Projection projection = {}) {
 
 template <class Range, class Value, class Projection = identity>
 constexpr auto find(Range&& range, const Value& value, Projection projection = {}) {
-  return ranges::find_if(range, [&](const auto& element) { return element == value; }, projection);
+  return ranges::find_if(
+      range, [&](const auto& element) { return element == value; }, projection);
 }
 
 template <class Range, class Test, class Projection = identity>
@@ -56,7 +58,8 @@ constexpr ptrdiff_t count(Range&& range, const Value& value) {
   return ranges::count_if(range, [&](const auto& element) { return element == value; });
 }
 
-template <class A, class B, class Same = std::equal_to<>, class OfA = identity, class OfB = identity>
+template <class A, class B, class Same = std::equal_to<>, class OfA = identity,
+          class OfB = identity>
 constexpr bool equal(A&& a, B&& b, Same same = {}, OfA ofA = {}, OfB ofB = {}) {
   return std::equal(std::begin(a), std::end(a), std::begin(b), std::end(b),
                     [&](const auto& x, const auto& y) {
@@ -109,7 +112,8 @@ constexpr auto lower_bound(Range&& range, const Value& value, Order order = {},
 
 }  // namespace ranges
 
-// --- Numbers --------------------------------------------------------------------------------------
+// --- Numbers
+// --------------------------------------------------------------------------------------
 
 template <class To, class From>
 constexpr To bit_cast(const From& from) noexcept {
@@ -125,7 +129,8 @@ inline from_chars_result from_chars(const char* first, const char* last, double&
   return {first + (rest - text.c_str()), errc{}};
 }
 
-// --- Threads, of which there is but one -------------------------------------------------------------
+// --- Threads, of which there is but one
+// -------------------------------------------------------------
 
 class jthread {
  public:

@@ -1,5 +1,5 @@
-// The tables that the JavaScript package is built with, as one text in JSON: the members and what they
-// mean in words, the quantities and their units, the letters and the messages.
+// The tables that the JavaScript package is built with, as one text in JSON: the members and what
+// they mean in words, the quantities and their units, the letters and the messages.
 #include <fmt/format.h>
 
 #include <cmath>
@@ -82,10 +82,10 @@ std::string_view resultName(const Parameter& parameter) {
 
 std::string input(const Parameter& parameter, const ParameterExplanation& explained) {
   const Limits limits = explained.limits.value_or(Limits{});
-  return fmt::format(R"({{{},"low":{},"high":{},"aboveLow":{},"belowHigh":{}}})",
-                     value(parameter.name, typeName(parameter.type), parameter.group,
-                           explained.words),
-                     number(limits.low), number(limits.high), limits.aboveLow, limits.belowHigh);
+  return fmt::format(
+      R"({{{},"low":{},"high":{},"aboveLow":{},"belowHigh":{}}})",
+      value(parameter.name, typeName(parameter.type), parameter.group, explained.words),
+      number(limits.low), number(limits.high), limits.aboveLow, limits.belowHigh);
 }
 
 std::string token(const Member& member, const spreadsheet::Token& row) {
@@ -107,10 +107,10 @@ struct Parameters {
       if (parameter.isInput() && parameter.type != ValueType::array) {
         inputs.push_back(input(parameter, words));
       } else {
-        outputs.push_back('{' +
-                          value(resultName(parameter), typeName(parameter.type), parameter.group,
-                                words.words) +
-                          '}');
+        outputs.push_back(
+            '{' +
+            value(resultName(parameter), typeName(parameter.type), parameter.group, words.words) +
+            '}');
       }
     }
   }
@@ -134,8 +134,7 @@ std::string memberRow(const Member& member) {
       R"("inputs":{},"outputs":{},"hasTokens":{},"preparation":{},"example":{}}})",
       member.name, member.dispatchId, kindOf(member), headingText(explained.heading),
       quoted(explained.title), quoted(explained.notes), quoted(explained.other),
-      list(parameters.inputs, asItIs), list(parameters.outputs, asItIs),
-      !tokensOf(member).empty(),
+      list(parameters.inputs, asItIs), list(parameters.outputs, asItIs), !tokensOf(member).empty(),
       list(explained.preparation, call), call(explained.example));
 }
 
@@ -174,10 +173,9 @@ std::string tables() {
   for (int i = 0; i < unitGroupCount; ++i) groups.push_back(UnitGroup(i));
   return fmt::format(R"({{"members":{},"groups":{},"letters":{},"messages":{}}})",
                      list(memberTable(), memberRow), list(groups, groupRow),
-                     list(letterExplanations(), letterRow),
-                     list(messageRows, [](Message message) {
-                       return fmt::format(R"({{"number":{},"text":{}}})",
-                                          static_cast<int>(message), quoted(messageText(message)));
+                     list(letterExplanations(), letterRow), list(messageRows, [](Message message) {
+                       return fmt::format(R"({{"number":{},"text":{}}})", static_cast<int>(message),
+                                          quoted(messageText(message)));
                      }));
 }
 

@@ -134,6 +134,34 @@ test('arrays answer what numbers do, to 1e-10', () => {
   }
 });
 
+test('so does every function around its example, with the same words where one fails', () => {
+  const count = 40;
+  for (const row of members.filter(({ kind }) => kind === 'function')) {
+    const steam = new Engine();
+    for (const { member, inputs } of row.preparation) steam[member](...inputs);
+    const inputs = row.example.inputs.map((x, i) =>
+      Float64Array.from({ length: count }, (_, k) => x * (0.6 + ((k * (2 * i + 7)) % count) / 50)),
+    );
+    const all = steam[row.name](...inputs);
+    const columns = row.outputs.length === 1 ? [all] : Object.values(all);
+    steam.reasons().forEach((reason, k) => {
+      const point = inputs.map(list => list[k]);
+      const text = `${row.name}(${point.join(', ')})`;
+      if (reason !== '') {
+        assert.equal(failureOf(() => steam[row.name](...point)).full, reason, text);
+        for (const column of columns) assert.ok(Number.isNaN(column[k]), text);
+        return;
+      }
+      const one = steam[row.name](...point);
+      const values = row.outputs.length === 1 ? [one] : Object.values(one);
+      values.forEach((value, i) => {
+        const close = Math.abs(columns[i][k] - value) <= 1e-10 * Math.abs(value);
+        assert.ok(close || Object.is(columns[i][k], value), `${text}: ${columns[i][k]}, ${value}`);
+      });
+    });
+  }
+});
+
 test('a failed point is NaN and tells why, in the units of its call', () => {
   const steam = new Engine({ T: 'C', P: 'bar' });
   const h = steam.HPT(100, Float64Array.of(500, 3000));

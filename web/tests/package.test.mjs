@@ -33,6 +33,17 @@ test('an empty folder with the package answers', () => {
   assert.equal(node('program.js'), `3373.998049 true ${version}\n`);
 });
 
+test('the example of its page runs', () => {
+  const page = readFileSync(join(folder, 'node_modules/calvex/README.md'), 'utf8');
+  const [, example] = /```js\n(.*?)```/s.exec(page);
+  writeFileSync(
+    join(folder, 'example.js'),
+    example.replace('steam.HPT(100, 500);', 'console.log(steam.HPT(100, 500));'),
+  );
+  const [, shown] = /HPT\(100, 500\); +\/\/ ([0-9.]+)\.\.\., kJ\/kg/.exec(example);
+  assert.ok(node('example.js').startsWith(shown), shown);
+});
+
 test('the engine for machines without vectors gives the same answers', () => {
   writeFileSync(
     join(folder, 'plain.js'),

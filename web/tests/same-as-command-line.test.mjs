@@ -77,7 +77,9 @@ function moved(x, bits) {
  * of two nearly equal numbers, and the end of a search, have no more digits than that. */
 function ownSpread({ row, given }) {
   const near = [-4, -3, -2, -1, 1, 2, 3, 4];
-  const others = given.flatMap((x, i) => near.map(bits => given.with(i, moved(x, bits))));
+  const others = given.flatMap((x, i) =>
+    near.map(bits => given.map((y, j) => (i === j ? moved(x, bits) : y))),
+  );
   const answers = commandLine([given, ...others].map(inputs => call(row, inputs)));
   const values = answers.map(answer => (answer.pSucc === 1 ? results(answer, row) : []));
   return row.outputs.map((_, j) => Math.max(...values.map(other => apart(other[j], values[0][j]))));
