@@ -35,7 +35,8 @@ export function UnitChoice({ group, label }: { group: number; label: string }) {
 }
 
 interface Props extends Quantity {
-  /** The key of the address that has the text. */
+  /** The key of the address that has the text. No name of the input: as "U" it would be a property of
+   * its form, where others keep their own. */
   name: string;
   label: preact.ComponentChildren;
   text: string;
@@ -60,7 +61,7 @@ export function Field({ name, label, text, hint, trouble, group, words, withoutU
       <div class="typed">
         <input
           id={id}
-          name={name}
+          data-key={name}
           type="text"
           inputMode="text"
           autocomplete="off"

@@ -87,10 +87,10 @@ function machine(member: MemberInfo, widens: boolean): Sketch {
 
 const pump = (): Sketch => ({
   ports: [
-    inlet('water', 'inlet', 'M90,130H210', 90, 146),
+    inlet('inlet', 'inlet', 'M90,130H210', 90, 146),
     outlet('outlet', 'outlet', 'M310,130H440', 340, 146),
   ],
-  lines: [['water', 'outlet']],
+  lines: [['inlet', 'outlet']],
   shapes: (
     <>
       <circle class="body" cx={260} cy={130} r={50} />

@@ -50,10 +50,20 @@ export function streamsOf(member: MemberInfo, values: Readonly<Record<string, nu
     if (!place || value === undefined || !Number.isFinite(value)) continue;
     (streams[place.stream] ??= {})[place.letter] ??= value;
   }
+  nameInlet(streams);
   shareFlows(streams);
   dropPressures(member, values, streams);
   sharePressure(streams);
   return streams;
+}
+
+/** Where there is an inlet, what is said of the water without saying where is said of it. */
+function nameInlet(streams: Streams) {
+  if (!streams.inlet) return;
+  for (const name of ['', 'water']) {
+    streams.inlet = { ...streams[name], ...streams.inlet };
+    delete streams[name];
+  }
 }
 
 /** What flows in flows out: the flow of "cold" is that of "cold inlet" and "cold outlet". */
