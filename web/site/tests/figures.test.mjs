@@ -51,3 +51,24 @@ test('The table against other formulations has the numbers of the engine, and th
   });
   assert.deepEqual(faults, []);
 });
+
+test('Every measured row is one of the benchmark that the table names', () => {
+  const sources = { calvex_bench: 'members_bench', calvex_bench_direct: 'direct_bench' };
+  let count = 0;
+  for (const guide of ['accuracy-and-speed', 'direct-road']) {
+    const text = readFileSync(`${root}docs/${guide}.md`, 'utf8');
+    const tables = text.matchAll(/<!-- measured: (\w+) -->\n[^|]*\n\|.*\n\|.*\n((?:\|.*\n)+)/g);
+    for (const [, program, rows] of tables) {
+      const source = readFileSync(`${root}bench/${sources[program]}.cpp`, 'utf8');
+      for (const row of rows.trim().split('\n')) {
+        const label = row
+          .split('|')[1]
+          .trim()
+          .replace(/ \([\d-]+\)$/, '');
+        assert.ok(source.includes(`"${label}"`), `${program} measures no ${label}`);
+        ++count;
+      }
+    }
+  }
+  assert.ok(count > 30);
+});
