@@ -13,6 +13,7 @@
 #include "direct/starting_tables.h"
 #include "steam/constants.h"
 #include "steam/fundamental_coefficients.h"
+#include "steam/saturation_coefficients.h"
 #include "steam/transport_coefficients.h"
 
 // Two lanes need no older set than SSE 4; a machine without it has one.
