@@ -10,7 +10,6 @@
 #include "server/member_columns.h"
 #include "server/member_explanations.h"
 #include "server/member_table.h"
-#include "units/encoding.h"
 
 namespace {
 
@@ -43,7 +42,7 @@ std::string sentence(std::string text) {
 std::string unitOf(const Parameter& parameter) {
   if (!parameter.hasUnit()) return {};
   const auto& row = unitGroupTable()[static_cast<std::size_t>(parameter.group)];
-  return toUtf8(row.internalUnit);
+  return std::string(row.internalUnit);
 }
 
 /// "pressure, above 0 to 3000 MPa, or in the document's unit"
@@ -243,40 +242,36 @@ std::string control(std::string_view kind, std::string_view id, int left, int to
       kind, id, left, top, width, height, rest);
 }
 
-/// The list boxes of the units, as a page of the options or as a dialog with buttons.
-std::string units(bool isDialog) {
-  constexpr int line = 14, half = 176, perColumn = (unitGroupCount + 1) / 2;
+/// The dialog of the units: a list box a group.
+std::string units() {
+  constexpr int line = 14, half = 194, perColumn = (unitGroupCount + 1) / 2;
   constexpr int width = 2 * half + 6, bottom = perColumn * line + 8;
   std::string controls;
   for (int group = 0; group < unitGroupCount; ++group) {
     const int left = 4 + group / perColumn * half;
     const int top = 4 + group % perColumn * line;
     const auto& row = unitGroupTable()[static_cast<std::size_t>(group)];
-    controls += control("text", fmt::format("group{}", group), left, top + 2, 102, 10,
-                        fmt::format(R"(dlg:value="{}")", escaped(toUtf8(row.displayName))));
-    controls += control("menulist", fmt::format("unit{}", group), left + 104, top, 66, 12,
+    controls += control("text", fmt::format("group{}", group), left, top + 2, 120, 10,
+                        fmt::format(R"(dlg:value="{}")", escaped(row.displayName)));
+    controls += control("menulist", fmt::format("unit{}", group), left + 122, top, 66, 12,
                         R"(dlg:spin="true" dlg:linecount="12")");
   }
-  const int textWidth = isDialog ? width - 110 : width - 8;
-  controls += control("text", "cells", 4, bottom, textWidth, 18, R"(dlg:multiline="true")");
-  if (isDialog) {
-    controls += control("button", "ok", width - 104, bottom, 48, 14,
-                        R"(dlg:button-type="ok" dlg:default="true" dlg:value="OK")");
-    controls += control("button", "cancel", width - 52, bottom, 48, 14,
-                        R"(dlg:button-type="cancel" dlg:value="Cancel")");
-  }
+  controls += control("text", "cells", 4, bottom, width - 110, 18,
+                      R"(dlg:multiline="true" dlg:nolabel="true")");
+  controls += control("button", "ok", width - 104, bottom, 48, 14,
+                      R"(dlg:button-type="ok" dlg:default="true" dlg:value="OK")");
+  controls += control("button", "cancel", width - 52, bottom, 48, 14,
+                      R"(dlg:button-type="cancel" dlg:value="Cancel")");
   return fmt::format(
       R"(<?xml version="1.0" encoding="UTF-8"?>
 <dlg:window xmlns:dlg="http://openoffice.org/2000/dialog" xmlns:script="http://openoffice.org/2000/script"
     dlg:id="units" dlg:left="30" dlg:top="20" dlg:width="{}" dlg:height="{}"
-    dlg:closeable="true" dlg:moveable="true"{}>
+    dlg:closeable="true" dlg:moveable="true" dlg:title="Units of this document">
 <dlg:bulletinboard>
 {}</dlg:bulletinboard>
 </dlg:window>
 )",
-      width, bottom + 22,
-      isDialog ? R"( dlg:title="Units of this document")" : R"( dlg:withtitlebar="false")",
-      controls);
+      width, bottom + 22, controls);
 }
 
 }  // namespace
@@ -289,10 +284,10 @@ int main(int count, char** arguments) {
     std::cout << methods();
   } else if (what == "wizard") {
     std::cout << wizard();
-  } else if (what == "units" || what == "page") {
-    std::cout << units(what == "units");
+  } else if (what == "units") {
+    std::cout << units();
   } else {
-    std::cerr << "usage: generate types|methods|wizard|units|page\n";
+    std::cerr << "usage: generate types|methods|wizard|units\n";
     return 2;
   }
 }

@@ -293,6 +293,19 @@ Any calculate(calvex_engine* engine, const Signature& signature,
                              : many(engine, signature, inputs, *chosen);
 }
 
+namespace {
+
+Place extentOfAll(std::span<const Any* const> arguments) {
+  Place all{1, 1};
+  for (const Any* argument : arguments) {
+    const Place extent = extentOf(*argument);
+    all = {std::max(all.row, extent.row), std::max(all.column, extent.column)};
+  }
+  return all;
+}
+
+}  // namespace
+
 std::string reason(calvex_engine* engine, const Signature& signature,
                    std::span<const Any* const> arguments, Place place) {
   const auto fault = [&](const std::string& what) {
@@ -306,15 +319,41 @@ std::string reason(calvex_engine* engine, const Signature& signature,
     if (isText(given) && textIn(given).isEmpty()) return fault(name + " is an empty cell or text");
     if (isText(given)) return fault(name + " is the text \"" + toUtf8(textIn(given)) + '"');
     inputs.push_back(toNumber(given));
-    if (errorIn(inputs.back()) == static_cast<std::uint32_t>(CellError::notAvailable)) {
+    const Place extent = extentOf(*arguments[i]);
+    if ((place.row >= extent.row && extent.row > 1) ||
+        (place.column >= extent.column && extent.column > 1)) {
       return fault(name + " has no element here: the ranges are of different sizes");
     }
-    if (std::isnan(inputs.back())) return fault(name + " is an error itself");
+    if (std::isnan(inputs.back())) {
+      return fault(name + " is itself " + errorInWords(errorIn(inputs.back())));
+    }
+  }
+  const std::size_t most = signature.inputs.size() + (signature.hasChoice() ? 1 : 0);
+  if (arguments.size() > most) {
+    return fault(std::to_string(arguments.size()) + " inputs are given, not " +
+                 std::to_string(most));
   }
   const auto chosen = wanted(signature, arguments);
-  if (!chosen) return fault("the last argument names no result");
-  if (call(engine, signature, inputs, *chosen, outputs) == CALVEX_OK) return {};
-  return signature.name + ": " + lastFailure(engine);
+  if (!chosen) {
+    const Any choice = elementOf(*arguments[signature.inputs.size()], {});
+    return fault(isText(choice) ? '"' + toUtf8(textIn(choice)) + "\" names no result"
+                                : "the last argument is no text that names a result");
+  }
+  if (call(engine, signature, inputs, *chosen, outputs) != CALVEX_OK) {
+    return signature.name + ": " + lastFailure(engine);
+  }
+  if (!signature.hasTokens) {
+    for (const std::size_t output : *chosen) {
+      if (std::isinf(outputs[output])) {
+        return signature.name + ": " + signature.outputs[output].name + " is infinite here";
+      }
+    }
+  }
+  const Place extent = extentOfAll(arguments);
+  if (chosen->size() > 1 && extent.row > 1 && extent.column > 1) {
+    return fault("several results of a table of inputs have no place: name one of them");
+  }
+  return {};
 }
 
 Any convert(calvex_engine* engine, std::span<const Any* const> arguments, std::string& reason) {
@@ -330,19 +369,31 @@ Any convert(calvex_engine* engine, std::span<const Any* const> arguments, std::s
     texts[i] = toUtf8(textIn(word));
     data[i] = texts[i].c_str();
   }
-  const Any given = arguments.size() > words ? elementOf(*arguments[words], {}) : Any();
-  double value = given.hasValue() ? toNumber(given) : errorValue(CellError::missing);
-  if (std::isnan(value)) {
-    reason = "CALVEX.CONVERT: the value is no number";
-    return Any(value);
-  }
   int member = 0;
   calvex_find_member("Convert", CALVEX_TERMINATED, &member);
-  if (calvex_call_texts(engine, member, &value, 1, data, nullptr, words, &value, 1) == CALVEX_OK) {
-    return Any(value);
+  const auto converted = [&](double value) {
+    std::string fault;
+    if (std::isnan(value)) {
+      fault = "the value is missing or no number";
+    } else if (calvex_call_texts(engine, member, &value, 1, data, nullptr, words, &value, 1) !=
+               CALVEX_OK) {
+      fault = lastFailure(engine);
+      value = valueError;
+    }
+    if (reason.empty() && !fault.empty()) reason = "CALVEX.CONVERT: " + fault;
+    return value;
+  };
+  const Range given(arguments.size() > words ? *arguments[words] : Any());
+  if (given.values.size() == 1) return Any(converted(given.values[0]));
+  Numbers rows(length(given.rows));
+  for (std::size_t i = 0; i < given.rows; ++i) {
+    Sequence<double> row(length(given.columns));
+    for (std::size_t j = 0; j < given.columns; ++j) {
+      row.getArray()[j] = converted(given.at(i, j));
+    }
+    rows.getArray()[i] = row;
   }
-  reason = "CALVEX.CONVERT: " + lastFailure(engine);
-  return Any(valueError);
+  return Any(rows);
 }
 
 Any unitName(calvex_engine* engine, const Any& quantity) {
@@ -385,5 +436,15 @@ Place extentOf(const Any& value) {
 }
 
 std::uint32_t errorOf(const Any& value) { return isNumber(value) ? errorIn(numberIn(value)) : 0U; }
+
+std::optional<Place> firstError(const Any& value) {
+  const Place extent = extentOf(value);
+  for (std::size_t i = 0; i < extent.row; ++i) {
+    for (std::size_t j = 0; j < extent.column; ++j) {
+      if (errorOf(elementOf(value, {i, j})) != 0) return Place{i, j};
+    }
+  }
+  return std::nullopt;
+}
 
 }  // namespace calvex::calc

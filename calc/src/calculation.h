@@ -6,6 +6,7 @@
 #include <calvex/calvex.h>
 
 #include <com/sun/star/uno/Any.hxx>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -32,8 +33,8 @@ struct Place {
 [[nodiscard]] std::string reason(calvex_engine* engine, const Signature& signature,
                                  std::span<const Any* const> arguments, Place place);
 
-/// Converts a value between units: quantity, unit, unit wanted, value. What fails is an error
-/// value, and `reason` has the text.
+/// Converts a value, or a range of them, between units: quantity, unit, unit wanted, value. What
+/// fails is an error value, and `reason` has the text of the first.
 [[nodiscard]] Any convert(calvex_engine* engine, std::span<const Any* const> arguments,
                           std::string& reason);
 
@@ -46,5 +47,7 @@ struct Place {
 [[nodiscard]] Place extentOf(const Any& value);
 /// The error in a value; 0 when there is none.
 [[nodiscard]] std::uint32_t errorOf(const Any& value);
+/// Where the first error in a value stands; nothing where there is none.
+[[nodiscard]] std::optional<Place> firstError(const Any& value);
 
 }  // namespace calvex::calc

@@ -6,6 +6,7 @@
 #include "commands.h"
 #include "dialogs.h"
 #include "functions.h"
+#include "units_page.h"
 
 namespace {
 

@@ -2,6 +2,7 @@
 
 #include <com/sun/star/awt/DialogProvider2.hpp>
 #include <com/sun/star/awt/XControl.hpp>
+#include <com/sun/star/awt/XControlContainer.hpp>
 #include <com/sun/star/awt/XDialog.hpp>
 #include <com/sun/star/awt/XFixedText.hpp>
 #include <com/sun/star/awt/XListBox.hpp>
@@ -12,10 +13,10 @@
 #include <com/sun/star/frame/Desktop.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/lang/XMultiComponentFactory.hpp>
-#include <cppuhelper/supportsservice.hxx>
 
 #include "formula.h"
 #include "texts.h"
+#include "unit_lists.h"
 
 namespace calvex::calc {
 
@@ -57,34 +58,7 @@ Reference<css::awt::XListBox> listOf(const Reference<XControlContainer>& window,
   return {window->getControl("unit" + OUString::number(group)), UNO_QUERY_THROW};
 }
 
-int groupCount() {
-  std::size_t count = 0;
-  calvex_group_count(&count);
-  return static_cast<int>(count);
-}
-
-std::string modelUnit(int group) {
-  return textOf([&](char* text, std::size_t size, std::size_t* needed) {
-    calvex_group_text(group, CALVEX_GROUP_MODEL_UNIT, text, size, needed);
-  });
-}
-
-// The model unit first.
-Sequence<OUString> unitNames(int group) {
-  std::size_t count = 0;
-  calvex_unit_count(group, &count);
-  std::vector<OUString> names{toOffice(modelUnit(group))};
-  for (std::size_t i = 0; i < count; ++i) {
-    const OUString name = toOffice(textOf([&](char* text, std::size_t size, std::size_t* needed) {
-      calvex_unit_name(group, i, text, size, needed);
-    }));
-    if (name != names.front()) names.push_back(name);
-  }
-  return {names.data(), static_cast<sal_Int32>(names.size())};
-}
-
-}  // namespace
-
+// The list boxes unit0, unit1, ... Those of units that cells set cannot be chosen from.
 void fillUnits(const Reference<XControlContainer>& window, const Document& document) {
   for (int group = 0; group < groupCount(); ++group) {
     const auto list = listOf(window, group);
@@ -99,11 +73,10 @@ void fillUnits(const Reference<XControlContainer>& window, const Document& docum
     const bool ofCell = document.unitsOfCells().contains(group);
     Reference<css::awt::XWindow>(list, UNO_QUERY_THROW)->setEnable(!ofCell);
   }
-  const std::string cells = unitsText(document.unitsOfCells());
-  setText(window, "cells", cells.empty() ? cells : "Set by cells of the document: " + cells);
+  setText(window, "cells", setByCells(document));
 }
 
-void keepChosenUnits(const Reference<XControlContainer>& window, const Document& document) {
+void keepChosenUnits(const Reference<XControlContainer>& window, Document& document) {
   Units units;
   for (int group = 0; group < groupCount(); ++group) {
     const auto list = listOf(window, group);
@@ -113,6 +86,8 @@ void keepChosenUnits(const Reference<XControlContainer>& window, const Document&
   }
   document.keepUnits(units);
 }
+
+}  // namespace
 
 void showUnits(Document& document) {
   const Dialog dialog("/dialogs/units.xdl");
@@ -169,43 +144,6 @@ Document* currentDocument() {
       css::frame::Desktop::create(context())->getCurrentComponent(), UNO_QUERY);
   Document& document = documentOf(model);
   return document.model().is() ? &document : nullptr;
-}
-
-sal_Bool UnitsPage::callHandlerMethod(const Reference<css::awt::XWindow>& window,
-                                      const css::uno::Any& event, const OUString& method) {
-  OUString what;
-  if (method != "external_event" || !(event >>= what)) return false;
-  const Reference<XControlContainer> controls(window, UNO_QUERY_THROW);
-  Document* const document = currentDocument();
-  if (document == nullptr) {
-    static const Document none{Reference<css::beans::XPropertySet>()};
-    fillUnits(controls, none);
-    for (int group = 0; group < groupCount(); ++group) {
-      Reference<css::awt::XWindow>(listOf(controls, group), UNO_QUERY_THROW)->setEnable(false);
-    }
-    setText(controls, "cells", "Units belong to a spreadsheet: open it first.");
-  } else if (what == "ok") {
-    keepChosenUnits(controls, *document);
-  } else {
-    fillUnits(controls, *document);
-  }
-  return true;
-}
-
-Sequence<OUString> UnitsPage::getSupportedMethodNames() {
-  const OUString name("external_event");
-  return {&name, 1};
-}
-
-OUString UnitsPage::getImplementationName() { return serviceName; }
-
-sal_Bool UnitsPage::supportsService(const OUString& name) {
-  return cppu::supportsService(this, name);
-}
-
-Sequence<OUString> UnitsPage::getSupportedServiceNames() {
-  const OUString name(serviceName);
-  return {&name, 1};
 }
 
 }  // namespace calvex::calc

@@ -94,8 +94,14 @@ class Refresh : public cppu::WeakImplHelper1<css::awt::XCallback> {
       if (document == nullptr) continue;
       try {
         if (!certainly && !document->seemsChanged()) continue;
-        if (!document->readUnits()) continue;
-        Reference<css::sheet::XCalculatable>(document->model(), UNO_QUERY_THROW)->calculateAll();
+        if (!document->readUnits()) {
+          rounds_.erase(model);
+          continue;
+        }
+        // The calculation orders the next round; units that depend on results may never settle.
+        constexpr int most = 10;
+        if (++rounds_[model] > most) document->giveUp();
+        document->calculate();
       } catch (const css::uno::Exception&) {
         // A document that is being closed.
       }
@@ -105,6 +111,7 @@ class Refresh : public cppu::WeakImplHelper1<css::awt::XCallback> {
  private:
   std::mutex mutex_;  // undo managers call without the office's own lock
   std::map<const XPropertySet*, bool> waiting_;
+  std::map<const XPropertySet*, int> rounds_;  // of one change, after each other
 };
 
 // Follows a document: what can be undone may change its units, and its end is the end of all that
@@ -222,16 +229,16 @@ std::string unitsText(const Units& units) {
 Units readUnits(std::string_view text) {
   Units units;
   while (!text.empty()) {
-    const std::string_view part = text.substr(0, text.find(';'));
+    std::string_view part = text.substr(0, text.find(';'));
     text.remove_prefix(std::min(text.size(), part.size() + 1));
+    part.remove_prefix(std::min(part.size(), part.find_first_not_of(' ')));
     const std::size_t sign = part.find('=');
-    if (sign == std::string_view::npos) continue;
-    const std::string_view group = part.substr(part.find_first_not_of(' '));
-    try {
-      units.insert(namedUnit(group.substr(0, group.find('=')), part.substr(sign + 1)));
-    } catch (const Error&) {
-      // A unit of a later version.
+    if (sign == std::string_view::npos) {
+      throw Error(CALVEX_VALUE,
+                  "'" + std::string(part) + "' is no quantity with its unit, as P=bara");
     }
+    const auto [group, unit] = namedUnit(part.substr(0, sign), part.substr(sign + 1));
+    units.insert_or_assign(group, unit);
   }
   return units;
 }
@@ -263,28 +270,80 @@ Units unitsOf(std::span<const Any> words) {
 bool Document::readUnits() {
   if (!model_.is()) return false;
   named_ = keptUnits(model_);
+  Units units;
+  std::string fault;
+  const auto isFaulty = [&](const std::string& place, const char* what) {
+    if (fault.empty()) fault = "The units of this document are not known. " + place + ": " + what;
+  };
+  try {
+    units = calc::readUnits(named_);
+  } catch (const Error& error) {
+    isFaulty(std::string("The name ") + unitsName, error.what());
+  }
   unitsOfCells_.clear();
+  std::map<int, std::string> settingCells;
+  bool isContradicted = false;
   for (const Reference<css::table::XCell>& cell : unitCells(model_)) {
     const std::string name = nameOf(cell);
     if (std::ranges::none_of(watched_, [&](const Watched& known) { return known.isAt(name); })) {
       watched_.push_back({cell, {}});
     }
     try {
-      for (auto& [group, unit] : unitsOf(argumentsOf("Units", cell).value_or(std::vector<Any>()))) {
-        unitsOfCells_.insert_or_assign(group, unit);
+      for (const std::vector<Any>& words : unitCallsOf(model_, cell)) {
+        for (const auto& [group, unit] : unitsOf(words)) {
+          const auto [known, isNew] = unitsOfCells_.try_emplace(group, unit);
+          isContradicted = isContradicted || (!isNew && known->second != unit);
+          known->second = unit;
+          settingCells[group] = name;
+        }
       }
-    } catch (const Error&) {
-      // The cell itself shows that it sets nothing.
+    } catch (const Error& error) {
+      isFaulty(name, error.what());
     }
   }
   for (Watched& watched : watched_) watched.contents = Watched::contentsOf(watched.cell);
-  Units units = calc::readUnits(named_);
+  if (hasGivenUp_ && (!fault.empty() || isAsAtGivingUp())) return false;
   for (const auto& [group, unit] : unitsOfCells_) units.insert_or_assign(group, unit);
-  if (units == units_) return false;
+  if (!isContradicted) settingCells.clear();
+  if (units == units_ && fault == fault_ && settingCells == settingCells_) return false;
   units_ = units;
+  fault_ = fault;
+  settingCells_ = settingCells;
   engine_ = std::make_unique<Engine>();
   for (const auto& [group, unit] : units_) engine_->unit(keywordOf(group), unit);
   return true;
+}
+
+void Document::giveUp() {
+  hasGivenUp_ = true;
+  contentsAtGivingUp_.clear();
+  fault_ =
+      "The units of this document do not settle: a cell with CALVEX.UNITS chooses them by a "
+      "result that they change.";
+}
+
+// Without units nothing has results, so that all rests until somebody changes it.
+bool Document::isAsAtGivingUp() {
+  std::string contents = named_;
+  for (const Watched& watched : watched_) contents += '\n' + watched.contents;
+  if (contentsAtGivingUp_.empty()) contentsAtGivingUp_ = contents;
+  hasGivenUp_ = contents == contentsAtGivingUp_;
+  return hasGivenUp_;
+}
+
+void Document::calculate() {
+  Reference<css::sheet::XCalculatable>(model_, UNO_QUERY_THROW)->calculateAll();
+}
+
+std::string Document::overruled(const Units& units) const {
+  std::string text;
+  for (const auto& [group, unit] : units) {
+    const auto cell = settingCells_.find(group);
+    const auto holding = units_.find(group);
+    if (cell == settingCells_.end() || holding == units_.end() || holding->second == unit) continue;
+    text += " (" + keywordOf(group) + " is " + holding->second + " by " + cell->second + ")";
+  }
+  return text;
 }
 
 bool Document::seemsChanged() const {
@@ -293,7 +352,7 @@ bool Document::seemsChanged() const {
          });
 }
 
-void Document::keepUnits(const Units& units) const {
+void Document::keepUnits(const Units& units) {
   const std::string text = unitsText(units);
   if (text == named_) return;
   const auto names = namesOf(model_);
@@ -304,6 +363,7 @@ void Document::keepUnits(const Units& units) const {
   } else {
     names->addNewByName(unitsName, content, {}, 0);
   }
+  if (readUnits()) calculate();
 }
 
 Document& documentOf(const Reference<XPropertySet>& model) {

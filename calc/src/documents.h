@@ -28,7 +28,7 @@ using Units = std::map<int, std::string>;
 
 /// "T=°C; P=bar", by keywords of the groups.
 [[nodiscard]] std::string unitsText(const Units& units);
-/// Reads what `unitsText` writes; what is not known is left out.
+/// Reads what `unitsText` writes; throws `calvex::Error` for what is none.
 [[nodiscard]] Units readUnits(std::string_view text);
 /// A unit in plain words as the catalogue names it; throws `calvex::Error` for words that name no
 /// group or no unit of it.
@@ -49,22 +49,38 @@ class Document {
   [[nodiscard]] const Units& units() const { return units_; }
   /// The units that cells set.
   [[nodiscard]] const Units& unitsOfCells() const { return unitsOfCells_; }
+  /// Why the units are not known: a cell or the name sets what is none, or cells never settle. No
+  /// member is computed then, since its numbers would be of other units than meant. Empty mostly.
+  [[nodiscard]] const std::string& fault() const { return fault_; }
+  /// Says of units that a cell sets and another cell, which comes later, sets otherwise, where the
+  /// other stands: " (P is bara by Sheet2.A1)".
+  [[nodiscard]] std::string overruled(const Units& units) const;
   [[nodiscard]] const Reference<css::beans::XPropertySet>& model() const { return model_; }
 
   /// Reads the units that the document has now; answers whether they are others than before.
   bool readUnits();
   /// Whether a place that had units has another text now.
   [[nodiscard]] bool seemsChanged() const;
-  /// Keeps units in the document's name, as a step that can be undone; the same ones are none.
-  void keepUnits(const Units& units) const;
+  /// Keeps units in the document's name, as a step that can be undone, and calculates all with
+  /// them; the same ones are none.
+  void keepUnits(const Units& units);
+  /// Calculates all of it.
+  void calculate();
+  /// The units have changed again and again by their own effect: cells choose units by results.
+  void giveUp();
 
  private:
   struct Watched;
+  [[nodiscard]] bool isAsAtGivingUp();
   Reference<css::beans::XPropertySet> model_;
   std::unique_ptr<Engine> engine_ = std::make_unique<Engine>();
   Units units_;
   Units unitsOfCells_;
-  std::string named_;  ///< the text of the document's name
+  std::map<int, std::string> settingCells_;  ///< the last to set a group's unit
+  std::string fault_;
+  bool hasGivenUp_ = false;
+  std::string contentsAtGivingUp_;  ///< of what has units
+  std::string named_;               ///< the text of the document's name
   std::vector<Watched> watched_;
 };
 

@@ -6,6 +6,7 @@
 #include <bit>
 #include <cmath>
 #include <cstdint>
+#include <string>
 
 namespace calvex::calc {
 
@@ -14,6 +15,9 @@ enum class CellError : std::uint32_t {
   number = 503,           ///< #NUM!: the engine has no answer to these numbers
   missing = 511,          ///< Err:511: an input is missing
   value = 519,            ///< #VALUE!: a text where a number must be, an unknown name
+  circular = 522,         ///< Err:522: the cell reads itself
+  unsettled = 523,        ///< Err:523: repeated calculation does not settle
+  name = 525,             ///< #NAME?: a name that is not known
   notAvailable = 0x7fff,  ///< #N/A: arrays of different sizes, an empty cell in a range
 };
 
@@ -26,5 +30,10 @@ enum class CellError : std::uint32_t {
 [[nodiscard]] inline std::uint32_t errorIn(double value) noexcept {
   return std::isnan(value) ? static_cast<std::uint32_t>(std::bit_cast<std::uint64_t>(value)) : 0U;
 }
+
+/// What a cell shows: "#DIV/0!"
+[[nodiscard]] std::string shownError(std::uint32_t error);
+/// "#DIV/0!, a division by zero"
+[[nodiscard]] std::string errorInWords(std::uint32_t error);
 
 }  // namespace calvex::calc

@@ -5,7 +5,6 @@
 
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/table/XCell.hpp>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +29,7 @@ class CellCalls {
 
   /// Why the cell, or one that it reads, has no value: "B1: HPT: ..."; empty when it has one.
   [[nodiscard]] const std::string& reason() const { return reason_; }
-  /// The record of the calls.
+  /// The record of the calls; a single note where they left none.
   [[nodiscard]] const std::vector<RecordRow>& record() const { return record_; }
 
  private:
@@ -38,10 +37,10 @@ class CellCalls {
   std::vector<RecordRow> record_;
 };
 
-/// The arguments of the first call of a function that is not a member's, such as Units, in a cell's
-/// formula; nothing when there is none.
-[[nodiscard]] std::optional<std::vector<Any>> argumentsOf(std::string_view function,
-                                                          const Reference<css::table::XCell>& cell);
+/// The arguments of each call of CALVEX.UNITS that a cell's formula computes. Throws
+/// `calvex::Error` where they cannot be known.
+[[nodiscard]] std::vector<std::vector<Any>> unitCallsOf(
+    const Reference<css::beans::XPropertySet>& model, const Reference<css::table::XCell>& cell);
 
 /// "$Sheet1.A1"
 [[nodiscard]] std::string nameOf(const Reference<css::uno::XInterface>& cell);

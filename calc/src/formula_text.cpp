@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <com/sun/star/uno/Sequence.hxx>
+#include <optional>
 
 #include "calculation.h"
 #include "errors.h"
@@ -113,6 +114,7 @@ class Parser {
  private:
   std::string_view text_;  // what is left of it
   Meaning& meaning_;
+  bool passesOver_ = false;  // a branch that does not count: it is read and not computed
 
   [[noreturn]] void fail() const {
     throw NotFollowed("the formula cannot be followed from " + std::string(text_) + " on");
@@ -179,15 +181,41 @@ class Parser {
     }
     const std::string name = word();
     if (name.empty()) fail();
-    if (!take('(')) return meaning_.reference(name);
+    if (!take('(')) return passesOver_ ? Any() : meaning_.reference(name);
     std::vector<Any> arguments;
+    const bool outside = passesOver_;
     while (!take(')')) {
+      passesOver_ = outside || (name == "IF" && !counts(arguments));
       arguments.push_back(next(';') || next(')') ? Any() : expression(0));
       if (next(')')) continue;
       if (!take(';')) fail();
       if (next(')')) arguments.emplace_back();
     }
+    passesOver_ = outside;
+    if (passesOver_) return {};
+    if (name == "IF" && arguments.size() > 1) {
+      if (const auto condition = singleNumber(arguments[0]); condition) {
+        const std::size_t branch = *condition != 0.0 ? 1 : 2;
+        if (std::isnan(*condition)) return arguments[0];
+        return branch < arguments.size() ? arguments[branch] : Any(0.0);
+      }
+    }
     return meaning_.function(name, arguments);
+  }
+
+  static std::optional<double> singleNumber(const Any& value) {
+    const Place extent = extentOf(value);
+    double number = 0.0;
+    if (extent.row * extent.column != 1 || !(elementOf(value, {}) >>= number)) return std::nullopt;
+    return number;
+  }
+
+  // Whether the argument behind these is one that IF computes: of an array all are.
+  static bool counts(std::span<const Any> before) {
+    if (before.empty()) return true;
+    const auto condition = singleNumber(before[0]);
+    if (!condition) return true;
+    return !std::isnan(*condition) && (*condition != 0.0) == (before.size() == 1);
   }
 
   // What stands between two signs, which stand for one where they are doubled.

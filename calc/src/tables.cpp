@@ -8,12 +8,18 @@
 #include <com/sun/star/chart/XAxisYSupplier.hpp>
 #include <com/sun/star/chart/XChartDocument.hpp>
 #include <com/sun/star/document/XEmbeddedObjectSupplier.hpp>
+#include <com/sun/star/frame/XModel.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
+#include <com/sun/star/sheet/CellFlags.hpp>
 #include <com/sun/star/sheet/XCellRangeAddressable.hpp>
+#include <com/sun/star/sheet/XCellRangesQuery.hpp>
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
+#include <com/sun/star/sheet/XSpreadsheetView.hpp>
+#include <com/sun/star/table/XColumnRowRange.hpp>
 #include <com/sun/star/table/XTableCharts.hpp>
 #include <com/sun/star/table/XTableChartsSupplier.hpp>
+#include <com/sun/star/util/XProtectable.hpp>
 
 #include "formula.h"
 #include "signatures.h"
@@ -80,6 +86,45 @@ std::string wordsOf(int member, std::size_t parameter) {
   });
 }
 
+// Throws unless the cells of a table can be written there: nothing that stands there is lost, and
+// no table is cut off.
+void checkRoom(const Corner& corner, sal_Int32 columns, sal_Int32 rows) {
+  const auto refuse = [](const std::string& why) { throw Error(CALVEX_VALUE, why); };
+  if (Reference<css::util::XProtectable>(corner.sheet, UNO_QUERY_THROW)->isProtected()) {
+    refuse("The sheet is protected: take its protection off (Tools > Protect Sheet) first.");
+  }
+  const Reference<css::table::XColumnRowRange> all(corner.sheet, UNO_QUERY_THROW);
+  if (corner.column + columns > all->getColumns()->getCount() ||
+      corner.row + rows > all->getRows()->getCount()) {
+    refuse(
+        fmt::format("The table has {} columns and {} rows: select a cell further from the "
+                    "sheet's end.",
+                    columns, rows));
+  }
+  const Reference<css::sheet::XCellRangesQuery> place(
+      corner.sheet->getCellRangeByPosition(corner.column, corner.row, corner.column + columns - 1,
+                                           corner.row + rows - 1),
+      UNO_QUERY_THROW);
+  constexpr sal_Int16 contents = css::sheet::CellFlags::VALUE | css::sheet::CellFlags::DATETIME |
+                                 css::sheet::CellFlags::STRING | css::sheet::CellFlags::FORMULA;
+  if (place->queryContentCells(contents)->getCount() > 0) {
+    refuse(
+        fmt::format("The cells from {} to {} are not empty: select a cell with room for {} "
+                    "columns and {} rows.",
+                    corner.name(0, 0), corner.name(columns - 1, rows - 1), columns, rows));
+  }
+}
+
+// So that the headings can be read.
+void widen(const Corner& corner, sal_Int32 columns) {
+  const auto all =
+      Reference<css::table::XColumnRowRange>(corner.sheet, UNO_QUERY_THROW)->getColumns();
+  for (sal_Int32 i = 0; i < columns; ++i) {
+    Reference<XPropertySet>(all->getByIndex(corner.column + i), UNO_QUERY_THROW)
+        ->setPropertyValue("OptimalWidth", css::uno::Any(true));
+  }
+}
+
 // A member of the saturation line with the quality that it is asked for.
 struct SaturationColumn {
   const char* member;
@@ -96,6 +141,9 @@ constexpr SaturationColumn saturationColumns[] = {
 void insertSaturationTable(const Reference<XCellRange>& sheet, sal_Int32 column, sal_Int32 row) {
   const Corner corner{sheet, column, row};
   constexpr int first = 10, last = 370, step = 10;  // °C
+  constexpr int rows = (last - first) / step + 3, columns = std::size(saturationColumns) + 1;
+  checkRoom(corner, columns, rows);
+  const std::string vapour = inUnits("Q", "Fraction", "1").substr(1);  // 100 in per cent
   corner.putHeading(0, 0, "temperature");
   corner.put(0, 1, "=CALVEX.UNIT(\"T\")");
   sal_Int32 right = 1;
@@ -111,15 +159,20 @@ void insertSaturationTable(const Reference<XCellRange>& sheet, sal_Int32 column,
     corner.putResult(0, down, inUnits("T", "C", std::to_string(T)));
     right = 1;
     for (const SaturationColumn& shown : saturationColumns) {
+      const std::string quality = shown.quality == nullptr  ? ""
+                                  : shown.quality[0] == '0' ? ";0"
+                                                            : ";" + vapour;
       corner.put(right++, down,
-                 "=" + std::string(shown.member) + "($" + corner.name(0, down) +
-                     (shown.quality == nullptr ? "" : std::string(";") + shown.quality) + ")");
+                 "=" + std::string(shown.member) + "($" + corner.name(0, down) + quality + ")");
     }
   }
+  widen(corner, columns);
 }
 
 void insertStateTable(const Reference<XCellRange>& sheet, sal_Int32 column, sal_Int32 row) {
   const Corner corner{sheet, column, row};
+  constexpr std::string_view properties = "HSUVRCDWMKAGZNEIJBL";
+  checkRoom(corner, 3, static_cast<sal_Int32>(properties.size()) + 2);
   corner.putHeading(0, 0, "pressure");
   corner.put(1, 0, inUnits("P", "MPa", "10"));
   corner.put(2, 0, "=CALVEX.UNIT(\"P\")");
@@ -127,13 +180,14 @@ void insertStateTable(const Reference<XCellRange>& sheet, sal_Int32 column, sal_
   corner.put(1, 1, inUnits("T", "C", "500"));
   corner.put(2, 1, "=CALVEX.UNIT(\"T\")");
   sal_Int32 down = 2;
-  for (const char letter : std::string_view("HSUVRCDWMKAGZNEIJBL")) {
+  for (const char letter : properties) {
     const Signature* signature = findSignature(std::string(1, letter) + "PT");
     corner.put(0, down, wordsOf(signature->member, 0));
     corner.put(1, down,
                "=" + signature->name + "(" + corner.name(1, 0) + ";" + corner.name(1, 1) + ")");
     corner.put(2, down++, unitFormula(signature->outputs[0].group));
   }
+  widen(corner, 3);
 }
 
 namespace {
@@ -144,12 +198,15 @@ constexpr int isobarCount = std::size(isobars);
 // Rows of entropy, enthalpies along the isobars and along the saturation line; answers how many.
 sal_Int32 writeMollier(const Corner& corner) {
   corner.putHeading(0, 0, "entropy");
+  corner.put(0, 1, "=CALVEX.UNIT(\"S\")");
   for (int i = 0; i < isobarCount; ++i) {
     corner.putHeading(i + 1, 0, inUnits("P", "MPa", isobars[i]));
+    // What the legend shows.
+    corner.put(i + 1, 1, "=ROUND(" + corner.name(i + 1, 0) + R"(;4)&" "&CALVEX.UNIT("P"))");
   }
-  corner.putHeading(isobarCount + 1, 0, "saturation");
+  corner.putHeading(isobarCount + 1, 1, "saturation");
   const std::string hottest = inUnits("T", "C", "800").substr(1);
-  sal_Int32 down = 1;
+  sal_Int32 down = 2;
   constexpr int first = 50, last = 950, step = 25;  // hundredths of kJ/(kg.K)
   for (int s = first; s <= last; s += step, ++down) {
     corner.put(0, down, inUnits("S", "kJ/(kg.K)", std::to_string(s) + "/100"));
@@ -162,7 +219,8 @@ sal_Int32 writeMollier(const Corner& corner) {
   }
   // Up the liquid and down the vapour.
   const auto line = [&](int T, const char* quality) {
-    const std::string state = inUnits("T", "C", std::to_string(T)).substr(1) + ";" + quality + ")";
+    const std::string state = inUnits("T", "C", std::to_string(T)).substr(1) + ";" +
+                              inUnits("Q", "Fraction", quality).substr(1) + ")";
     corner.put(0, down, "=SSatTQ(" + state);
     corner.put(isobarCount + 1, down++, "=HSatTQ(" + state);
   };
@@ -180,6 +238,12 @@ void setTitle(const Reference<css::uno::XInterface>& title, const std::string& t
 }  // namespace
 
 void insertMollierChart(const Document& document) {
+  if (Reference<css::util::XProtectable>(document.model(), UNO_QUERY_THROW)->isProtected()) {
+    throw Error(
+        CALVEX_VALUE,
+        "The sheets of this document are protected: take the protection off (Tools > Protect "
+        "Spreadsheet Structure) first.");
+  }
   const auto sheets =
       Reference<css::sheet::XSpreadsheetDocument>(document.model(), UNO_QUERY_THROW)->getSheets();
   OUString name("Mollier");
@@ -190,15 +254,14 @@ void insertMollierChart(const Document& document) {
 
   const auto charts =
       Reference<css::table::XTableChartsSupplier>(sheet, UNO_QUERY_THROW)->getCharts();
-  const auto data =
+  const auto data =  // with the row of the legend
       Reference<css::sheet::XCellRangeAddressable>(
-          sheet->getCellRangeByPosition(0, 0, isobarCount + 1, rows - 1), UNO_QUERY_THROW)
+          sheet->getCellRangeByPosition(0, 1, isobarCount + 1, rows - 1), UNO_QUERY_THROW)
           ->getRangeAddress();
   const css::awt::Rectangle place(22000, 500, 20000, 15000);  // hundredths of a millimetre
-  charts->addNewByName("Mollier", place, {&data, 1}, true, true);
+  charts->addNewByName(name, place, {&data, 1}, true, true);  // unique in the document
   const Reference<css::chart::XChartDocument> chart(
-      Reference<css::document::XEmbeddedObjectSupplier>(charts->getByName("Mollier"),
-                                                        UNO_QUERY_THROW)
+      Reference<css::document::XEmbeddedObjectSupplier>(charts->getByName(name), UNO_QUERY_THROW)
           ->getEmbeddedObject(),
       UNO_QUERY_THROW);
   const Reference<css::chart::XDiagram> diagram(
@@ -220,6 +283,10 @@ void insertMollierChart(const Document& document) {
            "entropy");
   setTitle(Reference<css::chart::XAxisYSupplier>(diagram, UNO_QUERY_THROW)->getYAxisTitle(),
            "enthalpy");
+  Reference<css::sheet::XSpreadsheetView>(
+      Reference<css::frame::XModel>(document.model(), UNO_QUERY_THROW)->getCurrentController(),
+      UNO_QUERY_THROW)
+      ->setActiveSheet(Reference<css::sheet::XSpreadsheet>(sheet, UNO_QUERY_THROW));
 }
 
 }  // namespace calvex::calc

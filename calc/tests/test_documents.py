@@ -50,6 +50,53 @@ def test_units_may_stand_in_other_cells(plant):
     assert steam(plant, answers("HPT", ["100bara", "500"])[0])
 
 
+def test_units_that_are_none_give_no_numbers(plant, document):
+    plant.put("B1", '=CALVEX.UNITS("T";"°C";"P";"bra")')
+    assert until(lambda: plant["B1"].getError() and plant["A1"].getError() == 519)
+    assert "Sheet1.B1: " in plant.put("C1", "=CALVEX.WHY(A1)").String
+    assert "bra" in plant["C1"].String
+    plant.put("B1", '=CALVEX.UNITS("T";"°C";"P";"bar")')
+    assert steam(plant, IN_BAR)
+    plant.put("B1", "")
+    document.NamedRanges.addNewByName("Calvex_Units", '"garbage"', plant["A1"].CellAddress, 0)
+    assert until(lambda: plant["A1"].getError() == 519)
+    assert "Calvex_Units" in plant.put("C1", "=CALVEX.WHY(A1)").String
+    document.NamedRanges.removeByName("Calvex_Units")
+
+
+def test_units_in_a_branch_that_does_not_count_are_not_set(plant):
+    plant.put("B1", '=IF(1>2;CALVEX.UNITS("T";"C");CALVEX.UNITS("T";"°C";"P";"bar"))')
+    assert steam(plant, IN_BAR)
+    plant.put("B1", '=IF(1>2;CALVEX.UNITS("T";"C");"none")')
+    assert steam(plant, MODEL)
+    plant.put("B1", '=CALVEX.UNITS("T";"°C")&CALVEX.UNITS("P";"bar")')
+    assert steam(plant, IN_BAR)
+
+
+def test_a_cell_whose_units_another_overrules_says_so(plant):
+    plant.put("B1", '=CALVEX.UNITS("P";"psia")')
+    plant.put("B2", '=CALVEX.UNITS("T";"C";"P";"bar")')
+    assert until(lambda: plant["B2"].String
+                 and plant["B1"].String == "P=psia (P is bara by Sheet1.B2)")
+    assert steam(plant, IN_BAR)
+    assert plant["B2"].String == "T=C; P=bara"
+
+
+def test_units_that_are_not_what_they_seem_say_so(plant):
+    text = plant.put("B1", '=CALVEX.UNITS("V";"ft³/lb")').String
+    assert "not the physical unit: its factor is a thousandth of a cubic foot" in text
+
+
+def test_units_chosen_by_their_own_effect_end_in_errors(plant):
+    plant.put("C1", '=IF(HPT(1;500)>3000;"K";"C")')
+    plant.put("B1", '=CALVEX.UNITS("T";C1)')
+    assert until(lambda: plant["B1"].String is not None and plant["C1"].String is not None
+                 and plant["A1"].getError() == 519, 30)
+    assert plant.put("D1", "=CALVEX.WHY(A1)").String.startswith("The units of this document ")
+    plant.put("C1", "C")
+    assert steam(plant, answers("HPT", ["100", "500C"])[0])
+
+
 def test_two_documents_have_units_of_their_own(office, plant):
     other = office.new()
     try:

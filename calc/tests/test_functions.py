@@ -1,7 +1,7 @@
 """Every worksheet function against the command line."""
 import pytest
 
-from conftest import answers, calvex
+from conftest import Sheet, answers, calvex
 
 NUM, MISSING, VALUE, NOT_AVAILABLE = 503, 511, 519, 32767
 
@@ -127,16 +127,38 @@ def test_errors_in_a_range_of_inputs_can_be_left_out(sheet):
     assert [sheet.error(f"C{i}") for i in (1, 2, 3)] == [0, NOT_AVAILABLE, 0]
 
 
-def test_wrong_inputs_are_errors_with_reasons(sheet):
+def test_wrong_inputs_are_errors_with_reasons(sheet, document):
     sheet.put("A1", "text")
     sheet.put("A2", "=1/0")
+    sheets = document.Sheets
+    sheets.insertNewByName("Other", 1)
+    sheets.insertNewByName("An other's", 2)
+    Sheet(sheets[1]).put("A1", "=TPH(10;-1)")
+    Sheet(sheets[2]).put("A1", "=1/0")
+    origin = sheet["A1"].CellAddress
+    document.NamedRanges.addNewByName("Const", "773.15", origin, 0)
+    document.NamedRanges.addNewByName("Twice", "2*Const", origin, 0)
     for call, error, words in (
             ("HPT(10;3000)", NUM, "Temperature parameter out of range (Valid range 260.00 to 2500.00 K)."),
             ("HPT(A1;300)", VALUE, 'P is the text "text"'),
             ("HPT(10)", MISSING, "T is missing. It takes P (MPa), T (K)"),
             ("HPT(10;)", MISSING, "T is missing"),
             ("HPT(Z9;300)", NUM, "Pressure must be above 0"),
-            ("HPT(A2;300)", 532, "Sheet1.A2: No function of Calvex has failed"),
+            ("HPT(A2;300)", 532, "Sheet1.A2: No function of Calvex has failed here; the error is "
+                                 "the spreadsheet's: #DIV/0!, a division by zero"),
+            ("HPT(NA();300)", NOT_AVAILABLE, "P is itself #N/A"),
+            ("HPT(10;773.15;3)", 504, "3 inputs are given, not 2. It takes P (MPa), T (K)"),
+            ('TurbineA(3374;10;1;0.8;5;"Powr")', VALUE, '"Powr" names no result'),
+            ('TurbineB(3374;10;10;0.8;500;"MIn")', NUM, "MIn is infinite here"),
+            ("SUM(A1:A2)", 532, "Sheet1.A2: "),
+            ("HPTT(1;2)", 525, "there is no function HPTT"),
+            ("nix", 525, "nix is the name of no cell, range or value"),
+            ("HPT(10;$Other.A1)", NUM, "Other.A1: TPH: "),
+            ("HPT(10;$'An other''s'.A1)", 532, "An other"),
+            ("HPT(Const;3000)", NUM, "Temperature parameter out of range"),
+            ("HPT(Twice;3000)", NUM, "Temperature parameter out of range"),
+            ('CALVEX.CONVERT("T";"C";"K")', MISSING, "the value is missing"),
+            ("B1", 522, "the cell reads itself"),
             ("HPT(TPH(10;-1);300)", NUM, "TPH: "),
             ("SUM(1;HPT(10;3000))", NUM, "HPT: Temperature parameter out of range"),
             ('CALVEX.UNITS("T";"parsec")', VALUE, "CALVEX.UNITS: "),
@@ -156,7 +178,39 @@ def test_a_reason_passes_through_the_cells_that_read_the_failed_one(sheet):
         "Sheet1.A2: Sheet1.A1: HPT: Temperature parameter out of range")
 
 
+def test_a_reason_is_found_far_up_and_once(sheet):
+    sheet.put("A1", "=HPT(10;3000)")
+    for row in range(2, 101):
+        sheet.put(f"A{row}", f"=A{row - 1}+A{row - 1}")
+    assert "HPT: Temperature parameter out of range" in sheet.put("B1", "=CALVEX.WHY(A100)").String
+    sheet.put("C1", '=CALVEX.WHY(C1)&CALVEX.WHY(C1)&CALVEX.WHY(C1)&CALVEX.WHY(C1)')
+    assert "Err:522, the cell reads itself" in sheet["C1"].String
+
+
+def test_a_branch_that_does_not_count_is_no_reason(sheet):
+    sheet.put("A1", "=IF(1>2;HPT(10;3000);TPH(10;-1))")
+    assert sheet.put("B1", "=CALVEX.WHY(A1)").String.startswith("TPH: ")
+
+
+def test_reasons_of_a_range_stand_beside_it(sheet):
+    sheet["A1:A3"].FormulaArray = (("=HPT(10;773.15)",), ("=HPT(10;3000)",), ("=1/0",))
+    reasons = [row[0] for row in sheet.array("B1:B3", "=CALVEX.WHY(A1:A3)")]
+    assert reasons[0] == "" and reasons[1].startswith("HPT: ") and "#DIV/0!" in reasons[2]
+
+
+def test_an_error_in_a_range_of_inputs_is_explained(sheet):
+    sheet["A1:B3"].DataArray = ((10.0, 773.15), (10.0, 773.15), (10.0, 773.15))
+    sheet.put("A2", "=1/0")
+    sheet.array("C1:C3", "=HPT(A1:A3;B1:B3)")
+    assert sheet.error("C1") == 504
+    why = sheet.put("D1", "=CALVEX.WHY(C1)").String
+    assert "Sheet1.A2: " in why or 'IFERROR(range;"")' in why
+
+
 def test_the_record_of_a_cell_is_rows(sheet):
+    assert sheet.array("B1:D1", "=CALVEX.TRACE(A9)") == (
+        (0.0, "note", "no call of Calvex left a message"),)
+    sheet.array("B1:D1", "")
     sheet.put("A1", "=HPT(10;3000)")
     assert sheet.array("B1:D2", "=CALVEX.TRACE(A1)") == (
         (0.0, "call", "HPT"),
@@ -184,3 +238,6 @@ def test_conversion(sheet):
     assert cell.Value == pytest.approx(293.15, rel=1e-14)  # 0 °C is 273.15 K
     assert sheet.put("A1", '=CALVEX.CONVERT("P";"psia";"bara";100)').Value == answers(
         "Convert", ["P", "psia", "bara", "100"])[0]
+    sheet["B1:B2"].DataArray = ((0.0,), (100.0,))
+    assert sheet.array("C1:C2", '=CALVEX.CONVERT("T";"C";"K";B1:B2)') == (
+        (pytest.approx(273.15),), (pytest.approx(373.15),))

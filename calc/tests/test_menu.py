@@ -65,12 +65,15 @@ def test_a_mollier_chart_is_a_chart_of_the_document(office, shown):
     sheet = Sheet(shown.Sheets[1])
     chart = shown.Sheets[1].Charts.getByIndex(0).EmbeddedObject
     assert chart.Diagram.DiagramType == "com.sun.star.chart.XYDiagram"
-    assert sheet["A14"].Value == pytest.approx(3.5)
+    assert sheet["B2"].String == "0.01 MPa" and sheet["A2"].String == "kJ/(kg.K)"
+    assert sheet["A15"].Value == pytest.approx(3.5)
     # Two phases at 0.01 MPa: an isobar is a straight line there, of the slope T.
-    slope = (sheet["B15"].Value - sheet["B14"].Value) / 0.25
+    slope = (sheet["B16"].Value - sheet["B15"].Value) / 0.25
     assert slope == pytest.approx(answers("TSatP", ["0.01"])[0], rel=1e-6)
     series = chart.FirstDiagram.CoordinateSystems[0].ChartTypes[0].DataSeries
     assert len(series) == 8
+    names = [one.DataSequences[0].Label.getTextualData() for one in series]
+    assert names[0] == ("0.01 MPa",) and names[7] == ("saturation",)
 
 
 def test_the_dialog_keeps_units_in_the_document(office, shown):
@@ -99,15 +102,16 @@ def test_a_template_calculates_on_opening(name, office, extension, folder):
             inlet = answers("HPT", ["100bara", "500C"])[0]
             power, T, h, x = answers("TurbineA", [str(inlet), "10", "0.005", "0.85", "20"])
             assert sheet["B15"].Value == pytest.approx(power, rel=1e-9)
-            assert sheet["F32"].Value == pytest.approx(power, rel=1e-9)
-            assert sheet["A32"].Value == pytest.approx(0.05)
+            assert sheet["F33"].Value == pytest.approx(power, rel=1e-9)
+            assert sheet["A33"].Value == pytest.approx(0.05)
         elif name == "boiler-house":
             # What comes in goes out: feed water = steam + blowdown; water + steam = feed + vent.
-            value = {row: sheet[f"B{row}"].Value for row in range(1, 33)}
-            assert value[28] == pytest.approx(value[8] + value[29])
-            assert value[18] + value[19] == pytest.approx(value[28] * (1 + value[15]))
-            assert value[31] == pytest.approx(value[30] / value[27])
+            value = {row: sheet[f"B{row}"].Value for row in range(1, 34)}
+            assert value[30] == pytest.approx(value[8] + value[31])
+            assert value[19] + value[20] == pytest.approx(value[30] * (1 + value[16]))
+            assert value[33] == pytest.approx(value[32] / value[29])
         else:
+            assert sheet["C8"].String == "0.00100031"
             assert sheet["B17"].Value == pytest.approx(1.01322, rel=1e-5)  # 100 °C, IAPS 1984
             assert sheet["B48"].Value == answers("HPT", ["1bara", "320C"])[0]
     finally:
@@ -128,28 +132,48 @@ def test_the_page_of_units_sets_those_of_the_document(office, shown, extension):
     try:
         def tell(event):
             assert page.callHandlerMethod(window, event, "external_event")
+
+        quantities, units = window.getControl("quantities"), window.getControl("units")
+
+        def choose(group, unit):
+            quantities.selectItemPos(group, True)
+            units.selectItem(unit, True)
+
+        def chosen():
+            return quantities.Items[:2]
+
+        # LibreOffice leaves a page this room.
+        assert window.PosSize.Width <= 560 and window.PosSize.Height <= 380
         tell("initialize")
-        T, P = window.getControl("unit0"), window.getControl("unit1")
-        assert (T.SelectedItem, P.SelectedItem) == ("K", "MPa")
-        T.selectItem("C", True)
-        P.selectItem("bara", True)
+        assert chosen() == ("Temperature: K", "Pressure: MPa") and units.SelectedItem == "K"
+        choose(0, "C")
+        choose(1, "bara")
+        assert chosen() == ("Temperature: C", "Pressure: bara") and units.SelectedItem == "bara"
+        assert sheet["A1"].Value == model
         tell("ok")
         steam = answers("HPT", ["100bara", "500C"])[0]
         assert until(lambda: sheet["A1"].Value == pytest.approx(steam, rel=1e-12))
+        choose(0, "F")
         tell("back")
-        assert (T.SelectedItem, P.SelectedItem) == ("C", "bara")
+        assert chosen() == ("Temperature: C", "Pressure: bara")
         shown.UndoManager.undo()
         assert until(lambda: sheet["A1"].Value == model)
         sheet.put("B1", '=CALVEX.UNITS("P";"psia")')
         assert until(lambda: sheet["B1"].String and sheet["A1"].Value != model)
         tell("back")
-        assert (T.SelectedItem, P.SelectedItem) == ("K", "psia") and not P.isEnabled()
+        assert chosen() == ("Temperature: K", "Pressure: psia") and units.isEnabled()
+        quantities.selectItemPos(1, True)
+        assert units.SelectedItem == "psia" and not units.isEnabled()
         assert window.getControl("cells").Text == "Set by cells of the document: P=psia"
         tell("ok")
         assert not shown.NamedRanges.hasByName("Calvex_Units")
-        T.selectItem("C", True)
+        choose(0, "C")
+        assert units.isEnabled()
         tell("ok")
         assert shown.NamedRanges.getByName("Calvex_Units").Content == '"T=C"'
+        choose(0, "K")
+        tell("ok")
+        assert shown.NamedRanges.getByName("Calvex_Units").Content == '""'
     finally:
         window.dispose()
 
@@ -161,3 +185,63 @@ def test_the_menu_and_the_help_are_in_the_extension(functions, extension):
         assert f"calvex.calc.Commands?{command}<" in menu
     page = archive.read("help/index.html").decode()
     assert [name for name in functions if f"<h3>{name}(" not in page] == []
+
+
+def in_other_units(sheet, units, cells):
+    """The cells in other units, their inputs converted."""
+    sheet["A3"].Formula = f"=CALVEX.UNITS({units})"
+    for name, quantity, old, new in cells:
+        value = sheet[name].Value
+        sheet[name].Value = float(answers("Convert", [quantity, old, new, repr(value)])[0])
+
+
+def test_templates_hold_in_other_units(office, extension, folder):
+    def opened(name):
+        return office.open(zipfile.ZipFile(extension).extract(f"templates/Calvex/{name}.ots", folder))
+
+    document = opened("turbine-expansion")
+    try:
+        sheet = Sheet(document.Sheets[0])
+        in_other_units(sheet, '"P";"MPa";"flow";"kg/h";"H";"kcal/kg";"power";"MW"',
+                       [("B6", "P", "bara", "MPa"), ("B7", "T", "C", "K"),
+                        ("B8", "flow", "kg/s", "kg/h"), ("B13", "P", "bara", "MPa")])
+        assert until(lambda: sheet["A3"].String and sheet["C15"].String == "MW")
+        assert sheet["B15"].Value == pytest.approx(23.172, rel=1e-4)
+        assert sheet["F33"].Value == pytest.approx(sheet["B15"].Value, rel=1e-9)
+    finally:
+        document.close(True)
+    document = opened("steam-tables")
+    try:
+        sheet = Sheet(document.Sheets[0])
+        enthalpy = sheet["F17"].Value  # of vapour at 100 °C
+        assert enthalpy == pytest.approx(2675.7, rel=1e-4)
+        in_other_units(sheet, '"T";"C";"P";"bara";"Q";"%"', [])
+        assert until(lambda: sheet["A3"].String.endswith("%"))
+        assert sheet["F17"].Value == pytest.approx(enthalpy, rel=1e-12)
+    finally:
+        document.close(True)
+
+
+def test_tables_are_right_with_qualities_in_per_cent(office, shown):
+    sheet = Sheet(shown.Sheets[0])
+    sheet.put("A1", '=CALVEX.UNITS("Q";"%")')
+    trigger(office, shown, "saturation", "B2")
+    assert until(lambda: sheet["A1"].String == "Q=%")
+    assert sheet["G4"].Value == pytest.approx(answers("HSatTQ", ["283.15", "1"])[0], rel=1e-12)
+
+
+@pytest.mark.parametrize("command", ["saturation", "state"])
+def test_a_table_is_written_only_where_there_is_room(command, office, shown):
+    def run(cell):
+        trigger(office, shown, command, cell)
+        return Sheet(shown.Sheets[0])[cell].String
+
+    sheet = Sheet(shown.Sheets[0])
+    sheet["C9"].String = "mine"
+    assert run("A1") == run("A1048570") == run("XFD1") == ""
+    assert sheet["C9"].String == "mine"
+    sheet["C9"].String = ""
+    shown.Sheets[0].protect("")
+    assert run("A1") == ""
+    shown.Sheets[0].unprotect("")
+    assert run("A1")
