@@ -2,7 +2,9 @@
 // they mean in words, the quantities and their units, the letters and the messages.
 #include <fmt/format.h>
 
+#include <array>
 #include <cmath>
+#include <numeric>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -144,15 +146,16 @@ std::string unit(UnitGroup group, const ZvUomLiteKeyword& row) {
                      quoted(unitNotice(group, row.name)));
 }
 
-std::string groupRow(UnitGroup group) {
+std::string groupRow(int index) {
+  const auto group = UnitGroup(index);
   const UnitGroupRow& row = unitGroupTable()[static_cast<std::size_t>(group)];
   std::vector<ZvUomLiteKeyword> units(row.units.begin(), row.units.end());
   const auto beside = unitsBesideCatalogue(group);
   units.insert(units.end(), beside.begin(), beside.end());
   return fmt::format(
-      R"({{"number":{},"name":{},"keywords":{},"modelUnit":{},"notice":{},"units":{}}})",
-      static_cast<int>(group), quoted(row.displayName), list(row.keywords, quoted),
-      quoted(toUtf8(row.internalUnit)), quoted(groupNotice(group)),
+      R"({{"number":{},"name":{},"keywords":{},"modelUnit":{},"notice":{},"units":{}}})", index,
+      quoted(row.displayName), list(row.keywords, quoted), quoted(toUtf8(row.internalUnit)),
+      quoted(groupNotice(group)),
       list(units, [&](const ZvUomLiteKeyword& each) { return unit(group, each); }));
 }
 
@@ -169,8 +172,8 @@ constexpr Message messageRows[] = {
 };
 
 std::string tables() {
-  std::vector<UnitGroup> groups;
-  for (int i = 0; i < unitGroupCount; ++i) groups.push_back(UnitGroup(i));
+  std::array<int, unitGroupCount> groups{};
+  std::iota(groups.begin(), groups.end(), 0);
   return fmt::format(R"({{"members":{},"groups":{},"letters":{},"messages":{}}})",
                      list(memberTable(), memberRow), list(groups, groupRow),
                      list(letterExplanations(), letterRow), list(messageRows, [](Message message) {

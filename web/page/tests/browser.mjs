@@ -54,7 +54,11 @@ export async function serve() {
 
 /** Opens the page and runs a test on it; afterwards its console must be silent and all that it asked
  * for must be in its folder. */
-export async function onPage(hash, test, { url = fromFile, ready = 'main h2, main table', ...how } = {}) {
+export async function onPage(
+  hash,
+  test,
+  { url = fromFile, ready = 'main h2, main table', ...how } = {},
+) {
   const context = await browser.newContext({
     viewport: { width: 1360, height: 900 },
     colorScheme: 'light',
@@ -71,7 +75,8 @@ export async function onPage(hash, test, { url = fromFile, ready = 'main h2, mai
   const folder = url.replace(/[^/]*$/, '');
   page.on('request', request => {
     const asked = request.url();
-    if (!asked.startsWith(folder) && !/^(data|blob):/.test(asked)) complaints.push(`asked ${asked}`);
+    if (!asked.startsWith(folder) && !/^(data|blob):/.test(asked))
+      complaints.push(`asked ${asked}`);
   });
   try {
     await page.goto(url + hash);
@@ -88,7 +93,7 @@ export async function onPage(hash, test, { url = fromFile, ready = 'main h2, mai
 
 /** The text of one that is there. */
 export const textOf = async (page, selector) =>
-  (await page.locator(selector).first().innerText()).replace(/\s+/g, ' ').trim();
+  (await page.locator(selector).first().textContent()).replace(/\s+/g, ' ').trim();
 
 export const near = (actual, expected, tolerance, what) =>
   assert.ok(
@@ -97,7 +102,6 @@ export const near = (actual, expected, tolerance, what) =>
   );
 
 /** The trouble beside a field, once it says it. */
-export const troubleOf = (page, name) =>
-  textOf(page, `.field:has([data-key="${name}"]) .trouble`);
+export const troubleOf = (page, name) => textOf(page, `.field:has([data-key="${name}"]) .trouble`);
 export const troubled = page =>
   page.locator('.field.wrong input').evaluateAll(fields => fields.map(field => field.dataset.key));

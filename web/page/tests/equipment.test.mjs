@@ -46,9 +46,16 @@ for (const choice of ['', units]) {
     await onPage(`#equipment?${choice}`, async page => {
       for (const row of models) {
         await page.selectOption('#model', row.name);
-        await page.waitForFunction(name => document.querySelector('form').getAttribute('aria-label').endsWith(name), row.name);
+        await page.waitForFunction(
+          name => document.querySelector('form').getAttribute('aria-label').endsWith(name),
+          row.name,
+        );
         const results = await resultsOf(page);
-        assert.deepEqual(Object.keys(results), row.outputs.map(({ name }) => name), row.name);
+        assert.deepEqual(
+          Object.keys(results),
+          row.outputs.map(({ name }) => name),
+          row.name,
+        );
         const expected = answered(shellLine(await snippet(page, 'Command line')), row);
         for (const [name, value] of Object.entries(expected)) {
           near(results[name], value, 1e-9, `${row.name} ${name}`);
@@ -64,14 +71,25 @@ test('the JavaScript of a model prints its results', async () => {
   await onPage(`#equipment/TurbineA?${units}`, async page => {
     for (const name of ['TurbineA', 'XLThermoCompressorB', 'LetDownValve']) {
       await page.selectOption('#model', name);
-      await page.waitForFunction(wanted => document.querySelector('.snippets code').textContent.includes(wanted.replace('XL', '')), name);
+      await page.waitForFunction(
+        wanted =>
+          document.querySelector('.snippets code').textContent.includes(wanted.replace('XL', '')),
+        name,
+      );
       const printed = execFileSync('node', ['--input-type=module'], {
-        cwd: web, input: await snippet(page, 'JavaScript'), encoding: 'utf8',
+        cwd: web,
+        input: await snippet(page, 'JavaScript'),
+        encoding: 'utf8',
       });
       const results = await resultsOf(page);
       assert.ok(Object.keys(results).length > 0);
       for (const [key, value] of Object.entries(results)) {
-        near(Number(new RegExp(`${key}: ([-\\d.e]+)`).exec(printed)[1]), value, 1e-12, `${name} ${key}`);
+        near(
+          Number(new RegExp(`${key}: ([-\\d.e]+)`).exec(printed)[1]),
+          value,
+          1e-12,
+          `${name} ${key}`,
+        );
       }
     }
   });
@@ -81,15 +99,24 @@ test('the VBScript has the arguments of the automation interface in their order'
   await onPage('#equipment', async page => {
     for (const row of models) {
       await page.selectOption('#model', row.name);
-      await page.waitForFunction(name => document.querySelector('form').getAttribute('aria-label').endsWith(name), row.name);
+      await page.waitForFunction(
+        name => document.querySelector('form').getAttribute('aria-label').endsWith(name),
+        row.name,
+      );
       const code = await snippet(page, 'VBScript');
       const given = new RegExp(`steam\\.${row.name}\\((.*)\\) = 0`).exec(code)[1].split(', ');
-      const signature = new RegExp(`  ${row.name}\\((.*)\\)`).exec(commandLine('help', row.name))[1];
+      const signature = new RegExp(`  ${row.name}\\((.*)\\)`).exec(
+        commandLine('help', row.name),
+      )[1];
       const parameters = signature.split(/, (?=\[)/).filter(text => !text.includes('retval'));
       assert.equal(given.length, parameters.length, code);
       parameters.forEach((text, i) => {
         const [, direction, type] = /^\[(.*)\] (\w+)/.exec(text);
-        const kind = direction.includes('out') ? /^[a-z]\w*$/ : type === 'string' ? /^".*"$/ : /^-?[\d.e-]+$/;
+        const kind = direction.includes('out')
+          ? /^[a-z]\w*$/
+          : type === 'string'
+            ? /^".*"$/
+            : /^-?[\d.e-]+$/;
         assert.match(given[i], kind, `${row.name}: ${text}`);
       });
     }
@@ -106,10 +133,15 @@ test('Python’s line has the call and the units', async () => {
 
 test('a turbine’s expansion is drawn from its inlet over its outlets', async () => {
   await onPage('#equipment/TurbineA3?u.P=bara&u.T=C', async page => {
-    const names = await page.locator('[data-process]').evaluateAll(all => all.map(g => g.dataset.process));
+    const names = await page
+      .locator('[data-process]')
+      .evaluateAll(all => all.map(g => g.dataset.process));
     assert.deepEqual(names, ['inlet', 'outlet 1', 'outlet 2', 'outlet 3']);
-    const places = await page.locator('[data-process] circle')
-      .evaluateAll(all => all.map(c => [Number(c.getAttribute('cx')), Number(c.getAttribute('cy'))]));
+    const places = await page
+      .locator('[data-process] circle')
+      .evaluateAll(all =>
+        all.map(c => [Number(c.getAttribute('cx')), Number(c.getAttribute('cy'))]),
+      );
     for (let i = 1; i < 4; ++i) {
       assert.ok(places[i][0] > places[i - 1][0], 'entropy rises');
       assert.ok(places[i][1] > places[i - 1][1], 'enthalpy falls');
@@ -123,8 +155,15 @@ test('every model with streams has a process, the others none', async () => {
   await onPage('#equipment', async page => {
     for (const { name } of models) {
       await page.selectOption('#model', name);
-      await page.waitForFunction(wanted => document.querySelector('form').getAttribute('aria-label').endsWith(wanted), name);
-      assert.equal(await page.locator('path.process').count(), without.includes(name) ? 0 : 1, name);
+      await page.waitForFunction(
+        wanted => document.querySelector('form').getAttribute('aria-label').endsWith(wanted),
+        name,
+      );
+      assert.equal(
+        await page.locator('path.process').count(),
+        without.includes(name) ? 0 : 1,
+        name,
+      );
     }
   });
 });
@@ -163,8 +202,13 @@ test('by keyboard one chooses a model and types its inputs', async () => {
     await page.keyboard.press('Tab');
     await page.keyboard.press('Control+A');
     await page.keyboard.type('400');
-    await page.waitForFunction(() => document.querySelector('.snippets code').textContent.includes(' 400 '));
-    const expected = answered(shellLine(await snippet(page, 'Command line')), models.find(row => row.name === 'WaterPump'));
+    await page.waitForFunction(() =>
+      document.querySelector('.snippets code').textContent.includes(' 400 '),
+    );
+    const expected = answered(
+      shellLine(await snippet(page, 'Command line')),
+      models.find(row => row.name === 'WaterPump'),
+    );
     near((await resultsOf(page)).Power, expected.Power, 1e-9, 'Power');
   });
 });

@@ -4,14 +4,16 @@ import { test } from 'node:test';
 import { commandLine, near, onPage, textOf, troubled, troubleOf } from './browser.mjs';
 
 const valuesOf = page =>
-  page.locator('.results [data-letter]').evaluateAll(rows =>
-    Object.fromEntries(
-      rows.map(row => [
-        row.dataset.letter,
-        Number(row.querySelector('[data-value]')?.dataset.value),
-      ]),
-    ),
-  );
+  page
+    .locator('.results [data-letter]')
+    .evaluateAll(rows =>
+      Object.fromEntries(
+        rows.map(row => [
+          row.dataset.letter,
+          Number(row.querySelector('[data-value]')?.dataset.value),
+        ]),
+      ),
+    );
 
 const commandState = (...words) =>
   JSON.parse(commandLine('state', ...words, '-u', 'P=bara', '-u', 'T=C', '--json'));
@@ -73,7 +75,8 @@ test('by keyboard alone one types a state, with units of any kind', async () => 
       commandLine('state', 'P=1450psia', 'T=900F', '-u', 'P=bara', '-u', 'T=C', '--json'),
     );
     await page.waitForFunction(
-      T => Math.abs(document.querySelector('[data-letter=T] [data-value]')?.dataset.value - T) < 1e-6,
+      T =>
+        Math.abs(document.querySelector('[data-letter=T] [data-value]')?.dataset.value - T) < 1e-6,
       expected.T,
     );
     sameState(await valuesOf(page), expected);
@@ -111,7 +114,11 @@ const bad = [
   [{ P: 'steam', T: '500' }, ['P'], /“steam” is no number/],
   [{ P: '', T: '500' }, ['P'], /Pressure is empty/],
   [{ P: '100', T: '' }, ['T'], /Temperature is empty/],
-  [{ P: '100', T: '3000' }, ['T'], /Temperature parameter out of range \(Valid range -13.15 to 2226.85 C\)/],
+  [
+    { P: '100', T: '3000' },
+    ['T'],
+    /Temperature parameter out of range \(Valid range -13.15 to 2226.85 C\)/,
+  ],
   [{ P: '0', T: '500' }, ['P'], /Pressure must be above 0 bara/],
   [{ P: '100', T: '500 furlong' }, ['T'], /furlong/],
   [{ P: '100 kg', T: '500' }, ['P'], /kg/],
@@ -127,14 +134,20 @@ test('a bad input is told beside its field, in one’s own units, and only there
   await onPage(`#state?${units}`, async page => {
     for (const [given, fields, says] of bad) {
       await page.evaluate(
-        hash => { location.hash = hash; },
+        hash => {
+          location.hash = hash;
+        },
         `#state?${new URLSearchParams(given)}&${units}`,
       );
-      await page.waitForFunction(
-        wanted => [...document.querySelectorAll('.field.wrong input')].map(f => f.dataset.key).join() === wanted,
-        fields.join(),
-        { timeout: 5000 },
-      ).catch(async () => assert.deepEqual(await troubled(page), fields, JSON.stringify(given)));
+      await page
+        .waitForFunction(
+          wanted =>
+            [...document.querySelectorAll('.field.wrong input')].map(f => f.dataset.key).join() ===
+            wanted,
+          fields.join(),
+          { timeout: 5000 },
+        )
+        .catch(async () => assert.deepEqual(await troubled(page), fields, JSON.stringify(given)));
       for (const field of fields) assert.match(await troubleOf(page, field), says);
       const input = page.locator(`[data-key="${fields[0]}"]`);
       assert.equal(await input.getAttribute('aria-invalid'), 'true');
@@ -182,16 +195,37 @@ test('the state’s dot stands where the axes have its entropy and enthalpy', as
   await onPage(`#state?P=100&T=500&${units}`, async page => {
     await page.waitForSelector('.state-dot', { state: 'attached' });
     const found = await page.evaluate(() => {
-      const [x, y] = document.querySelector('.state-dot').getAttribute('d').match(/[\d.]+/g).map(Number);
+      const [x, y] = document
+        .querySelector('.state-dot')
+        .getAttribute('d')
+        .match(/[\d.]+/g)
+        .map(Number);
       // Two ticks of an axis tell its scale.
       const scale = (transform, text, at) => {
         const ticks = [...document.querySelectorAll('.axes > g')]
-          .map(g => ({ place: g.getAttribute('transform').match(/[\d.]+/g).map(Number), text: g.textContent }))
+          .map(g => ({
+            place: g
+              .getAttribute('transform')
+              .match(/[\d.]+/g)
+              .map(Number),
+            text: g.textContent,
+          }))
           .filter(({ place }) => transform(place) !== 0 && text(place) === 0);
         const [a, b] = [ticks[0], ticks.at(-1)].map(t => [transform(t.place), Number(t.text)]);
         return a[1] + ((at - a[0]) * (b[1] - a[1])) / (b[0] - a[0]);
       };
-      return { s: scale(p => p[0], p => p[1], x), h: scale(p => p[1], p => p[0], y) };
+      return {
+        s: scale(
+          p => p[0],
+          p => p[1],
+          x,
+        ),
+        h: scale(
+          p => p[1],
+          p => p[0],
+          y,
+        ),
+      };
     });
     const { H, S } = commandState('P=100', 'T=500');
     near(found.s, S, 2e-3, 'entropy');

@@ -117,7 +117,7 @@ export function Diagram({ small = false, kind = kindNow(), process, over, onDraw
           width={width}
           height={height}
           viewBox={`0 0 ${width} ${height}`}
-          {...(small ? {} : { tabIndex: 0 })}
+          {...(small ? {} : { tabindex: 0 })}
         >
           <title id={`${id}-t`}>{kind.title}</title>
           <desc id={`${id}-d`}>

@@ -1,5 +1,5 @@
 // Pointer, fingers and keys on a diagram.
-import { select } from 'd3-selection';
+import { pointer, select } from 'd3-selection';
 import { zoom, zoomIdentity, zoomTransform, type D3ZoomEvent, type ZoomTransform } from 'd3-zoom';
 
 import type { Surface } from './diagram.tsx';
@@ -24,6 +24,7 @@ export function handle(
   { svg, frame, lines, over }: Surface,
   { width, height }: Drawing,
   view: View,
+  pointed: Spot | undefined,
   deeds: Deeds,
 ): Zoomer {
   const origin = transformOf(view, width, height);
@@ -63,12 +64,10 @@ export function handle(
   behaviour.transform(selection, origin);
 
   const spotOf = (event: MouseEvent): Spot | undefined => {
-    const box = frame.getBoundingClientRect();
-    const x = event.clientX - box.left,
-      y = event.clientY - box.top;
+    const [x, y] = pointer(event, frame);
     return x >= 0 && y >= 0 && x <= width && y <= height ? { x, y } : undefined;
   };
-  let cursor: Spot = { x: width / 2, y: height / 2 };
+  let cursor: Spot = pointed ?? { x: width / 2, y: height / 2 };
 
   const by = (factor: number, dx = 0, dy = 0) => {
     const now = zoomTransform(frame);
@@ -106,10 +105,13 @@ export function handle(
     if (spot) cursor = spot;
     deeds.look(spot);
   };
-  const leave = () => deeds.look(undefined);
+  // A finger that is lifted leaves what it has shown.
+  const leave = (event: PointerEvent) => {
+    if (event.pointerType !== 'touch') deeds.look(undefined);
+  };
   const click = (event: MouseEvent) => {
-    const spot = spotOf(event);
-    if (spot && !event.defaultPrevented) deeds.take(spot);
+    // What was read last: a click is told in whole pixels.
+    if (!event.defaultPrevented) deeds.take(cursor);
   };
   svg.addEventListener('keydown', key);
   frame.addEventListener('pointermove', look);

@@ -22,7 +22,8 @@ export function DiagramView() {
   const reader = useRef<Reader | undefined>(undefined),
     cross = useRef<SVGPathElement>(null);
   const surface = useRef<Surface | undefined>(undefined),
-    zoomer = useRef<Zoomer | undefined>(undefined);
+    zoomer = useRef<Zoomer | undefined>(undefined),
+    pointed = useRef<Spot | undefined>(undefined);
   const [drawing, setDrawing] = useState<Drawing>();
   const [said, say] = useState('');
 
@@ -43,8 +44,12 @@ export function DiagramView() {
     (made: Surface, now: Drawing) => {
       surface.current = made;
       setDrawing(now);
-      zoomer.current = handle(made, now, viewNow(), {
-        look: spot => reader.current?.move(spot),
+      zoomer.current = handle(made, now, viewNow(), pointed.current, {
+        look: spot => {
+          pointed.current = spot;
+          // While it moves the lines are not where the scales have them.
+          if (!made.svg.classList.contains('moving')) reader.current?.move(spot);
+        },
         tell: spot => tell(spot, now),
         zoomed: transform => put({ zoom: viewText(viewOf(transform, now.width, now.height)) }),
         take: spot => {
@@ -158,6 +163,7 @@ export function DiagramView() {
             cross={cross}
             spot={made => {
               reader.current = made;
+              made.move(pointed.current);
             }}
           />
         )}

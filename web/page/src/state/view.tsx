@@ -71,9 +71,12 @@ export function StateView() {
       </div>
       {later && (
         <aside>
-          <a class="picture" href={linkTo('diagram')} aria-label="Open the diagrams">
+          <section aria-label="The state on a diagram">
             <Diagram small />
-          </a>
+            <a class="onward" href={linkTo('diagram')}>
+              Open the diagrams
+            </a>
+          </section>
           {state && <Saturation state={state} />}
           <Trace />
         </aside>
