@@ -59,7 +59,7 @@ std::string baseJson() {
 
 std::string idealJson() {
   using namespace coefficients;
-  return fmt::format("{{{},{},\"powers\":{},\"firstPower\":{}}}", ONE(C1), ONE(C2),
+  return fmt::format(R"({{{},{},"powers":{},"firstPower":{}}})", ONE(C1), ONE(C2),
                      numbers(idealPowers), firstIdealPower);
 }
 

@@ -53,6 +53,7 @@ function tidyTables(tokens) {
 function parser(source, pages, headings) {
   const markdown = new MarkdownIt({ html: false });
   markdown.use(anchor, {
+    tabIndex: false,
     callback: (token, { slug, title }) =>
       headings.push({ level: Number(token.tag[1]), slug, title }),
   });

@@ -4,6 +4,9 @@ import { runExample } from './example.mjs';
 
 /** Values for an input, in model units. */
 function* probes(input) {
+  if (input.type === 'string') return yield 'none';
+  // Whole numbers and the values of settings: the table has no limits of these.
+  if (input.type === 'integer' || input.low === undefined) return yield* [-1, 0];
   for (const limit of [input.low, input.high]) {
     if (!Number.isFinite(limit)) continue;
     yield limit;
@@ -14,8 +17,8 @@ function* probes(input) {
 
 function* calls(calvex, member) {
   const given = member.example.inputs;
-  for (const [i, input] of member.inputs.entries()) {
-    if (input.type !== 'number') continue;
+  const inputs = member.kind === 'setting' ? member.outputs : member.inputs;
+  for (const [i, input] of inputs.entries()) {
     for (const value of probes(input)) yield given.with(i, value);
   }
   // Pressure and temperature on the saturation line.
@@ -31,12 +34,11 @@ const form = text => text.replace(/-?\d+(\.\d+)?(e[+-]?\d+)?/gi, '#');
 
 /** Messages with the inputs that they came from: { kind, code, text, cause, inputs }, each form once. */
 export function messagesOf(calvex, member) {
-  if (member.kind !== 'function') return [];
   const found = new Map();
   for (const inputs of calls(calvex, member)) {
     const { failure, warnings } = runExample(calvex, member, inputs);
     const said = warnings.map(({ code, text }) => ({ kind: 'warning', code, text, cause: '' }));
-    if (failure && failure.code >= 100) {
+    if (failure && failure.code > 0) {
       said.push({ kind: 'error', code: failure.code, text: failure.reason, cause: failure.cause });
     }
     for (const message of said) {
