@@ -20,13 +20,6 @@ namespace {
 constexpr std::size_t blocksForEachThread = 8;
 constexpr std::size_t mostBlocks = 128;
 
-bool isUtf8(std::string_view text) {
-  while (!text.empty()) {
-    if (!takeCharacter(text)) return false;
-  }
-  return true;
-}
-
 class Batch {
  public:
   Batch(std::istream& in, std::ostream& out, const BatchRequest& request)
@@ -88,7 +81,7 @@ class Batch {
     std::string buffer;
     for (const std::string_view cell : header.cells) {
       const std::string_view name = withoutBlanks(cellText(cell, buffer));
-      table_.header.push_back(table_.windows1252 ? toUtf8(name) : std::string(name));
+      table_.header.push_back(table_.windows1252 ? fromWindows1252(name) : std::string(name));
     }
     if (std::ranges::find(table_.header, request_.why) != table_.header.end()) {
       throw UsageError(

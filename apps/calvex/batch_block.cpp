@@ -119,7 +119,8 @@ double BlockWorker::number(const CsvRecord& record, std::size_t column) {
     read = readNumber(digits);
   }
   if (read.fault == NumberFault::none) return read.value;
-  std::string reason = faultText(table_.windows1252 ? toUtf8(word) : std::string(word), read.fault);
+  std::string reason =
+      faultText(table_.windows1252 ? fromWindows1252(word) : std::string(word), read.fault);
   if (read.fault == NumberFault::notANumber) {
     const bool comma = word.find(',') != std::string_view::npos;
     const bool point = word.find('.') != std::string_view::npos;
@@ -151,12 +152,11 @@ void BlockWorker::compute(std::span<const BatchPlan::Call> calls, std::span<Warn
          outputs[i],
          {},
          [this, &call](std::size_t row, std::string_view reason) {
-           const std::string cause = toUtf8(client_.engine().diagnostics().cause());
-           notes_.push_back(
-               {row, call.columns,
-                reason.empty()
-                    ? fmt::format("{} gave no reason", call.member.member().name)
-                    : fmt::format("{}{}{}", toUtf8(reason), cause.empty() ? "" : " ", cause)});
+           const std::string_view cause = client_.engine().diagnostics().cause();
+           notes_.push_back({row, call.columns,
+                             reason.empty()
+                                 ? fmt::format("{} gave no reason", call.member.member().name)
+                                 : fmt::format("{}{}{}", reason, cause.empty() ? "" : " ", cause)});
          },
          [this, &rows = warned[i]](std::size_t row, const ZvFunctionCall& left) {
            if (++rows.rows != 1) return;

@@ -31,9 +31,8 @@ Value parseValue(std::string_view word, const Parameter& parameter, const UserUn
       return parseWholeNumber(word, std::numeric_limits<int>::min(),
                               std::numeric_limits<int>::max());
     case ValueType::text:
-      if (std::optional<std::string> text = toWindows1252(word)) return *std::move(text);
-      throw UsageError(fmt::format("{} has characters that the engine's texts (Windows-1252) lack",
-                                   inQuotes(word)));
+      if (isUtf8(word)) return std::string(word);
+      throw UsageError(fmt::format("{} is not UTF-8", inQuotes(word)));
     case ValueType::array:
       break;
   }
@@ -259,9 +258,9 @@ Outcome perform(Client& client, Call call) {
                                       : client.invoke(*call.member, call.arguments, call.choice);
   Outcome outcome{std::move(call), result, {}, false, diagnostics.tracing(), {}};
   if (!outcome.succeeded()) {
-    outcome.lastError = toUtf8(client.engine().LastError());
+    outcome.lastError = client.engine().LastError();
     outcome.reasonRecorded = left.hasReason();
-    if (outcome.reasonRecorded) outcome.cause = toUtf8(diagnostics.cause());
+    if (outcome.reasonRecorded) outcome.cause = diagnostics.cause();
   }
   if (const ZvFunctionCall* entry = left.entry()) {
     outcome.warnings = warningsOf(*entry, client.units());
@@ -276,7 +275,7 @@ std::vector<std::string> warningsOf(const ZvFunctionCall& call, const UserUnits&
   };
   for (const auto* child = call.firstChild(); child != nullptr; child = child->nextSibling()) {
     if (child->kind() == ZvFunctionCall::Kind::warning) {
-      const std::string text = toUtf8(child->text());
+      const std::string text(child->text());
       collect(text + strictRange(call, text, units));
     }
     for (std::string& text : warningsOf(*child, units)) collect(std::move(text));

@@ -5,7 +5,6 @@
 
 #include "command_line.h"
 #include "diagnostics/formatting.h"
-#include "encoding.h"
 #include "output.h"
 
 namespace calvex::cli {
@@ -28,7 +27,7 @@ std::string whatLasts(const Call& call, const Words& words) {
   } else if (name == "SetUserUnit" || name == "SetUserUnitIndex") {
     option = "-u";
     assignment = fmt::format("{}={}", row(*call.choice.group).keywords.front(),
-                             toUtf8(call.choice.units.front()->name));
+                             call.choice.units.front()->name);
   } else {
     return {};
   }

@@ -125,7 +125,7 @@ std::string unitWarning(const std::string& choice) {
 std::string currentUnit(const UserUnits& units, int group) {
   std::string name;
   short status = 0;
-  return units.getUserUnit(group, name, status) ? toUtf8(name) : std::string();
+  return units.getUserUnit(group, name, status) ? name : std::string();
 }
 
 }  // namespace calvex::cli

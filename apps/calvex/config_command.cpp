@@ -37,7 +37,8 @@ void remember(StartingOptions& options, const std::string& text) {
     return assign(options.settings, std::string(member->name), value);
   }
   const UnitGroup group = findGroup(name);
-  assign(options.units, nameOf(group), value.empty() ? "" : toUtf8(findUnit(group, value).name));
+  assign(options.units, nameOf(group),
+         value.empty() ? std::string() : std::string(findUnit(group, value).name));
 }
 
 std::string description(const StartingOptions& options) {

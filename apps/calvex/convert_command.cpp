@@ -6,7 +6,6 @@
 
 #include "command_line.h"
 #include "diagnostics/formatting.h"
-#include "encoding.h"
 #include "numbers.h"
 #include "output.h"
 
@@ -20,17 +19,17 @@ double notBelowNothing(UnitGroup group, const ZvUomLiteKeyword& unit, double val
   constexpr double rounding = 1e-8;
   const bool isTemperature = group == UnitGroup::temperature;
   if (!isTemperature && group != UnitGroup::pressure) return value;
-  const ZvUomLiteKeyword& model = findUnit(group, toUtf8(row(group).internalUnit));
+  const ZvUomLiteKeyword& model = findUnit(group, row(group).internalUnit);
   const double zero = convert(model, unit, 0.0);
   const double lowest = std::fabs(zero) < rounding ? 0.0 : zero;
   const double absolute = convert(unit, model, value);
   if (absolute >= 0.0) return value;
   if (absolute >= -rounding) return lowest;
-  throw Failure(ExitStatus::callFailed,
-                fmt::format("{0} {1} is below {3}; the lowest {4} is {2} {1}", readableText(value),
-                            toUtf8(unit.name), readableText(lowest, 8),
-                            isTemperature ? "absolute zero" : "vacuum",
-                            isTemperature ? "temperature" : "pressure"));
+  throw Failure(
+      ExitStatus::callFailed,
+      fmt::format("{0} {1} is below {3}; the lowest {4} is {2} {1}", readableText(value), unit.name,
+                  readableText(lowest, 8), isTemperature ? "absolute zero" : "vacuum",
+                  isTemperature ? "temperature" : "pressure"));
 }
 
 }  // namespace
@@ -73,8 +72,8 @@ ExitStatus convertCommand(const Words& words, Console& console) {
   }
   if (!outcome.succeeded()) throw Failure(ExitStatus::callFailed, failureText(outcome));
   if (!json) {
-    fmt::print(console.out, "{} {} = {} {}\n", readableText(value), toUtf8(from.name),
-               readableText(std::get<double>(outcome.call.arguments.back())), toUtf8(to.name));
+    fmt::print(console.out, "{} {} = {} {}\n", readableText(value), from.name,
+               readableText(std::get<double>(outcome.call.arguments.back())), to.name);
   }
   return ExitStatus::ok;
 }

@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "call.h"
-#include "encoding.h"
 #include "numbers.h"
 #include "output.h"
 #include "script.h"

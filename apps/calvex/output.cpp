@@ -18,14 +18,14 @@ namespace {
 
 std::string cellText(const Cell& cell) {
   if (const auto* number = std::get_if<double>(&cell)) return readableText(*number);
-  return toUtf8(std::get<std::string>(cell));
+  return std::get<std::string>(cell);
 }
 
 std::string valueText(const Value& value) {
   if (const auto* real = std::get_if<double>(&value)) return readableText(*real);
   if (const auto* small = std::get_if<short>(&value)) return fmt::format("{}", *small);
   if (const auto* large = std::get_if<int>(&value)) return fmt::format("{}", *large);
-  if (const auto* text = std::get_if<std::string>(&value)) return toUtf8(*text);
+  if (const auto* text = std::get_if<std::string>(&value)) return *text;
   return {};
 }
 
@@ -109,7 +109,7 @@ std::string_view kindName(ZvFunctionCall::Kind kind) {
 
 std::string columnsText(const ZvFunctionCall& node) {
   if (node.columnValues().empty()) return {};
-  return toUtf8(fmt::format("  [{}]", fmt::join(node.columnValues(), " | ")));
+  return fmt::format("  [{}]", fmt::join(node.columnValues(), " | "));
 }
 
 void appendTrace(std::string& text, const ZvFunctionCall& node, std::size_t depth) {
@@ -118,7 +118,7 @@ void appendTrace(std::string& text, const ZvFunctionCall& node, std::size_t dept
     const bool isTime =
         child->kind() == ZvFunctionCall::Kind::note && child->text().starts_with("Time = ");
     text += fmt::format(
-        "{:{}}{}{}{}{}\n", "", 2 * depth, kindName(child->kind()), toUtf8(child->text()),
+        "{:{}}{}{}{}{}\n", "", 2 * depth, kindName(child->kind()), child->text(),
         isTime ? fmt::format(" (processor clock, {} ticks a second)", CLOCKS_PER_SEC) : "",
         columnsText(*child));
     appendTrace(text, *child, depth + 1);
@@ -258,13 +258,13 @@ std::string traceText(const ZvFunctionCall& root) {
 
 std::string traceJson(const ZvFunctionCall& node) {
   JsonArray columns;
-  for (const std::string& value : node.columnValues()) columns.add(jsonString(toUtf8(value)));
+  for (const std::string& value : node.columnValues()) columns.add(jsonString(value));
   JsonArray children;
   for (const auto* child = node.firstChild(); child != nullptr; child = child->nextSibling()) {
     children.add(traceJson(*child));
   }
   return JsonObject()
-      .add("text", jsonString(toUtf8(node.text())))
+      .add("text", jsonString(node.text()))
       .add("kind", fmt::format("{}", static_cast<int>(node.kind())))
       .add("columns", columns.text())
       .add("children", children.text())

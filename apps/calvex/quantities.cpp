@@ -80,7 +80,7 @@ double valueWithUnit(std::string_view text, UnitGroup group, const UserUnits& un
   std::string_view digits = text.substr(0, text.size() - unitName.size());
   digits = digits.substr(0, digits.find_last_not_of(' ') + 1);
   const double number = parseNumber(digits);
-  const ZvUomLiteKeyword& model = findUnit(group, toUtf8(row(group).internalUnit));
+  const ZvUomLiteKeyword& model = findUnit(group, row(group).internalUnit);
   try {
     return units.toUser(group, convert(findUnit(group, unitName), model, number));
   } catch (const UsageError& refusal) {

@@ -7,7 +7,6 @@
 #include "call.h"
 #include "config.h"
 #include "diagnostics/formatting.h"
-#include "encoding.h"
 #include "line_editor.h"
 #include "script.h"
 #include "server/suggestions.h"
@@ -41,7 +40,7 @@ Words chosenUnits(const UserUnits& units) {
   for (int group = 0; group < unitGroupCount; ++group) {
     const std::string unit = currentUnit(units, group);
     const UnitGroupRow& fixed = row(UnitGroup(group));
-    if (unit != toUtf8(fixed.internalUnit)) {
+    if (unit != fixed.internalUnit) {
       choices.push_back(fmt::format("{}={}", fixed.keywords.front(), unit));
     }
   }
@@ -65,7 +64,7 @@ Words groupWords() {
 Words unitWords(UnitGroup group) {
   Words words;
   for (const ZvUomLiteKeyword& unit : row(group).units) {
-    words.push_back(quotedIfSpaced(toUtf8(unit.name)));
+    words.push_back(quotedIfSpaced(std::string(unit.name)));
   }
   for (const ZvUomLiteKeyword& unit : unitsBesideCatalogue(group)) {
     words.push_back(quotedIfSpaced(std::string(unit.name)));

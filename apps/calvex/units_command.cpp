@@ -33,7 +33,7 @@ std::string listGroups() {
       if (keyword != lowerCase(keyword)) keywords.push_back(quotedIfSpaced(keyword));
     }
     rows.push_back({fmt::format("{:3}", group), std::string(fixed.displayName),
-                    toUtf8(fixed.internalUnit), fmt::format("{}", fmt::join(keywords, ", "))});
+                    std::string(fixed.internalUnit), fmt::format("{}", fmt::join(keywords, ", "))});
   }
   return aligned(rows) +
          "\nThe quantity's name does as well; capital and small letters are one.\n"
@@ -45,7 +45,7 @@ std::string listUnits(UnitGroup group) {
   Rows rows = {{"unit", "factor", "offset"}};
   std::string notices;
   const auto add = [&](const ZvUomLiteKeyword& unit) {
-    const std::string name = toUtf8(unit.name);
+    const std::string name(unit.name);
     const std::string_view notice = unitNotice(group, unit.name);
     rows.push_back({name, readableText(unit.factor, 15), readableText(unit.offset, 15),
                     !notice.empty()              ? "(!)"
@@ -57,14 +57,14 @@ std::string listUnits(UnitGroup group) {
   for (const ZvUomLiteKeyword& unit : unitsBesideCatalogue(group)) add(unit);
   std::string text = fmt::format(
       "{}; default unit {}\n\n{}\nvalue in {} = (value + offset) x factor\n", fixed.displayName,
-      toUtf8(fixed.internalUnit), indented(aligned(rows)), toUtf8(fixed.referenceUnit));
+      fixed.internalUnit, indented(aligned(rows)), fixed.referenceUnit);
   if (const std::string_view notice = groupNotice(group); !notice.empty()) {
     text += fmt::format("\n{}\n", notice);
   }
   if (!notices.empty()) text += '\n' + notices;
   std::vector<std::string> words;
   for (const auto& [word, unit] : otherWords(group)) {
-    words.push_back(fmt::format("{} ({})", word, toUtf8(unit->name)));
+    words.push_back(fmt::format("{} ({})", word, unit->name));
   }
   if (!words.empty()) text += fmt::format("\nAlso: {}\n", fmt::join(words, ", "));
   return text + "\nCapital and small letters, blanks, ^ and brackets do not matter.\n";

@@ -10,7 +10,6 @@
 #include "server/member_columns.h"
 #include "server/member_explanations.h"
 #include "server/member_table.h"
-#include "units/encoding.h"
 
 namespace {
 
@@ -43,7 +42,7 @@ std::string sentence(std::string text) {
 std::string unitOf(const Parameter& parameter) {
   if (!parameter.hasUnit()) return {};
   const auto& row = unitGroupTable()[static_cast<std::size_t>(parameter.group)];
-  return toUtf8(row.internalUnit);
+  return std::string(row.internalUnit);
 }
 
 /// "pressure, above 0 to 3000 MPa, or in the document's unit"
@@ -253,7 +252,7 @@ std::string units() {
     const int top = 4 + group % perColumn * line;
     const auto& row = unitGroupTable()[static_cast<std::size_t>(group)];
     controls += control("text", fmt::format("group{}", group), left, top + 2, 120, 10,
-                        fmt::format(R"(dlg:value="{}")", escaped(toUtf8(row.displayName))));
+                        fmt::format(R"(dlg:value="{}")", escaped(row.displayName)));
     controls += control("menulist", fmt::format("unit{}", group), left + 122, top, 66, 12,
                         R"(dlg:spin="true" dlg:linecount="12")");
   }

@@ -21,8 +21,13 @@ Tell steam.HPT(h, 10, 3000), "Enthalpy at 10 MPa and 3000 K", h, "kJ/kg"
 
 Sub Tell(succeeded, what, value, unit)
   If succeeded = 1 Then
-    WScript.Echo what & ": " & value & " " & unit
+    WScript.Echo what & ": " & Six(value) & " " & unit
   Else
     WScript.Echo what & ": " & steam.LastError
   End If
 End Sub
+
+' Rounded to six decimals.
+Function Six(value)
+  Six = Int(value * 1000000 + 0.5) / 1000000
+End Function

@@ -23,8 +23,14 @@ Tell steam.SetUserUnit("P", "bar"), "Pressures in", "bar"
 
 Sub Tell(succeeded, what, value)
   If succeeded = 1 Then
-    WScript.Echo what & ": " & value
+    WScript.Echo what & ": " & Shown(value)
   Else
     WScript.Echo what & ": " & steam.LastError
   End If
 End Sub
+
+' A number rounded to six decimals.
+Function Shown(value)
+  Shown = value
+  If IsNumeric(value) Then Shown = Int(value * 1000000 + 0.5) / 1000000
+End Function

@@ -54,12 +54,11 @@ extern "C" {
  * out of range, 103, 104, 105 and 107 no solution, 106 two phases; 100 any other text. */
 enum calvex_code {
   CALVEX_OK = 0,
-  CALVEX_NULL = -1,    /**< a pointer is NULL that must not be */
-  CALVEX_UNKNOWN = -2, /**< no member, group, unit, letter, row or node of that name or number */
-  CALVEX_COUNT = -3,   /**< not as many values or bytes as there must be, or too many to exist */
-  CALVEX_VALUE = -4,   /**< not a value of the kind that there must be */
-  CALVEX_ENCODING =
-      -5, /**< not UTF-8, or a character that the engine's texts (Windows-1252) lack */
+  CALVEX_NULL = -1,      /**< a pointer is NULL that must not be */
+  CALVEX_UNKNOWN = -2,   /**< no member, group, unit, letter, row or node of that name or number */
+  CALVEX_COUNT = -3,     /**< not as many values or bytes as there must be, or too many to exist */
+  CALVEX_VALUE = -4,     /**< not a value of the kind that there must be */
+  CALVEX_ENCODING = -5,  /**< not UTF-8 */
   CALVEX_TOO_SMALL = -6, /**< a text was cut: `needed` tells the size */
   CALVEX_MEMORY = -7,    /**< there is no memory left */
   CALVEX_INTERNAL = -8   /**< a fault of Calvex */

@@ -55,14 +55,14 @@ bool fromPython(PyObject* object, std::string_view name, ValueType type, Value& 
 
 Ref toPython(const Cell& cell) {
   if (const auto* number = std::get_if<double>(&cell)) return Ref(PyFloat_FromDouble(*number));
-  return decoded(std::get<std::string>(cell));
+  return unicode(std::get<std::string>(cell));
 }
 
 Ref toPython(const Value& value) {
   if (const auto* number = std::get_if<double>(&value)) return Ref(PyFloat_FromDouble(*number));
   if (const auto* number = std::get_if<short>(&value)) return Ref(PyLong_FromLong(*number));
   if (const auto* number = std::get_if<int>(&value)) return Ref(PyLong_FromLong(*number));
-  if (const auto* text = std::get_if<std::string>(&value)) return decoded(*text);
+  if (const auto* text = std::get_if<std::string>(&value)) return unicode(*text);
   if (const auto* array = std::get_if<ResultArray>(&value)) {
     Ref rows(PyList_New(0));
     for (const auto& cells : *array) {
@@ -185,7 +185,7 @@ PyObject* trace(PyObject* /*module*/, PyObject* object) {
   Ref nodes(PyList_New(0));
   for (const TraceView::Call& call : view.calls()) {
     for (const TraceView::Node& node : call.nodes) {
-      const Ref text = decoded(node.text);
+      const Ref text = unicode(node.text);
       const Ref row(text ? Py_BuildValue("(iOi)", node.depth, text.get(), int(node.image))
                          : nullptr);
       if (!nodes || !row || PyList_Append(nodes.get(), row.get()) < 0) return nullptr;
@@ -207,7 +207,7 @@ PyObject* reasons(PyObject* /*module*/, PyObject* object) {
   for (npy_intp i = 0; i < PyArray_SIZE(all); ++i) Py_XSETREF(cells[i], Py_NewRef(none.get()));
   std::vector<Ref> texts;
   for (const std::string& text : reasons.texts) {
-    texts.push_back(decoded(text));
+    texts.push_back(unicode(text));
     if (!texts.back()) return nullptr;
   }
   for (const Reasons::Row& row : reasons.rows) {

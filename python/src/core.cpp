@@ -128,8 +128,8 @@ std::string withCause(std::string_view reason, std::string_view cause) {
 void raiseError(PyObject* text, std::string_view member, std::string_view reason,
                 std::string_view cause) {
   const Ref name = unicode(member);
-  const Ref why = decoded(reason);
-  const Ref behind = decoded(cause);
+  const Ref why = unicode(reason);
+  const Ref behind = unicode(cause);
   if (!name || !why || !behind) return;
   const Ref error(PyObject_CallOneArg(errorType, text));
   if (!error || PyObject_SetAttrString(error.get(), "member", name.get()) < 0 ||
@@ -142,7 +142,7 @@ void raiseError(PyObject* text, std::string_view member, std::string_view reason
 
 Ref failureText(std::string_view member, std::string_view reason, std::string_view cause) {
   if (reason.empty()) reason = "the engine gave no reason.";
-  return decoded(std::string(member) + " failed: " + withCause(reason, cause));
+  return unicode(std::string(member) + " failed: " + withCause(reason, cause));
 }
 
 PyObject* raiseFailure(std::string_view member, std::string_view reason, std::string_view cause) {

@@ -102,7 +102,7 @@ Ref Failures::summary(std::string_view member, std::size_t elements) const {
   constexpr std::size_t most = 5;
   for (std::size_t i = 0; i < all.size() && i < most && text; ++i) {
     const Kind& kind = *all[i];
-    const Ref reason = decoded(
+    const Ref reason = unicode(
         withCause(kind.reason, kind.severalCauses ? "The first: " + kind.cause : kind.cause));
     if (!reason) return {};
     text = Ref(PyUnicode_FromFormat("%U%s %zu x %U", text.get(), i == 0 ? ":" : ";", kind.count,

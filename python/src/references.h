@@ -41,24 +41,17 @@ class Ref {
   PyObject* object_ = nullptr;
 };
 
-/// A text of the engine, which is Windows-1252.
-inline Ref decoded(std::string_view text) {
-  return Ref(
-      PyUnicode_Decode(text.data(), static_cast<Py_ssize_t>(text.size()), "cp1252", "replace"));
-}
-
-/// A text of a table, which is ASCII or UTF-8.
+/// A text of the engine or of a table.
 inline Ref unicode(std::string_view text) {
   return Ref(PyUnicode_FromStringAndSize(text.data(), static_cast<Py_ssize_t>(text.size())));
 }
 
-/// A text for the engine; nothing, and an exception, where it has a character that Windows-1252
-/// lacks.
+/// A text for the engine; nothing, and an exception, where it has half of a surrogate pair.
 inline std::optional<std::string> encoded(PyObject* text) {
-  const Ref bytes(PyUnicode_AsEncodedString(text, "cp1252", "strict"));
-  if (!bytes) return std::nullopt;
-  return std::string(PyBytes_AS_STRING(bytes.get()),
-                     static_cast<std::size_t>(PyBytes_GET_SIZE(bytes.get())));
+  Py_ssize_t size = 0;
+  const char* const utf8 = PyUnicode_AsUTF8AndSize(text, &size);
+  if (utf8 == nullptr) return std::nullopt;
+  return std::string(utf8, static_cast<std::size_t>(size));
 }
 
 /// Lets other Python threads run.

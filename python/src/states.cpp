@@ -270,8 +270,8 @@ PyObject* stateReason(PyObject* /*module*/, PyObject* arguments) {
   if (reason.text.empty()) {
     reason = directReason(*pair, first, second, which, unitsOf(loan.engine()), loan.engine());
   }
-  const Ref why = decoded(reason.text);
-  const Ref behind = decoded(reason.cause);
+  const Ref why = unicode(reason.text);
+  const Ref behind = unicode(reason.cause);
   return why && behind ? PyTuple_Pack(2, why.get(), behind.get()) : nullptr;
 }
 

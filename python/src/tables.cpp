@@ -88,8 +88,8 @@ std::optional<UnitGroup> groupArgument(int group) {
 }
 
 // name, factor, offset: reference value = (x + offset) * factor.
-Ref unitRow(const ZvUomLiteKeyword& unit, bool inCatalogue) {
-  const Ref name = inCatalogue ? decoded(unit.name) : unicode(unit.name);
+Ref unitRow(const ZvUomLiteKeyword& unit) {
+  const Ref name = unicode(unit.name);
   return Ref(name ? Py_BuildValue("(Odd)", name.get(), unit.factor, unit.offset) : nullptr);
 }
 
@@ -142,14 +142,14 @@ PyObject* groups(PyObject* /*module*/, PyObject* /*none*/) {
       if (!text || PyList_Append(keywords.get(), text.get()) < 0) return nullptr;
     }
     for (const ZvUomLiteKeyword& unit : row.units) {
-      const Ref item = unitRow(unit, true);
+      const Ref item = unitRow(unit);
       if (!item || PyList_Append(units.get(), item.get()) < 0) return nullptr;
     }
     for (const ZvUomLiteKeyword& unit : unitsBesideCatalogue(UnitGroup(number))) {
-      const Ref item = unitRow(unit, false);
+      const Ref item = unitRow(unit);
       if (!item || PyList_Append(beside.get(), item.get()) < 0) return nullptr;
     }
-    const Ref internal = decoded(row.internalUnit);
+    const Ref internal = unicode(row.internalUnit);
     const Ref item(internal ? Py_BuildValue("(s#OOOO)", row.displayName.data(),
                                             Py_ssize_t(row.displayName.size()), keywords.get(),
                                             internal.get(), units.get(), beside.get())
@@ -177,16 +177,15 @@ PyObject* findUnit(PyObject* /*module*/, PyObject* arguments) {
   if (!group) return nullptr;
   const UnitWord found = findUnitWord(*group, word);
   if (found.unit != nullptr) {
-    const bool inCatalogue = isInCatalogue(*group, *found.unit);
-    const Ref name = inCatalogue ? decoded(found.unit->name) : unicode(found.unit->name);
+    const Ref name = unicode(found.unit->name);
     if (!name) return nullptr;
     return Py_BuildValue("(OddOs#)", name.get(), found.unit->factor, found.unit->offset,
-                         inCatalogue ? Py_True : Py_False, found.notice.data(),
-                         Py_ssize_t(found.notice.size()));
+                         isInCatalogue(*group, *found.unit) ? Py_True : Py_False,
+                         found.notice.data(), Py_ssize_t(found.notice.size()));
   }
   Ref candidates(PyList_New(0));
   for (const ZvUomLiteKeyword* unit : found.candidates) {
-    const Ref name = decoded(unit->name);
+    const Ref name = unicode(unit->name);
     if (!candidates || !name || PyList_Append(candidates.get(), name.get()) < 0) return nullptr;
   }
   return candidates.release();
@@ -234,7 +233,7 @@ PyObject* unitOf(PyObject* /*module*/, PyObject* arguments) {
   std::string name;
   short status = 0;
   core->with([&](ZvThermoInt& engine) { return engine.units().getUserUnit(group, name, status); });
-  return decoded(name).release();
+  return unicode(name).release();
 }
 
 // (a, b): value in the engine's own unit = a * value in the user's unit + b.

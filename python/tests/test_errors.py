@@ -167,11 +167,12 @@ def test_settings_are_attributes_and_refuse_what_the_engine_refuses(steam):
 
 def test_methods_take_and_answer_texts(steam):
     steam.AddCustomTraceTitle("Tag")
-    steam.SetCustomTraceText(0, "Kessel 3 – 50 °C")
-    assert steam.GetCustomTraceText(0) == "Kessel 3 – 50 °C"
+    for text in "Kessel 3 – 50 °C", "Łódź", "Котельная", "锅炉 🔥", "a\0b":
+        steam.SetCustomTraceText(0, text)
+        assert steam.GetCustomTraceText(0) == text
     with pytest.raises(UnicodeEncodeError):
-        steam.SetCustomTraceText(0, "\u4e2d")
-    assert steam.GetCustomTraceText(0) == "Kessel 3 – 50 °C"
+        steam.SetCustomTraceText(0, "\ud800")
+    assert steam.GetCustomTraceText(0) == "a\0b"
     with pytest.raises(TypeError):
         steam.SetCustomTraceText(0)
     assert steam.GetUserUnit("T") == "C"

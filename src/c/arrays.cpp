@@ -128,7 +128,7 @@ double at(const direct::Column& column, std::size_t row) {
 }
 
 int tell(calvex_engine& engine, const DirectReason& reason) {
-  return engine.fail({CALVEX_OK, toUtf8(reason.text), toUtf8(reason.cause)});
+  return engine.fail({CALVEX_OK, reason.text, reason.cause});
 }
 
 template <class Column>
@@ -221,7 +221,7 @@ int evaluate(calvex_engine& engine, const calvex_rows& asked) {
   if (asked.reason != nullptr) {
     request.withCause = true;
     request.reason = [&](std::size_t row, std::string_view reason) {
-      const std::string text = toUtf8(reason);
+      const std::string text(reason);
       asked.reason(asked.context, row, text.c_str(), text.size());
     };
   }

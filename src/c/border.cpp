@@ -7,12 +7,9 @@
 
 namespace calvex::c {
 
-std::string engineText(std::string_view utf8) {
-  if (std::optional<std::string> text = toWindows1252(utf8)) return *std::move(text);
-  throw Misuse{CALVEX_ENCODING,
-               fmt::format("The text {} is not UTF-8 or has a character that the engine's texts "
-                           "(Windows-1252) lack.",
-                           inQuotes(utf8))};
+std::string engineText(std::string_view text) {
+  if (isUtf8(text)) return std::string(text);
+  throw Misuse{CALVEX_ENCODING, fmt::format("The text {} is not UTF-8.", inQuotes(text))};
 }
 
 std::string_view textOf(const char* text, std::size_t size, std::string_view name) {

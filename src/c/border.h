@@ -28,8 +28,8 @@ struct Misuse {
 /// A text given by its size; `name` is the argument's.
 std::string_view textOf(const char* text, std::size_t size, std::string_view name);
 
-/// The engine's own text for one in UTF-8.
-std::string engineText(std::string_view utf8);
+/// A text for the engine. \throws Misuse when it is not UTF-8.
+std::string engineText(std::string_view text);
 
 /// Hands a text out, whole or cut: CALVEX_OK, CALVEX_NULL or CALVEX_TOO_SMALL.
 int copyText(std::string_view utf8, char* text, std::size_t size, std::size_t* needed) noexcept;

@@ -142,8 +142,8 @@ int refused(calvex_engine& engine, const Member& member, bool isPut,
   }
   const std::string& error = diagnostics.lastError();
   const std::string& cause = diagnostics.cause();
-  return engine.fail({c::codeOf(error), toUtf8(error),
-                      cause.empty() ? namesFor(member, arguments, error) : toUtf8(cause)});
+  return engine.fail(
+      {c::codeOf(error), error, cause.empty() ? namesFor(member, arguments, error) : cause});
 }
 
 int call(calvex_engine& engine, const Member& member, Inputs inputs, double* outputs,
@@ -309,7 +309,7 @@ int calvex_answer_text(calvex_engine* engine, size_t row, size_t column, char* t
   return engine->guarded([&] {
     const auto* value = std::get_if<std::string>(&cellOf(*engine, row, column));
     if (value == nullptr) throw Misuse{CALVEX_VALUE, "The cell has a number, not a text."};
-    return c::giveText(toUtf8(*value), text, size, needed);
+    return c::giveText(*value, text, size, needed);
   });
 }
 

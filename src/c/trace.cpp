@@ -1,7 +1,6 @@
 // The trace as a tree of numbered nodes.
 #include "c/engine.h"
 #include "diagnostics/messages.h"
-#include "units/encoding.h"
 
 using namespace calvex;
 using c::TraceNode;
@@ -60,8 +59,8 @@ int codeOf(const ZvFunctionCall& node) {
 void append(std::vector<TraceNode>& nodes, const ZvFunctionCall& node, std::size_t parent) {
   const std::size_t self = nodes.size();
   TraceNode& added = nodes.emplace_back();
-  added.text = toUtf8(node.text());
-  for (const std::string& column : node.columnValues()) added.columns.push_back(toUtf8(column));
+  added.text = node.text();
+  added.columns = node.columnValues();
   added.facts = {kindOf(node.kind()), gravestOf(node), codeOf(node),        parent,
                  CALVEX_NONE,         CALVEX_NONE,     added.columns.size()};
   std::size_t previous = CALVEX_NONE;

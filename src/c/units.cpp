@@ -1,6 +1,5 @@
 // Unit groups and units, in plain words.
 #include "c/engine.h"
-#include "units/encoding.h"
 #include "units/unit_words.h"
 
 using namespace calvex;
@@ -29,7 +28,7 @@ std::string textOf(UnitGroup group, int what) {
     case CALVEX_GROUP_KEYWORD:
       return std::string(rowOf(group).keywords.front());
     case CALVEX_GROUP_MODEL_UNIT:
-      return toUtf8(rowOf(group).internalUnit);
+      return std::string(rowOf(group).internalUnit);
     case CALVEX_GROUP_NOTICE:
       return std::string(groupNotice(group));
     default:
@@ -78,14 +77,14 @@ int calvex_unit_name(int group, size_t index, char* text, size_t size, size_t* n
     c::requireIndex(index, catalogue.size() + beside.size(), "unit");
     const ZvUomLiteKeyword& unit =
         index < catalogue.size() ? catalogue[index] : beside[index - catalogue.size()];
-    return giveText(toUtf8(unit.name), text, size, needed);
+    return giveText(unit.name, text, size, needed);
   });
 }
 
 int calvex_unit(calvex_engine* engine, int group, char* text, size_t size, size_t* needed) {
   if (engine == nullptr) return CALVEX_NULL;
   return engine->guarded([&] {
-    return giveText(toUtf8(engine->client.engine().unitName(groupOf(group))), text, size, needed);
+    return giveText(engine->client.engine().unitName(groupOf(group)), text, size, needed);
   });
 }
 

@@ -9,7 +9,7 @@
 
 namespace calvex {
 
-/// A cell: a text (Windows-1252) or a number.
+/// A cell: a text or a number.
 using Cell = std::variant<std::string, double>;
 
 /// N rows of equally many columns, both counted from 0.

@@ -30,7 +30,7 @@ struct RangeLimits {
 };
 
 /// The engine. Every operation returns 1 for success and 0 for failure unless it says otherwise,
-/// takes and returns values in the client's units (texts in Windows-1252), writes its outputs only
+/// takes and returns values in the client's units (texts in UTF-8), writes its outputs only
 /// on success, lets no exception out, and leaves the reason of a failure in the trace and in
 /// `LastError`.
 ///

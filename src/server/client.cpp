@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <new>
 
-#include "units/encoding.h"
 #include "units/unit_words.h"
 
 namespace calvex {
@@ -18,7 +17,7 @@ std::string unitWarning(UnitGroup group, std::string_view unit) {
 UnitChoice nameUnits(const Member& member, std::span<Value> arguments) {
   UnitChoice choice;
   const auto atGroup = [&](std::string& text) {
-    choice.group = findGroupWord(toUtf8(text));
+    choice.group = findGroupWord(text);
     if (choice.group) {
       const auto keywords = unitGroupTable()[static_cast<std::size_t>(*choice.group)].keywords;
       if (std::ranges::count(keywords, text) == 0) text = keywords.front();
@@ -27,7 +26,7 @@ UnitChoice nameUnits(const Member& member, std::span<Value> arguments) {
   };
   forEachUnitName(member, arguments, atGroup, [&](UnitGroup group, std::string& text) {
     choice.group = group;
-    const std::string word = toUtf8(text);
+    const std::string word = text;
     const ZvUomLiteKeyword* unit = findUnitWord(group, word).unit;
     choice.units.push_back(unit);
     if (unit == nullptr) return;
@@ -42,13 +41,13 @@ UnitChoice nameUnits(const Member& member, std::span<Value> arguments) {
 std::optional<Unknown> unknownName(const Member& member, std::span<const Value> arguments) {
   std::optional<Unknown> unknown;
   const auto atGroup = [&](const std::string& text) {
-    const std::optional<UnitGroup> group = findGroupWord(toUtf8(text));
-    if (!group && !unknown) unknown = unknownGroup(toUtf8(text));
+    const std::optional<UnitGroup> group = findGroupWord(text);
+    if (!group && !unknown) unknown = unknownGroup(text);
     return group;
   };
   forEachUnitName(member, arguments, atGroup, [&](UnitGroup group, const std::string& text) {
-    if (unknown || findUnitWord(group, toUtf8(text)).unit != nullptr) return;
-    unknown = unknownUnit(group, toUtf8(text));
+    if (unknown || findUnitWord(group, text).unit != nullptr) return;
+    unknown = unknownUnit(group, text);
   });
   return unknown;
 }

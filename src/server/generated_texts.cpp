@@ -8,6 +8,7 @@
 #include "server/identity.h"
 #include "server/member_table.h"
 #include "units/unit_catalogue.h"
+#include "units/utf16.h"
 
 namespace calvex {
 
@@ -75,13 +76,12 @@ std::string entries(const Member& member) {
   return entry(member, "", parameters);
 }
 
-/// A text for the resource compiler; what is not ASCII as its character's number.
+/// A text for the resource compiler; what is not ASCII as its number in UTF-16.
 std::string quoted(std::string_view text) {
   std::string quotedText = "L\"";
-  for (const char c : text) {
-    const auto byte = static_cast<unsigned char>(c);
-    // Those of Windows-1252 that the tables use have the same number in Unicode.
-    quotedText += byte < 0x80 ? std::string(1, c) : fmt::format("\\x{:04x}", byte);
+  for (const char16_t unit : utf16Of<char16_t>(text)) {
+    quotedText += unit < 0x80 ? std::string(1, static_cast<char>(unit))
+                              : fmt::format("\\x{:04x}", static_cast<unsigned>(unit));
   }
   return quotedText + "\"";
 }

@@ -64,8 +64,8 @@ struct MemberRequest {
   /// 0 for success, else the number of the message (diagnostics/messages.h); 100 for a reason that
   /// is no message of that list, or none.
   direct::Target<short> status{};
-  /// Told of each row that fails, with the member's last error (Windows-1252; empty when it gave
-  /// none), by the thread that has the row.
+  /// Told of each row that fails, with the member's last error (empty when it gave none),
+  /// by the thread that has the row.
   std::function<void(std::size_t row, std::string_view reason)> reason{};
   /// Told of each row that is answered with a warning, with its call as the trace has it. Rows that
   /// may be warned of are then asked of the member.

@@ -112,10 +112,10 @@ Unknown unknownGroup(std::string_view word) {
 Unknown unknownUnit(UnitGroup group, std::string_view word) {
   const UnitGroupRow& row = unitGroupTable()[static_cast<std::size_t>(group)];
   std::vector<std::string> names, candidates;
-  for (const ZvUomLiteKeyword& unit : row.units) names.push_back(toUtf8(unit.name));
+  for (const ZvUomLiteKeyword& unit : row.units) names.emplace_back(unit.name);
   for (const ZvUomLiteKeyword& unit : unitsBesideCatalogue(group)) names.emplace_back(unit.name);
   const UnitWord found = findUnitWord(group, word);
-  for (const ZvUomLiteKeyword* unit : found.candidates) candidates.push_back(toUtf8(unit->name));
+  for (const ZvUomLiteKeyword* unit : found.candidates) candidates.emplace_back(unit->name);
   std::string help = didYouMean(word, names);
   if (!found.refusal.empty()) help = fmt::format("; {}", found.refusal);
   if (!candidates.empty()) {

@@ -10,7 +10,7 @@
 namespace calvex {
 
 /// The automation types: double (VT_R8), short (VT_I2), long (VT_I4), string (BSTR, here
-/// Windows-1252 text), array (a two-dimensional SAFEARRAY of VARIANT).
+/// UTF-8), array (a two-dimensional SAFEARRAY of VARIANT).
 enum class ValueType : unsigned char { real, shortInteger, longInteger, text, array };
 
 /// One argument or result; monostate: not written.

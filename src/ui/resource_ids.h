@@ -7,6 +7,7 @@
 // Its twenty lists are 1000 to 1019: the table in unit_selection.cpp tells what each edits.
 #define CALVEX_UNIT_DIALOG 103
 #define CALVEX_ATMOSPHERIC_PRESSURE 201
+#define CALVEX_ATMOSPHERIC_UNIT 202
 #define CALVEX_HELP 0xE146
 
 #define CALVEX_TRACE_DIALOG 129

@@ -1,6 +1,5 @@
 #include "units/encoding.h"
 
-#include <algorithm>
 #include <array>
 
 namespace calvex {
@@ -11,17 +10,9 @@ constexpr char32_t replacement = 0xFFFD;
 
 bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
-// Characters of the bytes 80 to 9F; all others are those of Latin-1.
-constexpr std::array<char32_t, 32> upperControls = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  // 80
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,  // 88
-    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,  // 90
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,  // 98
-};
-
 }  // namespace
 
-std::optional<char32_t> takeCharacter(std::string_view& utf8) {
+std::optional<char32_t> takeCodePoint(std::string_view& utf8) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
   const unsigned char lead = byte(0);
   const std::size_t length = lead < 0x80               ? 1
@@ -37,10 +28,17 @@ std::optional<char32_t> takeCharacter(std::string_view& utf8) {
     wellFormed = (byte(i) & 0xC0U) == 0x80U;
     character = (character << 6U) | (byte(i) & 0x3FU);
   }
-  wellFormed = wellFormed && character >= smallest[length] && character <= 0x10FFFF &&
-               !(character >= 0xD800 && character <= 0xDFFF);
+  wellFormed = wellFormed && character >= smallest[length] && character <= 0x10FFFF;
   utf8.remove_prefix(wellFormed ? length : 1);
   return wellFormed ? std::optional(character) : std::nullopt;
+}
+
+std::optional<char32_t> takeCharacter(std::string_view& utf8) {
+  std::string_view rest = utf8;
+  const std::optional<char32_t> character = takeCodePoint(rest);
+  const bool surrogate = character && *character >= 0xD800 && *character <= 0xDFFF;
+  utf8 = surrogate ? utf8.substr(1) : rest;
+  return surrogate ? std::nullopt : character;
 }
 
 void appendUtf8(std::string& utf8, char32_t character) {
@@ -62,29 +60,11 @@ void appendUtf8(std::string& utf8, char32_t character) {
   }
 }
 
-std::string toUtf8(std::string_view windows1252) {
-  std::string utf8;
-  for (const char c : windows1252) {
-    const auto byte = static_cast<unsigned char>(c);
-    appendUtf8(utf8, byte >= 0x80 && byte < 0xA0 ? upperControls[byte - 0x80U] : byte);
+bool isUtf8(std::string_view text) {
+  while (!text.empty()) {
+    if (!takeCharacter(text)) return false;
   }
-  return utf8;
-}
-
-std::optional<std::string> toWindows1252(std::string_view utf8) {
-  std::string bytes;
-  while (!utf8.empty()) {
-    const std::optional<char32_t> character = takeCharacter(utf8);
-    if (!character) return std::nullopt;
-    if (*character < 0x80 || (*character >= 0xA0 && *character < 0x100)) {
-      bytes += static_cast<char>(*character);
-    } else {
-      const auto* const found = std::ranges::find(upperControls, *character);
-      if (found == upperControls.end()) return std::nullopt;
-      bytes += static_cast<char>(0x80 + (found - upperControls.begin()));
-    }
-  }
-  return bytes;
+  return true;
 }
 
 std::string inQuotes(std::string_view word) {

@@ -1,5 +1,5 @@
 /// \file
-/// The engine's texts are Windows-1252, those of the faces UTF-8.
+/// Texts are UTF-8, in the engine and in its faces.
 #pragma once
 
 #include <optional>
@@ -12,14 +12,13 @@ namespace calvex {
 /// the text is malformed.
 std::optional<char32_t> takeCharacter(std::string_view& utf8);
 
+/// The same, where half of a surrogate pair counts as a character, too (utf16.h).
+std::optional<char32_t> takeCodePoint(std::string_view& utf8);
+
 void appendUtf8(std::string& utf8, char32_t character);
 
-/// The five bytes without a character (81, 8D, 8F, 90, 9D) become the control characters of the
-/// same number, so that every byte survives the way there and back.
-[[nodiscard]] std::string toUtf8(std::string_view windows1252);
-
-/// Nothing when the text is not UTF-8 or has a character that Windows-1252 lacks.
-[[nodiscard]] std::optional<std::string> toWindows1252(std::string_view utf8);
+/// Whether every character of the text is well-formed.
+[[nodiscard]] bool isUtf8(std::string_view text);
 
 /// 'word' as it stands in a message, UTF-8: well-formed, on one line and not too long.
 [[nodiscard]] std::string inQuotes(std::string_view word);

@@ -2,7 +2,7 @@
 /// The catalogue of units of measure: 27 physical quantities ("groups"), the units that a caller
 /// may use for each, and the user's choice of one unit a group.
 ///
-/// Texts are Windows-1252 bytes ("²" is 0xB2, "³" 0xB3, "°" 0xB0) and are matched byte for byte.
+/// Texts are UTF-8 and are matched byte for byte.
 #pragma once
 
 #include <array>

@@ -77,7 +77,7 @@ constexpr ZvUomLiteKeyword temperature[] = {
 
 // A gauge unit is an ordinary unit whose offset is one standard atmosphere.
 constexpr ZvUomLiteKeyword pressure[] = {
-    {"N/m\xB2", 1}, {"N/m^2", 1},
+    {"N/m²", 1}, {"N/m^2", 1},
     {"Pa", 1},
     {"atm", 101325},
     {"bara", 100000},
@@ -86,40 +86,40 @@ constexpr ZvUomLiteKeyword pressure[] = {
     {"in Hg", 3386.39},
     {"in H2O", 249.082},
     {"kPa", 1000},
-    {"lbf/ft\xB2", 47.88026}, {"lbf/ft^2", 47.88026},
+    {"lbf/ft²", 47.88026}, {"lbf/ft^2", 47.88026},
     {"mm Hg", 133.322},
-    {"oz/in\xB2", 430.92231}, {"oz/in^2", 430.92231},
+    {"oz/in²", 430.92231}, {"oz/in^2", 430.92231},
     {"psia", 6894.76751},
     {"psig", 6894.76751, 14.695927},
     {"Torr", 133.322},
     {"MPa", 1000000},
-    {"kgf/cm\xB2", 98066.5}, {"kgf/cm^2", 98066.5},
+    {"kgf/cm²", 98066.5}, {"kgf/cm^2", 98066.5},
 };
 
 constexpr ZvUomLiteKeyword density[] = {
-    {"kg/m\xB3", 1}, {"kg/m^3", 1},
-    {"g/cm\xB3", 1000}, {"g/cm^3", 1000},
+    {"kg/m³", 1}, {"kg/m^3", 1},
+    {"g/cm³", 1000}, {"g/cm^3", 1000},
     {"g/l", 1},
     {"kg/l", 1000},
-    {"te/m\xB3", 1000}, {"te/m^3", 1000},
-    {"lb/ft\xB3", 16.01846337}, {"lb/ft^3", 16.01846337},
-    {"lb/in\xB3", 27679.9047}, {"lb/in^3", 27679.9047},
-    {"oz/ft\xB3", 1.00115396}, {"oz/ft^3", 1.00115396},
-    {"oz/in\xB3", 1729.99404}, {"oz/in^3", 1729.99404},
+    {"te/m³", 1000}, {"te/m^3", 1000},
+    {"lb/ft³", 16.01846337}, {"lb/ft^3", 16.01846337},
+    {"lb/in³", 27679.9047}, {"lb/in^3", 27679.9047},
+    {"oz/ft³", 1.00115396}, {"oz/ft^3", 1.00115396},
+    {"oz/in³", 1729.99404}, {"oz/in^3", 1729.99404},
 };
 
 // "ft^3/lb" is a thousandth of 0.0283168 m^3 / 0.45359237 kg, unlike the other foot, inch and ounce
 // units; kept as tabulated.
 constexpr ZvUomLiteKeyword specificVolume[] = {
-    {"m\xB3/kg", 1}, {"m^3/kg", 1},
-    {"cm\xB3/g", 0.001}, {"cm^3/g", 0.001},
+    {"m³/kg", 1}, {"m^3/kg", 1},
+    {"cm³/g", 0.001}, {"cm^3/g", 0.001},
     {"l/g", 1},
     {"l/kg", 0.001},
-    {"m\xB3/te", 0.001}, {"m^3/te", 0.001},
-    {"ft\xB3/lb", 6.2e-05}, {"ft^3/lb", 6.2e-05},
-    {"in\xB3/lb", 3.6127292e-05}, {"in^3/lb", 3.6127292e-05},
-    {"ft\xB3/oz", 0.998847369}, {"ft^3/oz", 0.998847369},
-    {"in\xB3/oz", 0.00057803667}, {"in^3/oz", 0.00057803667},
+    {"m³/te", 0.001}, {"m^3/te", 0.001},
+    {"ft³/lb", 6.2e-05}, {"ft^3/lb", 6.2e-05},
+    {"in³/lb", 3.6127292e-05}, {"in^3/lb", 3.6127292e-05},
+    {"ft³/oz", 0.998847369}, {"ft^3/oz", 0.998847369},
+    {"in³/oz", 0.00057803667}, {"in^3/oz", 0.00057803667},
 };
 
 // The International Table Btu and kcal; `specificHeat` has 4.18690337 for the same units; kept as
@@ -244,14 +244,14 @@ constexpr ZvUomLiteKeyword dynamicViscosity[] = {
     {"mPa.s", 0.001},
     {"cP", 0.001},
     {"Poise", 0.1},
-    {"dyne.s/cm\xB2", 98.03921}, {"dyne.s/cm^2", 98.03921},
-    {"N.s/m\xB2", 1}, {"N.s/m^2", 1},
+    {"dyne.s/cm²", 98.03921}, {"dyne.s/cm^2", 98.03921},
+    {"N.s/m²", 1}, {"N.s/m^2", 1},
     {"kg/(m.s)", 1},
     {"kg/(m.h)", 0.00027777777778},
-    {"kgf.s/m\xB2", 9.80665}, {"kgf.s/m^2", 9.80665},
+    {"kgf.s/m²", 9.80665}, {"kgf.s/m^2", 9.80665},
     {"lb/(ft.s)", 1.48816394},
     {"lb/(ft.h)", 0.00041337887},
-    {"lbf.s/ft\xB2", 47.88026}, {"lbf.s/ft^2", 47.88026},
+    {"lbf.s/ft²", 47.88026}, {"lbf.s/ft^2", 47.88026},
 };
 
 constexpr ZvUomLiteKeyword thermalConductivity[] = {
@@ -345,17 +345,17 @@ constexpr ZvUomLiteKeyword temperatureDifference[] = {
     {"F", 0.55555555556},
     {"K", 1},
     {"R", 0.55555555556},
-    {"\xB0" "C", 1},
-    {"\xB0" "F", 0.55555555556},
-    {"\xB0K", 1},
-    {"\xB0R", 0.55555555556},
+    {"°C", 1},
+    {"°F", 0.55555555556},
+    {"°K", 1},
+    {"°R", 0.55555555556},
 };
 
 // Twins of the pressure units that differ in "ft H2O", "in Hg", "psia" and "psig" and in the
 // spelling "lb/ft^2"; a difference carries no atmosphere, so "psig" has no offset and there is no
 // "barg"; kept as tabulated.
 constexpr ZvUomLiteKeyword pressureDifference[] = {
-    {"N/m\xB2", 1}, {"N/m^2", 1},
+    {"N/m²", 1}, {"N/m^2", 1},
     {"Pa", 1},
     {"atm", 101325},
     {"bara", 100000},
@@ -363,14 +363,14 @@ constexpr ZvUomLiteKeyword pressureDifference[] = {
     {"in Hg", 3376.85},
     {"in H2O", 249.082},
     {"kPa", 1000},
-    {"lb/ft\xB2", 47.88026}, {"lb/ft^2", 47.88026},
+    {"lb/ft²", 47.88026}, {"lb/ft^2", 47.88026},
     {"mm Hg", 133.322},
-    {"oz/in\xB2", 430.92231}, {"oz/in^2", 430.92231},
+    {"oz/in²", 430.92231}, {"oz/in^2", 430.92231},
     {"psia", 6894.757},
     {"psig", 6894.757},
     {"Torr", 133.322},
     {"MPa", 1000000},
-    {"kgf/cm\xB2", 98066.5}, {"kgf/cm^2", 98066.5},
+    {"kgf/cm²", 98066.5}, {"kgf/cm^2", 98066.5},
 };
 
 }  // namespace units

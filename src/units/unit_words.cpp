@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "units/encoding.h"
 
 namespace calvex {
 
@@ -129,9 +128,9 @@ constexpr std::string_view thermochemicalHere =
     "0.07 % smaller here than in an enthalpy, whose cal and Btu are those of the International "
     "Table: H - U = P v holds in kJ/kg";
 constexpr UnitNotice unitNotices[] = {
-    {UnitGroup::specificVolume, "ft\xB3/lb", notCubicFoot},
+    {UnitGroup::specificVolume, "ft³/lb", notCubicFoot},
     {UnitGroup::specificVolume, "ft^3/lb", notCubicFoot},
-    {UnitGroup::dynamicViscosity, "dyne.s/cm\xB2", notDyne},
+    {UnitGroup::dynamicViscosity, "dyne.s/cm²", notDyne},
     {UnitGroup::dynamicViscosity, "dyne.s/cm^2", notDyne},
 };
 
@@ -258,7 +257,7 @@ UnitWord findUnitWord(UnitGroup group, std::string_view word) {
   constexpr std::size_t longest = 64;  // no unit is as long
   if (word.empty() || word.size() > longest) return {};
   for (const ZvUomLiteKeyword& unit : row(group).units) {
-    if (toUtf8(unit.name) == word) return {&unit, {}, unitNotice(group, unit.name)};
+    if (unit.name == word) return {&unit, {}, unitNotice(group, unit.name)};
   }
   const std::string folded = fold(word);
   if (folded.empty()) return {};
@@ -270,7 +269,7 @@ UnitWord findUnitWord(UnitGroup group, std::string_view word) {
   const Meaning meaning = meaningOf(word);
   UnitWord found;
   for (const ZvUomLiteKeyword& unit : row(group).units) {
-    if (meaningOf(toUtf8(unit.name)).folded != meaning.folded) continue;
+    if (meaningOf(unit.name).folded != meaning.folded) continue;
     const auto same = [&](const ZvUomLiteKeyword* other) {
       return other->factor == unit.factor && other->offset == unit.offset;
     };
@@ -376,7 +375,7 @@ std::vector<std::pair<std::string_view, const ZvUomLiteKeyword*>> otherWords(Uni
   std::vector<std::pair<std::string_view, const ZvUomLiteKeyword*>> words;
   for (const Synonym& synonym : synonyms) {
     const ZvUomLiteKeyword* unit = findUnitWord(group, synonym.word).unit;
-    if (unit != nullptr && fold(toUtf8(unit->name)) != synonym.word) {
+    if (unit != nullptr && fold(unit->name) != synonym.word) {
       words.emplace_back(synonym.written.empty() ? synonym.word : synonym.written, unit);
     }
   }

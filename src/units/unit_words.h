@@ -2,8 +2,7 @@
 /// Units in the words that people use: bar, psi, °C, BTU/lbm, t/h, in any case.
 ///
 /// The catalogue matches its names byte for byte, and the automation interface relies on it. These
-/// look-ups are for the faces that people type into. Words are UTF-8; the units found have the
-/// catalogue's names (Windows-1252).
+/// look-ups are for the faces that people type into. The units found have the catalogue's names.
 #pragma once
 
 #include <optional>

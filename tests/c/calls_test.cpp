@@ -27,8 +27,12 @@ Engine makeEngine() {
 
 template <class Get>
 std::string text(Get get) {
-  char buffer[2000];
-  EXPECT_EQ(get(buffer, sizeof buffer, nullptr), CALVEX_OK);
+  std::size_t needed = 0;
+  EXPECT_EQ(get(nullptr, 0, &needed), CALVEX_OK);
+  std::string buffer(needed, '?');
+  EXPECT_EQ(get(buffer.data(), needed, nullptr), CALVEX_OK);
+  EXPECT_EQ(buffer.back(), '\0');
+  buffer.pop_back();
   return buffer;
 }
 std::string lastError(const Engine& engine) {
@@ -255,19 +259,27 @@ TEST(C, SettingsAreReadAndPut) {
 
 TEST(C, TextsComeBackUnharmed) {
   const Engine engine = makeEngine();
-  const std::string name = "Kesselhaus Köln – 5 €";
   const auto get = [&](char* to, std::size_t size, std::size_t* needed) {
     EXPECT_EQ(calvex_call(engine.get(), numberOf("AppName"), nullptr, 0, nullptr, 0), CALVEX_OK);
     return calvex_answer_text(engine.get(), 0, 0, to, size, needed);
   };
-  ASSERT_EQ(calvex_put_text(engine.get(), numberOf("AppName"), name.data(), name.size()),
-            CALVEX_OK);
-  EXPECT_EQ(text(get), name);
-  for (const std::string bad : {"\xC3", "\xFF\xFE", "\xC0\x80", "\xED\xA0\x80", "雪"}) {
+  const std::string names[] = {"Kesselhaus Köln – 5 €",
+                               "Łódź.xlsx",
+                               "Котельная.xlsx",
+                               "锅炉.xlsx",
+                               "🔥",
+                               std::string("a\0b", 3),
+                               std::string(9999, 'x') + "雪"};
+  for (const std::string& name : names) {
+    ASSERT_EQ(calvex_put_text(engine.get(), numberOf("AppName"), name.data(), name.size()),
+              CALVEX_OK);
+    EXPECT_EQ(text(get), name);
+  }
+  for (const std::string bad : {"\xC3", "\xFF\xFE", "\xC0\x80", "\xED\xA0\x80"}) {
     EXPECT_EQ(calvex_put_text(engine.get(), numberOf("AppName"), bad.data(), bad.size()),
               CALVEX_ENCODING);
   }
-  EXPECT_EQ(text(get), name);
+  EXPECT_EQ(text(get), std::end(names)[-1]);
 }
 
 TEST(C, ATextThatDoesNotFitIsCutBetweenTwoCharacters) {

@@ -24,7 +24,6 @@
 #include "server/member_columns.h"
 #include "server/member_explanations.h"
 #include "server/member_table.h"
-#include "units/encoding.h"
 
 namespace calvex {
 namespace {
@@ -85,7 +84,7 @@ std::vector<Asked> randomCalls(unsigned seed = 20240501) {
         const bool moved = parameter.type == ValueType::real && parameter.hasUnit();
         asked.numbers.push_back(moved ? *number * (wild ? any(random) : near(random)) : *number);
       } else {
-        asked.texts.push_back(toUtf8(std::get<std::string>(example)));
+        asked.texts.push_back(std::get<std::string>(example));
       }
     }
     calls.push_back(std::move(asked));
@@ -100,7 +99,7 @@ Answered ofEngine(Client& client, const Asked& asked) {
     if (!parameter.isInput() || parameter.type == ValueType::array) {
       arguments.emplace_back();
     } else if (parameter.type == ValueType::text) {
-      arguments.emplace_back(toWindows1252(asked.texts[text++]).value());
+      arguments.emplace_back(asked.texts[text++]);
     } else {
       arguments.emplace_back(asked.numbers[number++]);
     }
@@ -108,8 +107,8 @@ Answered ofEngine(Client& client, const Asked& asked) {
   Answered answered;
   answered.failed = client.object().invoke(*asked.member, arguments).success == 0;
   if (answered.failed) {
-    answered.error = toUtf8(client.engine().LastError());
-    answered.cause = toUtf8(client.engine().diagnostics().cause());
+    answered.error = client.engine().LastError();
+    answered.cause = client.engine().diagnostics().cause();
     return answered;
   }
   for (std::size_t i = 0; i < arguments.size(); ++i) {
@@ -118,7 +117,7 @@ Answered ofEngine(Client& client, const Asked& asked) {
     if (const auto* value = std::get_if<short>(&arguments[i])) answered.numbers.push_back(*value);
     if (const auto* value = std::get_if<int>(&arguments[i])) answered.numbers.push_back(*value);
     if (const auto* word = std::get_if<std::string>(&arguments[i])) {
-      answered.texts.push_back(toUtf8(*word));
+      answered.texts.push_back(*word);
     }
     if (const auto* table = std::get_if<ResultArray>(&arguments[i])) {
       for (const auto& row : *table) {
@@ -126,7 +125,7 @@ Answered ofEngine(Client& client, const Asked& asked) {
           if (const auto* value = std::get_if<double>(&cell)) {
             answered.numbers.push_back(*value);
           } else {
-            answered.texts.push_back(toUtf8(std::get<std::string>(cell)));
+            answered.texts.push_back(std::get<std::string>(cell));
           }
         }
       }

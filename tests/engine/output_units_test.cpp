@@ -12,15 +12,10 @@ namespace calvex::test {
 namespace {
 
 struct Unit {
-  std::string name;  // Windows-1252
+  std::string name;
   double factor;
   double offset;
 };
-
-std::string windows1252(std::string text) {
-  std::erase(text, '\xC2');
-  return text;
-}
 
 /// The units of each group: reference value = (x + offset) * factor.
 const std::map<int, std::vector<Unit>>& units() {
@@ -28,7 +23,7 @@ const std::map<int, std::vector<Unit>>& units() {
     std::map<int, std::vector<Unit>> groups;
     for (const Row& row : readTable("unit-tables.csv")) {
       groups[std::stoi(row.text("group"))].push_back(
-          {windows1252(row.text("unit")), row["factor"], row["offset"]});
+          {row.text("unit"), row["factor"], row["offset"]});
     }
     return groups;
   }();
@@ -38,8 +33,7 @@ const std::map<int, std::vector<Unit>>& units() {
 /// A row of unit-groups.csv.
 const Unit& internalUnit(int group) {
   static const std::vector<Row> groups = readTable("unit-groups.csv");
-  const std::string name =
-      windows1252(groups.at(static_cast<std::size_t>(group)).text("internal unit"));
+  const std::string name = groups.at(static_cast<std::size_t>(group)).text("internal unit");
   for (const Unit& unit : units().at(group)) {
     if (unit.name == name) return unit;
   }

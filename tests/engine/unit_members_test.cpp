@@ -132,10 +132,10 @@ TEST_F(UnitMembers, EmptyAndLongTextsAreRefused) {
   EXPECT_EQ(engine.LastError(), longText + " is not a defined unit group.");
 }
 
-TEST_F(UnitMembers, SuperscriptUnitsAreWindows1252Bytes) {
-  EXPECT_EQ(engine.SetUserUnit("P", "N/m\xB2"), 1);
-  EXPECT_EQ(unitOf("P"), "N/m\xB2");
-  EXPECT_EQ(engine.SetUserUnit("P", "N/m\xC2\xB2"), 0);
+TEST_F(UnitMembers, SuperscriptUnitsAreUtf8) {
+  EXPECT_EQ(engine.SetUserUnit("P", "N/m²"), 1);
+  EXPECT_EQ(unitOf("P"), "N/m²");
+  EXPECT_EQ(engine.SetUserUnit("P", "N/m\xB2"), 0);
 }
 
 // Custom units

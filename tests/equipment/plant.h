@@ -36,10 +36,10 @@ struct Answer {
 
 /// A unit other than the model unit for each quantity of the models.
 inline constexpr std::pair<const char*, const char*> mixedUnits[] = {
-    {"Temperature", "F"},      {"Pressure", "psig"},     {"Enthalpy", "Btu/lb"},
-    {"Entropy", "Btu/(lb.R)"}, {"Quality", "%"},         {"Mass Flow Rate", "klb/h"},
-    {"Heat Duty", "MMBtu/h"},  {"Efficiency", "%"},      {"Ratio", "%"},
-    {"Power", "hp"},           {"Density", "lb/ft\xB3"}, {"DP", "psig"}};
+    {"Temperature", "F"},      {"Pressure", "psig"},  {"Enthalpy", "Btu/lb"},
+    {"Entropy", "Btu/(lb.R)"}, {"Quality", "%"},      {"Mass Flow Rate", "klb/h"},
+    {"Heat Duty", "MMBtu/h"},  {"Efficiency", "%"},   {"Ratio", "%"},
+    {"Power", "hp"},           {"Density", "lb/ft³"}, {"DP", "psig"}};
 
 class Plant {
  public:

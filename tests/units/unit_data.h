@@ -13,12 +13,6 @@
 
 namespace calvex::test {
 
-/// UTF-8 to Windows-1252, for texts whose only characters above 0x7F are U+00A0 to U+00BF.
-inline std::string windows1252(std::string text) {
-  std::erase(text, '\xC2');
-  return text;
-}
-
 inline std::vector<std::string> split(const std::string& text, char separator) {
   std::vector<std::string> parts;
   std::istringstream in(text);
@@ -26,14 +20,14 @@ inline std::vector<std::string> split(const std::string& text, char separator) {
   return parts;
 }
 
-/// The rows of a data file below its heading, in Windows-1252.
+/// The rows of a data file below its heading.
 inline std::vector<std::vector<std::string>> readCells(const std::string& name) {
   std::ifstream in(dataFolder() + "/" + name);
   EXPECT_TRUE(in) << "cannot read " << name;
   std::vector<std::vector<std::string>> rows;
   std::string line;
   std::getline(in, line);
-  while (std::getline(in, line)) rows.push_back(split(windows1252(line), ','));
+  while (std::getline(in, line)) rows.push_back(split(line, ','));
   return rows;
 }
 

@@ -1,6 +1,8 @@
 #include "server/windows/boundary.h"
 
 #include <atomic>
+#include <mutex>
+#include <utility>
 
 #include "server/windows/guids.h"
 
@@ -9,6 +11,13 @@ namespace calvex::com {
 namespace {
 
 ZvThermoInt* theEngine = nullptr;
+
+/// The same for a call and for all that it causes, in whatever threads.
+GUID currentCall() noexcept {
+  GUID call = GUID_NULL;
+  CoGetCurrentLogicalThreadId(&call);
+  return call;
+}
 
 // Where callers take turns. The first way in costs an atomic exchange; whoever waits is counted, so
 // that leaving costs no system call when nobody does.
@@ -22,8 +31,10 @@ class Door {
   Door(const Door&) = delete;
   Door& operator=(const Door&) = delete;
 
-  void enter() noexcept {
-    if (TryEnterCriticalSection(&inside_) != FALSE) return;
+  /// False for a guest, who does not leave either.
+  bool enter() noexcept {
+    if (TryEnterCriticalSection(&inside_) != FALSE) return true;
+    if (isGuest()) return false;
     ++waiting_;
     while (TryEnterCriticalSection(&inside_) == FALSE) {
       DWORD index = 0;
@@ -33,6 +44,7 @@ class Door {
       }
     }
     --waiting_;
+    return true;
   }
 
   void leave() noexcept {
@@ -40,18 +52,37 @@ class Door {
     if (waiting_ != 0) SetEvent(left_);
   }
 
+  /// Whose call is out in another apartment now; answers whose was before.
+  GUID setAway(const GUID& call) noexcept {
+    const std::lock_guard alone(awayMutex_);
+    return std::exchange(away_, call);
+  }
+
  private:
+  bool isGuest() noexcept {
+    const GUID call = currentCall();
+    const std::lock_guard alone(awayMutex_);
+    return away_ != GUID_NULL && call == away_;
+  }
+
   CRITICAL_SECTION inside_;
   HANDLE left_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);  // wakes one, each time
   std::atomic<int> waiting_ = 0;
+  std::mutex awayMutex_;
+  GUID away_ = GUID_NULL;
 };
 
 Door door;
 
 }  // namespace
 
-Turn::Turn() noexcept { door.enter(); }
-Turn::~Turn() { door.leave(); }
+Turn::Turn() noexcept : mine_(door.enter()) {}
+Turn::~Turn() {
+  if (mine_) door.leave();
+}
+
+CallingOut::CallingOut() noexcept : before_(door.setAway(currentCall())) {}
+CallingOut::~CallingOut() { door.setAway(before_); }
 
 ZvThermoInt& engine() noexcept { return *theEngine; }
 

@@ -62,6 +62,22 @@ class Turn {
   ~Turn();
   Turn(const Turn&) = delete;
   Turn& operator=(const Turn&) = delete;
+
+ private:
+  bool mine_;
+};
+
+/// While it lives, the caller whose turn it is has a call out to a client's object, perhaps in
+/// another apartment: what comes back from there belongs to the same turn.
+class CallingOut {
+ public:
+  CallingOut() noexcept;
+  ~CallingOut();
+  CallingOut(const CallingOut&) = delete;
+  CallingOut& operator=(const CallingOut&) = delete;
+
+ private:
+  GUID before_;
 };
 
 /// Leaves a description of the failure for clients that ask for one, and answers the result.

@@ -4,6 +4,7 @@
 #include <array>
 #include <string>
 
+#include "server/windows/boundary.h"
 #include "server/windows/variants.h"
 
 namespace calvex::com {
@@ -86,12 +87,41 @@ struct OutText {
   OutText& operator=(const OutText&) = delete;
 };
 
+/// An object that calls of every apartment reach: in its own one directly, in the others through a
+/// proxy, so that it is only ever called by the thread that it belongs to.
+class ForAllApartments {
+ public:
+  /// The calling thread's apartment is the object's.
+  explicit ForAllApartments(IDispatch& object) {
+    if (SUCCEEDED(CoCreateInstance(CLSID_StdGlobalInterfaceTable, nullptr, CLSCTX_INPROC_SERVER,
+                                   IID_IGlobalInterfaceTable, reinterpret_cast<void**>(&table_)))) {
+      table_->RegisterInterfaceInGlobal(&object, IID_IDispatch, &cookie_);
+    }
+  }
+  ~ForAllApartments() {
+    if (table_ == nullptr) return;
+    if (cookie_ != 0) table_->RevokeInterfaceFromGlobal(cookie_);
+    table_->Release();
+  }
+  ForAllApartments(const ForAllApartments&) = delete;
+  ForAllApartments& operator=(const ForAllApartments&) = delete;
+
+  /// For the calling thread, who releases it; null when the object cannot be reached.
+  [[nodiscard]] IDispatch* get() const {
+    void* object = nullptr;
+    const bool found =
+        cookie_ != 0 && SUCCEEDED(table_->GetInterfaceFromGlobal(cookie_, IID_IDispatch, &object));
+    return found ? static_cast<IDispatch*>(object) : nullptr;
+  }
+
+ private:
+  IGlobalInterfaceTable* table_ = nullptr;
+  DWORD cookie_ = 0;
+};
+
 class AutomationUnitsServer final : public UnitsServer {
  public:
   explicit AutomationUnitsServer(IDispatch& object) : object_(object) {}
-  ~AutomationUnitsServer() override { object_.Release(); }
-  AutomationUnitsServer(const AutomationUnitsServer&) = delete;
-  AutomationUnitsServer& operator=(const AutomationUnitsServer&) = delete;
 
   /// What has to be called before anything else.
   bool setUp() {
@@ -130,11 +160,14 @@ class AutomationUnitsServer final : public UnitsServer {
   }
   std::string errorText(short status) override {
     OutText answer;
-    const bool known = call(statusText, status, &answer.text);
-    return known && answer.text != nullptr
-               ? toText(answer.text)
-               : "The units server refused, and gave no reason (status " + std::to_string(status) +
-                     ").";
+    if (call(statusText, status, &answer.text) && answer.text != nullptr) {
+      return toText(answer.text);
+    }
+    if (!reached_) {
+      return "The units server cannot be reached: the thread that chose it has ended. Choose it "
+             "again (AppLevel 2, then 1).";
+    }
+    return "The units server refused, and gave no reason (status " + std::to_string(status) + ").";
   }
 
  private:
@@ -148,8 +181,17 @@ class AutomationUnitsServer final : public UnitsServer {
     DISPPARAMS parameters{backwards.data(), nullptr, static_cast<UINT>(backwards.size()), 0};
     VARIANT answer;
     VariantInit(&answer);
-    const HRESULT result = object_.Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD,
-                                          &parameters, &answer, nullptr, nullptr);
+    IDispatch* const object = object_.get();
+    reached_ = object != nullptr;
+    if (!reached_) return false;
+    const HRESULT result = [&] {
+      const CallingOut away;
+      return object->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD, &parameters,
+                            &answer, nullptr, nullptr);
+    }();
+    object->Release();
+    reached_ = HRESULT_FACILITY(result) != FACILITY_RPC && result != CO_E_OBJNOTCONNECTED &&
+               result != HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE);
     const bool succeeded = SUCCEEDED(result) &&
                            SUCCEEDED(VariantChangeType(&answer, &answer, 0, VT_BOOL)) &&
                            answer.boolVal != VARIANT_FALSE;
@@ -157,7 +199,8 @@ class AutomationUnitsServer final : public UnitsServer {
     return succeeded;
   }
 
-  IDispatch& object_;
+  ForAllApartments object_;
+  bool reached_ = true;  ///< by the last call
 };
 
 }  // namespace
@@ -171,6 +214,7 @@ std::unique_ptr<UnitsServer> connectUnitsServer() {
     return nullptr;
   }
   auto server = std::make_unique<AutomationUnitsServer>(*object);
+  object->Release();
   if (!server->setUp()) return nullptr;
   return server;
 }

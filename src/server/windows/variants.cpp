@@ -2,17 +2,30 @@
 
 #include <dispex.h>
 
-#include <algorithm>
+#include <array>
 #include <memory>
 #include <new>
 
 #include "server/windows/boundary.h"
+#include "units/utf16.h"
 
 namespace calvex::com {
 
 namespace {
 
-constexpr UINT windows1252 = 1252;
+/// Answers what `use` makes of the text in UTF-16. Short ones, nearly all, need no memory for it.
+template <class Use>
+auto withUtf16(std::string_view text, Use&& use) {
+  std::array<wchar_t, 64> units;
+  bool ascii = text.size() <= units.size();
+  for (std::size_t i = 0; ascii && i < text.size(); ++i) {
+    units[i] = static_cast<unsigned char>(text[i]);
+    ascii = units[i] < 0x80;
+  }
+  if (ascii) return use(units.data(), static_cast<UINT>(text.size()));
+  const std::wstring wide = utf16Of<wchar_t>(text);
+  return use(wide.data(), static_cast<UINT>(wide.size()));
+}
 
 /// A variant that frees what it holds.
 struct Variant : VARIANT {
@@ -147,40 +160,32 @@ HRESULT giveObject(IDispatch& object, Variant& content) {
 
 }  // namespace
 
-// Nearly all texts are ASCII, which needs no table of the system's.
+// Nearly all texts are ASCII, and these two lie in the path of every call that has one.
 std::string toText(BSTR text) {
   const std::wstring_view wide(text, SysStringLen(text));
   std::string bytes(wide.size(), '\0');
-  if (std::all_of(wide.begin(), wide.end(), [](wchar_t c) { return c < 0x80; })) {
-    std::transform(wide.begin(), wide.end(), bytes.begin(),
-                   [](wchar_t c) { return static_cast<char>(c); });
-    return bytes;
+  unsigned bits = 0;
+  for (std::size_t i = 0; i < wide.size(); ++i) {
+    bits |= wide[i];
+    bytes[i] = static_cast<char>(wide[i]);
   }
-  const int length = static_cast<int>(wide.size());
-  // At most a byte a character; no look-alikes, which could turn one unit's name into another.
-  const int written = WideCharToMultiByte(windows1252, WC_NO_BEST_FIT_CHARS, text, length,
-                                          bytes.data(), length, "?", nullptr);
-  bytes.resize(static_cast<std::size_t>(written));
-  return bytes;
+  if (bits < 0x80) return bytes;
+  return utf8Of(wide);
 }
 
 BSTR toBstr(std::string_view text) {
-  const int length = static_cast<int>(text.size());
-  const BSTR wide = SysAllocStringLen(nullptr, static_cast<UINT>(length));
-  if (wide == nullptr) throw std::bad_alloc();
-  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-  if (std::all_of(text.begin(), text.end(), isAscii)) {
-    std::copy(text.begin(), text.end(), wide);
-  } else {
-    MultiByteToWideChar(windows1252, 0, text.data(), length, wide, length);
-  }
-  return wide;
+  return withUtf16(text, [](const wchar_t* wide, UINT size) {
+    const BSTR made = SysAllocStringLen(wide, size);
+    if (made == nullptr) throw std::bad_alloc();
+    return made;
+  });
 }
 
+// In place where it fits, which costs half of a new one.
 void replace(BSTR& target, std::string_view text) {
-  const BSTR content = toBstr(text);
-  SysFreeString(target);
-  target = content;
+  withUtf16(text, [&](const wchar_t* wide, UINT size) {
+    if (SysReAllocStringLen(&target, wide, size) == FALSE) throw std::bad_alloc();
+  });
 }
 
 void replace(VARIANT& target, const ResultArray& rows) {

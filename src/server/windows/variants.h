@@ -10,8 +10,8 @@
 
 namespace calvex::com {
 
-/// Texts are Windows-1252 inside. What has no place there becomes a question mark; an absent BSTR
-/// is an empty text.
+/// Texts are UTF-8 inside, and what a client gave comes back unharmed (units/utf16.h). An absent
+/// BSTR is an empty text.
 [[nodiscard]] std::string toText(BSTR text);
 /// Throws std::bad_alloc.
 [[nodiscard]] BSTR toBstr(std::string_view text);

@@ -7,17 +7,24 @@
 #include <exception>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/dialogs.h"
 
 namespace calvex {
 
-/// The engine's texts are Windows-1252 bytes, those of windows UTF-16. What has no such byte
-/// becomes a question mark.
+/// A text of the engine's as windows show it. They take it for ended at a null character, which is
+/// therefore shown by its symbol.
 [[nodiscard]] std::wstring toWide(std::string_view text);
-[[nodiscard]] std::string fromWide(std::wstring_view text);
 
-/// A modal dialog made from a resource.
+/// The part of a dialog's growth by which each edge of a control moves: 0 stays where it is, 1 goes
+/// with the right or lower edge of the dialog.
+struct Growth {
+  double left, top, right, bottom;
+};
+
+/// A modal dialog made from a resource. It opens centred on its owner, and can be made larger than
+/// its template but not smaller.
 class ModalDialog {
  public:
   ModalDialog(const ModalDialog&) = delete;
@@ -32,6 +39,9 @@ class ModalDialog {
   DialogResult show();
 
   virtual void opened() = 0;
+  /// Of a control by its number; a label without one goes with the control behind it.
+  [[nodiscard]] virtual Growth growth(int control) const = 0;
+  virtual void resized() {}
   /// A control or key asks for something: the number of the control and its notification.
   virtual void command(int control, int notification) = 0;
   virtual void notified(const NMHDR&) {}
@@ -56,10 +66,22 @@ class ModalDialog {
  private:
   static INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM first, LPARAM second);
   bool handle(UINT message, WPARAM first, LPARAM second);
+  void rememberPlaces();
+  void arrange(LONG width, LONG height);
+  void centre() const;
+
+  struct Place {
+    HWND control;
+    RECT first;  ///< as the template has it
+    Growth growth;
+  };
 
   HINSTANCE module_;
   int resource_;
   HWND window_ = nullptr;
+  SIZE smallest_{};  ///< of the window
+  SIZE first_{};     ///< of what is inside
+  std::vector<Place> places_;
   std::exception_ptr error_;
 };
 

@@ -62,6 +62,20 @@ void TraceDialog::opened() {
   fitColumns();
 }
 
+// The list and the tree share what is added.
+Growth TraceDialog::growth(int control) const {
+  switch (control) {
+    case CALVEX_TRACE_LIST:
+      return {0, 0, 1, 0.5};
+    case CALVEX_TRACE_TREE:
+      return {0, 0.5, 1, 1};
+    case CALVEX_TRACE_LEVEL:
+      return {0, 1, 0, 1};
+    default:
+      return {1, 1, 1, 1};
+  }
+}
+
 void TraceDialog::addImages() {
   const int width = GetSystemMetrics(SM_CXSMICON), height = GetSystemMetrics(SM_CYSMICON);
   images_.reset(ImageList_Create(width, height, ILC_COLOR32 | ILC_MASK, 5, 0));

@@ -21,6 +21,8 @@ class TraceDialog final : public ModalDialog {
 
  private:
   void opened() override;
+  [[nodiscard]] Growth growth(int control) const override;
+  void resized() override { fitColumns(); }
   void command(int control, int notification) override;
   void notified(const NMHDR& notification) override;
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "ui/resource_ids.h"
+#include "units/utf16.h"
 
 namespace calvex {
 
@@ -59,6 +60,29 @@ void UnitDialog::opened() {
   EnableWindow(control(CALVEX_HELP), client_.helpFile.empty() ? FALSE : TRUE);
 }
 
+// Two columns of lists, which become wider and stand further apart, above a row of the rest.
+Growth UnitDialog::growth(int number) const {
+  switch (number) {
+    case IDOK:
+    case IDCANCEL:
+    case CALVEX_HELP:
+      return {1, 1, 1, 1};
+    case CALVEX_ATMOSPHERIC_PRESSURE:
+    case CALVEX_ATMOSPHERIC_UNIT:
+      return {0, 1, 0, 1};
+    default:
+      break;
+  }
+  RECT inside{};
+  GetClientRect(window(), &inside);
+  POINT corner{};
+  ClientToScreen(control(number), &corner);
+  ScreenToClient(window(), &corner);
+  const double column = 2 * corner.x < inside.right ? 0 : 0.5;
+  const double row = static_cast<double>(corner.y) / static_cast<double>(inside.bottom);
+  return {column, row, column + 0.5, row};
+}
+
 void UnitDialog::command(int control, int) {
   switch (control) {
     case IDOK:
@@ -81,7 +105,7 @@ void UnitDialog::accept() {
   pressure.resize(static_cast<std::size_t>(
       GetWindowTextW(field, pressure.data(), static_cast<int>(pressure.size()))));
 
-  if (selection_.accept(choices, fromWide(pressure))) return close(DialogResult::ok);
+  if (selection_.accept(choices, utf8Of<wchar_t>(pressure))) return close(DialogResult::ok);
   warn(L"\"" + pressure +
        L"\" is not a number.\n\nEnter the atmospheric pressure as a number of bar with a decimal "
        L"point, such as 1.01325.");

@@ -14,6 +14,7 @@ class UnitDialog final : public ModalDialog {
 
  private:
   void opened() override;
+  [[nodiscard]] Growth growth(int control) const override;
   void command(int control, int notification) override;
   void helpRequested() override;
 

@@ -131,10 +131,19 @@ TEST(RunCommand, TextsAreQuotedAndInUtf8) {
   EXPECT_EQ(lines[5], "{\"member\":\"AppName\",\"hresult\":0,\"value\":\"\\\"\u20AC\\u000a\"}");
 }
 
+TEST(RunCommand, TheClientsTextsPassUnharmedInAnyScript) {
+  const Lines lines = jsonOf(
+      "SetupExcelTracing\nSetCellRef Łódź.xlsx Котельная 锅炉\nGetCellRef\n"
+      "AddExternalError Насос \"🔥 is dry\"\nLastError\n");
+  ASSERT_EQ(lines.size(), 5U);
+  EXPECT_TRUE(contains(lines[2], "\"'[Łódź.xlsx]Котельная'!锅炉\"")) << lines[2];
+  EXPECT_TRUE(contains(lines[4], "\"🔥 is dry\"")) << lines[4];
+}
+
 TEST(RunCommand, ALineThatCannotBeRunIsAnErrorAndTheNextOneRuns) {
   const Lines lines = jsonOf(
       "HPT 10\nHPT 10 nan\nHTP 10 773.15\nHPT 10 inf\nSatPolish 0.5\n"
-      "AppName \"\u6C34\"\nreset now\nSatPolish\n");
+      "AppName \"\xFF\"\nreset now\nSatPolish\n");
   ASSERT_EQ(lines.size(), 8U);
   EXPECT_EQ(lines[0],
             R"({"error":"HPT takes 2 arguments: P (Pressure, MPa), T (Temperature, K), but 1 was )"
@@ -143,7 +152,7 @@ TEST(RunCommand, ALineThatCannotBeRunIsAnErrorAndTheNextOneRuns) {
   EXPECT_TRUE(contains(lines[2], "did you mean HPT")) << lines[2];
   EXPECT_TRUE(contains(lines[3], "'inf' is not a finite number")) << lines[3];
   EXPECT_TRUE(contains(lines[4], "'0.5' is not a whole number")) << lines[4];
-  EXPECT_TRUE(contains(lines[5], "Windows-1252")) << lines[5];
+  EXPECT_TRUE(contains(lines[5], "is not UTF-8")) << lines[5];
   EXPECT_TRUE(contains(lines[6], "reset takes no arguments")) << lines[6];
   EXPECT_EQ(lines[7], R"({"member":"SatPolish","hresult":0,"value":2})");
 }

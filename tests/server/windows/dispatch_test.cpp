@@ -272,12 +272,6 @@ TEST_F(Dispatch, TakesNumbersForTexts) {
   EXPECT_EQ(name.ascii(), "42");
 }
 
-TEST_F(Dispatch, ShowsCharactersThatTheEngineLacksAsQuestionMarks) {
-  EXPECT_EQ(putProperty(*steam, L"AppName", L"\x0421\x20ac\x00e9").result, S_OK);
-  const LateCall call = getProperty(*steam, L"AppName");
-  EXPECT_EQ(std::wstring(call.value.bstrVal), L"?\x20ac\x00e9");
-}
-
 // Outputs ---------------------------------------------------------------------------------------
 
 TEST_F(Dispatch, WritesVariablesOfTheExactType) {

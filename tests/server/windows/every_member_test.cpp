@@ -239,7 +239,7 @@ class Sequence {
   /// The sequence's units; SetUserUnitIndex of all groups comes first.
   explicit Sequence(const std::vector<std::string>& unitNames) {
     for (std::size_t group = 0; group < unitNames.size(); ++group) {
-      EXPECT_TRUE(units_.setCatalogueUnit(static_cast<int>(group), windows1252(unitNames[group])));
+      EXPECT_TRUE(units_.setCatalogueUnit(static_cast<int>(group), unitNames[group]));
       call("SetUserUnitIndex", {std::to_string(group), unitNames[group]});
     }
   }
@@ -275,7 +275,7 @@ class Sequence {
         {"ReturnThermoUnits", {"0", "1"}},
         {"ReturnModelTokens", {"0", "1"}},
         {"AppLevel", {"4", "-1"}},
-        {"AppName", {"Cycle \xC2\xA7 7 \"a\\b\"", "", "ZvCalvex"}},
+        {"AppName", {"Cycle § 7 \"a\\b\"", "Łódź, 锅炉 🔥", "", "ZvCalvex"}},
         {"AppHelpFile", {"plant.chm", ""}},
         {"UomHelpContext", {"-7", "2147483647"}}};
     for (const auto& [name, list] : values) {
@@ -296,15 +296,15 @@ class Sequence {
   void diagnostics() {
     call("GetCustomTraceText", {"0"});
     call("SetCustomTraceText", {"0", "x"});
-    call("AddCustomTraceTitle", {"Case \xC2\xB5"});
-    call("SetCustomTraceText", {"0", "caf\xC3\xA9"});
+    call("AddCustomTraceTitle", {"Case µ Ł"});
+    call("SetCustomTraceText", {"0", "café Котельная.xlsx"});
     call("GetCustomTraceText", {"0"});
     call("GetCellRef");
     call("SetCellRef", {"Book", "Sheet", "A1"});
     call("SetupExcelTracing");
     call("SetCellRef", {"Book1.xls", "Sheet1", "A1"});
     call("GetCellRef");
-    call("AddExternalError", {"Pump", "\xC2\xB5 is dry."});
+    call("AddExternalError", {"Pump", "µ Насос 🔥 is dry."});
     get("LastError");
     call("GetAlarms");
     call("ClearTraceInfo");
@@ -319,7 +319,7 @@ class Sequence {
     call("SetUserUnit", {"P", "furlong"});
     call("SetUserUnitIndex", {"1", "K"});
     call("SetUserUnitIndex", {"99", "K"});
-    call("Convert", {"P", "psig", "N/m\xC2\xB2", "1.5"});
+    call("Convert", {"P", "psig", "N/m²", "1.5"});
     call("Convert", {"P", "psig", "C", "1.5"});
     call("Convert", {"none such", "psig", "C", "1.5"});
     call("SetCustomUserUnitIndex", {"27", "x", "1", "0"});

@@ -213,6 +213,35 @@ TEST_F(Registration, ForTheUserAloneWritesTheSameForTheUser) {
   expectNothing();
 }
 
+// The system merges the user's classes and the machine's into HKEY_CLASSES_ROOT, the user's on top
+// (Windows SDK, "HKEY_CLASSES_ROOT Key"). Wine 8 does not: here the user's keys are put where they
+// appear in that view, and nothing else is there.
+TEST_F(Registration, ForTheUserAloneIsAllThatAnObjectNeeds) {
+  ASSERT_EQ(install(TRUE, L"user"), S_OK);
+  const std::wstring classes = L"Software\\Classes\\";
+  for (const std::wstring key : {L"Calvex32.ZvCalvex.3", L"Calvex32.ZvCalvex",
+                                 L"CLSID\\{4A623F37-F2B3-4A12-9359-F66186EBF6C4}"}) {
+    HKEY merged = nullptr;
+    ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, (classes + key).c_str(), 0, nullptr, 0, KEY_WRITE,
+                              nullptr, &merged, nullptr),
+              ERROR_SUCCESS);
+    EXPECT_EQ(RegCopyTreeW(HKEY_CURRENT_USER, (classes + key).c_str(), merged), ERROR_SUCCESS);
+    RegCloseKey(merged);
+    EXPECT_EQ(RegDeleteTreeW(HKEY_CURRENT_USER, (classes + key).c_str()), ERROR_SUCCESS);
+  }
+  expectClass(L"hklm");
+  for (const wchar_t* const program : {programId, L"Calvex32.ZvCalvex"}) {
+    Ref<IZvCalvex> object;
+    ASSERT_EQ(CoCreateInstance(classOf(program), nullptr, CLSCTX_INPROC_SERVER, __uuidof(IZvCalvex),
+                               object.putVoid()),
+              S_OK)
+        << narrow(program);
+    double t = 0.0;
+    EXPECT_EQ(object->CritT(&t), S_OK);
+    EXPECT_EQ(t, 647.126);
+  }
+}
+
 TEST_F(Registration, OfTheUserGoesToo) {
   EXPECT_EQ(install(TRUE, L"user"), S_OK);
   EXPECT_EQ(registerServer(), S_OK);

@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <vector>
-
-#include "ui/windows/dialog_user.h"
 
 namespace calvex::test {
 
@@ -72,6 +71,61 @@ void expectEverythingFits(HWND dialog) {
     for (int entry = 0; entry < count; ++entry) {
       expectFit(control, entryOf(control, entry), GetSystemMetrics(SM_CXVSCROLL) + 5, height);
     }
+  }
+}
+
+RECT placeOf(HWND control) {
+  RECT place = screenRectangle(control);
+  MapWindowPoints(nullptr, GetParent(control), reinterpret_cast<POINT*>(&place), 2);
+  return place;
+}
+
+void enlarge(HWND dialog, int width, int height) {
+  const RECT place = screenRectangle(dialog);
+  SetWindowPos(dialog, nullptr, 0, 0, place.right - place.left + width,
+               place.bottom - place.top + height, SWP_NOMOVE | SWP_NOZORDER);
+}
+
+void expectResizable(HWND dialog) {
+  EXPECT_NE(GetWindowLongPtrW(dialog, GWL_STYLE) & WS_THICKFRAME, 0);
+  const RECT before = screenRectangle(dialog);
+  enlarge(dialog, -100, -100);
+  const RECT after = screenRectangle(dialog);
+  EXPECT_TRUE(EqualRect(&before, &after));
+}
+
+void expectCentred(const std::function<void(DialogUser::Turn)>& show) {
+  RECT work{};
+  SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+  const auto middle = [](LONG from, LONG to) { return (from + to) / 2; };
+  const auto expectAt = [&](POINT expected) {
+    show([&](HWND dialog) {
+      const RECT place = screenRectangle(dialog);
+      // Where the middle would take it beyond the work area, it is moved as little as need be.
+      const LONG halfWidth = (place.right - place.left) / 2;
+      const LONG halfHeight = (place.bottom - place.top) / 2;
+      const LONG x = std::clamp(expected.x, work.left + halfWidth, work.right - halfWidth);
+      const LONG y = std::clamp(expected.y, work.top + halfHeight, work.bottom - halfHeight);
+      EXPECT_NEAR(middle(place.left, place.right), x, 1);
+      EXPECT_NEAR(middle(place.top, place.bottom), y, 1);
+    });
+  };
+  const POINT screen{middle(work.left, work.right), middle(work.top, work.bottom)};
+  expectAt(screen);
+  struct Owner {
+    int x, y;
+    bool minimised;
+  };
+  for (const auto& [x, y, minimised] :
+       {Owner{330, 250, false}, Owner{-100, -50, false},
+        Owner{work.right - 60, work.bottom - 60, false}, Owner{100, 50, true}}) {
+    const HWND owner = CreateWindowExW(0, L"Static", L"Owner", WS_OVERLAPPEDWINDOW, x, y, 300, 200,
+                                       nullptr, nullptr, nullptr, nullptr);
+    ShowWindow(owner, minimised ? SW_SHOWMINIMIZED : SW_SHOW);
+    SetActiveWindow(owner);
+    EXPECT_EQ(GetActiveWindow(), owner);
+    expectAt(minimised ? screen : POINT{x + 150, y + 100});
+    DestroyWindow(owner);
   }
 }
 

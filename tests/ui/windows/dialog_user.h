@@ -97,6 +97,12 @@ inline void click(HWND dialog, int button) { SendDlgItemMessageW(dialog, button,
 /// Queues a key for the window that has the focus; it acts after the turn.
 inline void press(int key) { PostMessageW(GetFocus(), WM_KEYDOWN, static_cast<WPARAM>(key), 0); }
 
+/// A letter with the Alt key, at once.
+inline void pressWithAlt(HWND dialog, wchar_t letter) {
+  MSG message{GetFocus(), WM_SYSCHAR, letter, 1 << 29, 0, {}};
+  IsDialogMessageW(dialog, &message);
+}
+
 /// The direct children in the order of the Tab key, labels included.
 inline std::vector<HWND> controlsOf(HWND dialog) {
   std::vector<HWND> controls;

@@ -302,6 +302,71 @@ TEST_F(TraceDialog, ColumnsHaveTheirTitlesAndSharesOfTheWidth) {
   }});
 }
 
+TEST_F(TraceDialog, ShowsTheClientsTextsInAnyScript) {
+  engine_.SetupExcelTracing();
+  const std::pair<const char*, const wchar_t*> texts[] = {
+      {"Łódź.xlsx", L"Łódź.xlsx"},           {"Котельная.xlsx", L"Котельная.xlsx"},
+      {"锅炉.xlsx", L"锅炉.xlsx"},           {"🔥.xlsx", L"🔥.xlsx"},
+      {"\xED\xA0\xBD.xlsx", L"\xD83D.xlsx"},  // half a surrogate pair
+  };
+  Texts expected;
+  std::wstring last;
+  for (const auto& [text, shown] : texts) {
+    engine_.SetCellRef(text, text, "B1");
+    EXPECT_EQ(engine_.AddExternalError(text, text), 1);
+    expected.emplace_back(shown);
+  }
+  engine_.SetCellRef(std::string("a\0b", 3), "", "");
+  EXPECT_EQ(engine_.AddExternalError("Насос", std::string(200, 'x') + "й"), 1);
+  show({[&](HWND dialog) {
+    expected.emplace_back(L"Насос");
+    EXPECT_EQ(column(dialog, 0), expected);
+    expected.back() = L"a\u2400b";
+    EXPECT_EQ(column(dialog, 1), expected);
+    EXPECT_EQ(outlineOf(dialog), L"4 Łódź.xlsx +\n  4 Łódź.xlsx\n");
+    selectRow(dialog, 3);
+    EXPECT_EQ(outlineOf(dialog), L"4 🔥.xlsx +\n  4 🔥.xlsx\n");
+    selectRow(dialog, 5);
+    EXPECT_EQ(outlineOf(dialog), L"4 Насос +\n  4 " + std::wstring(200, L'x') + L"й\n");
+  }});
+}
+
+TEST_F(TraceDialog, OpensAtTheMiddleOfItsOwner) {
+  test::expectCentred([this](DialogUser::Turn turn) { show({std::move(turn)}); });
+}
+
+TEST_F(TraceDialog, GrowsWithItsControlsAndDoesNotShrink) {
+  engine_.SetupExcelTracing();
+  show({[](HWND dialog) {
+    test::expectResizable(dialog);
+    const RECT list = test::placeOf(listOf(dialog));
+    const RECT tree = test::placeOf(GetDlgItem(dialog, CALVEX_TRACE_TREE));
+    const RECT close = test::placeOf(GetDlgItem(dialog, IDOK));
+    const RECT level = test::placeOf(GetDlgItem(dialog, CALVEX_TRACE_LEVEL));
+    test::enlarge(dialog, 200, 100);
+    const RECT largerTree = test::placeOf(GetDlgItem(dialog, CALVEX_TRACE_TREE));
+    EXPECT_EQ(test::placeOf(listOf(dialog)).bottom, list.bottom + 50);
+    EXPECT_EQ(test::placeOf(listOf(dialog)).right, list.right + 200);
+    EXPECT_EQ(largerTree.top, tree.top + 50);
+    EXPECT_EQ(largerTree.bottom, tree.bottom + 100);
+    EXPECT_EQ(largerTree.right, tree.right + 200);
+    EXPECT_EQ(test::placeOf(GetDlgItem(dialog, IDOK)).left, close.left + 200);
+    EXPECT_EQ(test::placeOf(GetDlgItem(dialog, CALVEX_TRACE_LEVEL)).left, level.left);
+    EXPECT_EQ(test::placeOf(GetDlgItem(dialog, CALVEX_TRACE_LEVEL)).top, level.top + 100);
+    RECT client{};
+    GetClientRect(listOf(dialog), &client);
+    EXPECT_EQ(SendMessageW(listOf(dialog), LVM_GETCOLUMNWIDTH, 0, 0), client.right / 2);
+    test::expectEverythingFits(dialog);
+  }});
+}
+
+TEST_F(TraceDialog, TheLetterOfTheLevelLeadsToIt) {
+  show({[](HWND dialog) {
+    test::pressWithAlt(dialog, L'l');
+    EXPECT_EQ(GetFocus(), GetDlgItem(dialog, CALVEX_TRACE_LEVEL));
+  }});
+}
+
 TEST_F(TraceDialog, AnEmptyRecordShowsNothingAndOffersNothing) {
   EXPECT_EQ(show({[](HWND dialog) {
               EXPECT_EQ(test::textOf(dialog), L"Diagnostic Information");

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <cwctype>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -118,26 +120,26 @@ TEST_F(UnitDialog, NoNumberKeepsItOpenWithTheChoicesApplied) {
 
 TEST_F(UnitDialog, ControlsComeInTabOrderWithTheirLabels) {
   const std::vector<std::pair<std::wstring, int>> expected = {
-      {L"Pressure", 1001},
-      {L"Temperature", 1000},
-      {L"Mass Specific Enthalpy", 1002},
-      {L"Mass Specific Entropy", 1003},
-      {L"Internal Energy", 1013},
-      {L"Quality", 1004},
-      {L"Specific Density", 1008},
-      {L"Specific Volume", 1007},
-      {L"Helmholtz Free Energy", 1018},
-      {L"Gibbs Free Energy", 1019},
-      {L"Dynamic Viscosity", 1010},
-      {L"Specific Heat Capacity", 1005},
-      {L"Thermal Conductivity", 1006},
-      {L"Thermal Exp. Coeff.", 1011},
-      {L"Isothermal Comp.", 1012},
-      {L"Surface Tension", 1014},
-      {L"Velocity", 1015},
-      {L"J.T. Coeff.", 1016},
-      {L"Iso. J.T. Coeff.", 1017},
-      {L"Molecular Weight", 1009},
+      {L"&Pressure", 1001},
+      {L"&Temperature", 1000},
+      {L"Mass Specific &Enthalpy", 1002},
+      {L"Mass Specific E&ntropy", 1003},
+      {L"&Internal Energy", 1013},
+      {L"&Quality", 1004},
+      {L"Specific &Density", 1008},
+      {L"Specific &Volume", 1007},
+      {L"Helmholtz &Free Energy", 1018},
+      {L"&Gibbs Free Energy", 1019},
+      {L"D&ynamic Viscosity", 1010},
+      {L"Specific Heat &Capacity", 1005},
+      {L"Thermal Cond&uctivity", 1006},
+      {L"Thermal E&xp. Coeff.", 1011},
+      {L"Isothermal Co&mp.", 1012},
+      {L"&Surface Tension", 1014},
+      {L"Ve&locity", 1015},
+      {L"&J.T. Coeff.", 1016},
+      {L"Is&o. J.T. Coeff.", 1017},
+      {L"Molecular &Weight", 1009},
   };
   show({[&](HWND dialog) {
     EXPECT_EQ(test::textOf(dialog), L"Select Units of Measure");
@@ -148,7 +150,7 @@ TEST_F(UnitDialog, ControlsComeInTabOrderWithTheirLabels) {
       EXPECT_EQ(test::textOf(controls[2 * i]), expected[i].first);
       EXPECT_EQ(GetDlgCtrlID(controls[2 * i + 1]), expected[i].second);
     }
-    const wchar_t* const texts[] = {L"OK",      L"Cancel", L"&Help", L"Atmospheric Pressure",
+    const wchar_t* const texts[] = {L"OK",      L"Cancel", L"&Help", L"&Atmospheric Pressure",
                                     L"1.01325", L"Bara"};
     for (std::size_t i = 0; i < 6; ++i) EXPECT_EQ(test::textOf(controls[40 + i]), texts[i]);
     EXPECT_EQ(GetDlgCtrlID(controls[40]), 1);
@@ -170,7 +172,7 @@ TEST_F(UnitDialog, IsAsLargeAsItsTemplate) {
 }
 
 TEST_F(UnitDialog, AListShowsItsUnitsAsTextAndTheCurrentOneChosen) {
-  ASSERT_TRUE(units_.setCatalogueUnit(2, "kg/m\xB3"));
+  ASSERT_TRUE(units_.setCatalogueUnit(2, "kg/m³"));
   show({[](HWND dialog) {
     EXPECT_EQ(test::textOf(dialog, 1008), L"kg/m\u00B3");
     const HWND list = GetDlgItem(dialog, temperatureList);
@@ -180,6 +182,52 @@ TEST_F(UnitDialog, AListShowsItsUnitsAsTextAndTheCurrentOneChosen) {
     }
     EXPECT_EQ(entries, (std::vector<std::wstring>{L"C", L"F", L"K", L"R"}));
     EXPECT_EQ(test::textOf(list), L"K");
+  }});
+}
+
+TEST_F(UnitDialog, EveryListIsReachedByALetterOfItsOwn) {
+  show({[](HWND dialog) {
+    std::set<wchar_t> letters;
+    const std::vector<HWND> controls = test::controlsOf(dialog);
+    for (std::size_t i = 0; i + 1 < controls.size(); ++i) {
+      const std::wstring label = test::textOf(controls[i]);
+      const auto mark = label.find(L'&');
+      if (mark == std::wstring::npos || label == L"&Help") continue;
+      const wchar_t letter = static_cast<wchar_t>(std::towlower(label.at(mark + 1)));
+      EXPECT_TRUE(letters.insert(letter).second) << testing::PrintToString(label);
+      SetFocus(GetDlgItem(dialog, IDOK));
+      test::pressWithAlt(dialog, letter);
+      EXPECT_EQ(GetFocus(), controls[i + 1]) << testing::PrintToString(label);
+    }
+    EXPECT_EQ(letters.size(), 21U);        // the lists and the atmospheric pressure
+    EXPECT_FALSE(letters.contains(L'h'));  // Help
+  }});
+}
+
+TEST_F(UnitDialog, OpensAtTheMiddleOfItsOwner) {
+  test::expectCentred([this](DialogUser::Turn turn) { show({std::move(turn)}); });
+}
+
+TEST_F(UnitDialog, GrowsWithItsControlsAndDoesNotShrink) {
+  show({[](HWND dialog) {
+    test::expectResizable(dialog);
+    const RECT list = test::placeOf(GetDlgItem(dialog, pressureList));
+    const RECT opposite = test::placeOf(GetDlgItem(dialog, 1010));
+    const RECT cancel = test::placeOf(GetDlgItem(dialog, IDCANCEL));
+    test::enlarge(dialog, 200, 100);
+    EXPECT_EQ(test::placeOf(GetDlgItem(dialog, pressureList)).right, list.right + 100);
+    EXPECT_EQ(test::placeOf(GetDlgItem(dialog, 1010)).right, opposite.right + 200);
+    EXPECT_EQ(test::placeOf(GetDlgItem(dialog, IDCANCEL)).right, cancel.right + 200);
+    EXPECT_EQ(test::placeOf(GetDlgItem(dialog, IDCANCEL)).bottom, cancel.bottom + 100);
+    test::expectEverythingFits(dialog);
+    // A list opens as far as before.
+    RECT open{};
+    SendDlgItemMessageW(dialog, pressureList, CB_GETDROPPEDCONTROLRECT, 0,
+                        reinterpret_cast<LPARAM>(&open));
+    EXPECT_GT(open.bottom - open.top, 3 * (list.bottom - list.top));
+    EXPECT_EQ(test::placeOf(GetDlgItem(dialog, pressureList)).bottom -
+                  test::placeOf(GetDlgItem(dialog, pressureList)).top,
+              list.bottom - list.top);
   }});
 }
 
