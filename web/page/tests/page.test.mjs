@@ -61,6 +61,8 @@ for (const [name, [hash]] of Object.entries(views)) {
         { url, permissions: ['clipboard-read', 'clipboard-write'], ...ready(name) },
       );
       assert.ok(link.startsWith(url));
+      const parts = text => [...new URLSearchParams(text.split('?')[1])].sort();
+      assert.deepEqual(parts(link), parts(hash));
       await onPage(
         link.slice(url.length),
         async page => {
