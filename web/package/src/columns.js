@@ -1,6 +1,6 @@
 // Arrays: requests of the engine, laid out in its memory and run in blocks that stay in the
 // processor's cache.
-import { memoryNumbers, memoryView, wasm, withRoom } from './wasm.js';
+import { memoryNumbers, memoryView, reasonOf, wasm, withRoom } from './wasm.js';
 
 const blockRows = 4096;
 
@@ -116,7 +116,7 @@ export function keepFailed(engine, status, given, again) {
       try {
         again(then, point);
       } catch (failure) {
-        reasons[row] = failure.full;
+        reasons[row] = reasonOf(failure);
       }
     }
     return reasons;

@@ -20,6 +20,7 @@ const lost = new FinalizationRegistry(address => wasm.calvex_destroy(address));
 export class Engine {
   #address;
   #kept;
+  #unitNames = [];
   #reasons = () => [];
 
   constructor(units = {}) {
@@ -67,13 +68,17 @@ export class Engine {
   /** Units or settings may be others from now on. */
   changed() {
     this.#kept = undefined;
+    this.#unitNames = [];
   }
 
   // Units ------------------------------------------------------------------------------------------
 
   unit(quantity) {
     const group = groupNumber(quantity);
-    return textFrom((...room) => wasm.calvex_unit(this.address, group, ...room));
+    this.#unitNames[group] ??= textFrom((...room) =>
+      wasm.calvex_unit(this.address, group, ...room),
+    );
+    return this.#unitNames[group];
   }
 
   setUnit(quantity, unit) {

@@ -12,43 +12,9 @@ export { CalvexError } from './wasm.js';
 export let simd = false;
 
 // A function that splats a number over a vector: (func (drop (f64x2.splat (f64.const 0))))
-const vectors = Uint8Array.of(
-  0,
-  97,
-  115,
-  109,
-  1,
-  0,
-  0,
-  0,
-  1,
-  4,
-  1,
-  96,
-  0,
-  0,
-  3,
-  2,
-  1,
-  0,
-  10,
-  16,
-  1,
-  14,
-  0,
-  68,
-  0,
-  0,
-  0,
-  0,
-  0,
-  0,
-  0,
-  0,
-  253,
-  20,
-  26,
-  11,
+const vectors = Uint8Array.from(
+  '0 61 73 6d 1 0 0 0 1 4 1 60 0 0 3 2 1 0 a 10 1 e 0 44 0 0 0 0 0 0 0 0 fd 14 1a b'.split(' '),
+  byte => Number.parseInt(byte, 16),
 );
 
 async function unpacked(base64) {

@@ -1,6 +1,6 @@
 // States of water from any pair of properties.
 import { commonLength, inBlocks, isColumn, keepFailed, strideOf, write } from './columns.js';
-import { memoryView, wasm } from './wasm.js';
+import { memoryView, reasonOf, wasm } from './wasm.js';
 
 /** name: letter of the members' names, unit group, words. */
 export const properties = Object.freeze(
@@ -180,15 +180,33 @@ export class State {
   }
 
   all() {
+    const reason = this.#getAtOnce();
     return Object.values(properties).map(property => {
       const row = { ...property, unit: this.unit(property.name), value: NaN, reason: '' };
+      if (reason !== '' && !this.#values.has(property.name)) return { ...row, reason };
       try {
         row.value = this.get(property.name);
       } catch (failure) {
-        row.reason = failure.full;
+        row.reason = reasonOf(failure);
       }
       return row;
     });
+  }
+
+  /** All properties of a point from one solve. Of a mixture the reason that those of one phase have;
+   * of another point that lacks one, "": each has its own. */
+  #getAtOnce() {
+    const missing = Object.values(properties).filter(({ name }) => !this.#values.has(name));
+    if (!this.#scalar || missing.length === 0) return '';
+    try {
+      const letters = missing.map(({ letter }) => letter);
+      const { results } = solve(this.#engine, this.#pair, this.#given, letters);
+      missing.forEach(({ name }, i) => this.#keep(name, results[i]));
+    } catch (failure) {
+      const reason = reasonOf(failure);
+      if (this.phase === 'two-phase') return reason;
+    }
+    return '';
   }
 }
 

@@ -4,7 +4,9 @@
 /** The functions of the module; set by `start`. */
 export let wasm;
 
-let bytes, numbers;
+let bytes;
+let numbers;
+let view;
 const encoder = new TextEncoder();
 const decoder = new TextDecoder();
 
@@ -17,6 +19,7 @@ function look() {
   if (bytes?.buffer !== wasm.memory.buffer) {
     bytes = new Uint8Array(wasm.memory.buffer);
     numbers = new Float64Array(wasm.memory.buffer);
+    view = new DataView(wasm.memory.buffer);
   }
 }
 function memoryBytes() {
@@ -28,7 +31,8 @@ export function memoryNumbers() {
   return numbers;
 }
 export function memoryView() {
-  return new DataView(wasm.memory.buffer);
+  look();
+  return view;
 }
 
 /** A call that failed: `message` is the reason and, where there is one, the cause behind it. */
@@ -43,6 +47,12 @@ export class CalvexError extends Error {
     this.full = full;
     this.member = member;
   }
+}
+
+/** What a failed call has to tell; what else went wrong goes on. */
+export function reasonOf(failure) {
+  if (failure instanceof CalvexError) return failure.full;
+  throw failure;
 }
 
 const noFiles = () => 8; // "bad file number": there are none
