@@ -1,12 +1,11 @@
 // The page in a real Chromium, watched: what it says on its console, what it asks for and from whom.
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
-import { createReadStream, existsSync } from 'node:fs';
-import { createServer } from 'node:http';
-import { extname, join } from 'node:path';
+import { join } from 'node:path';
 import { after, before } from 'node:test';
 import { fileURLToPath, pathToFileURL } from 'node:url';
 import { chromium } from 'playwright-core';
+import { serve as serveFolder } from '../serve.mjs';
 
 export const site = fileURLToPath(new URL('../../../build/site/', import.meta.url));
 const program = fileURLToPath(new URL('../../../build/release/apps/calvex', import.meta.url));
@@ -36,21 +35,8 @@ before(async () => {
 });
 after(() => browser.close());
 
-const types = { '.html': 'text/html', '.js': 'text/javascript', '.css': 'text/css' };
-
 /** The folder on a port of its own. */
-export async function serve() {
-  const server = createServer((request, response) => {
-    const path = decodeURIComponent(new URL(request.url, 'http://x').pathname);
-    const file = join(site, path.endsWith('/') ? `${path}index.html` : path);
-    if (!file.startsWith(site) || !existsSync(file)) return response.writeHead(404).end();
-    const type = types[extname(file)] ?? 'application/octet-stream';
-    response.writeHead(200, { 'content-type': type });
-    return createReadStream(file).pipe(response);
-  });
-  await new Promise(done => server.listen(0, '127.0.0.1', done));
-  return { url: `http://127.0.0.1:${server.address().port}/`, server };
-}
+export const serve = () => serveFolder(site);
 
 /** Opens the page and runs a test on it; afterwards its console must be silent and all that it asked
  * for must be in its folder. */

@@ -1,10 +1,21 @@
 // Every model of the page: its results and its lines for other faces against the command line.
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
+import { existsSync } from 'node:fs';
+import { join } from 'node:path';
 import { test } from 'node:test';
 import { fileURLToPath } from 'node:url';
 import { load, members } from 'calvex/load';
-import { commandLine, near, onPage, shellLine, textOf, troubled, troubleOf } from './browser.mjs';
+import {
+  commandLine,
+  near,
+  onPage,
+  shellLine,
+  site,
+  textOf,
+  troubled,
+  troubleOf,
+} from './browser.mjs';
 
 await load();
 const models = members.filter(row => row.heading === 'equipment' && row.kind === 'function');
@@ -60,6 +71,8 @@ for (const choice of ['', units]) {
         for (const [name, value] of Object.entries(expected)) {
           near(results[name], value, 1e-9, `${row.name} ${name}`);
         }
+        const about = await page.getByRole('link', { name: `All about ${row.name}` });
+        assert.ok(existsSync(join(site, await about.getAttribute('href'))), row.name);
         const sketch = page.locator('svg.sketch');
         assert.ok((await sketch.getAttribute('aria-label')).length > 10, row.name);
       }

@@ -122,6 +122,9 @@ export function EquipmentView() {
         <section aria-labelledby="model-title">
           <h2 id="model-title">{capital(member.title)}</h2>
           {member.notes && <p class="quiet notes">{member.notes}</p>}
+          <a class="onward" href={`docs/members/${member.name}.html`}>
+            All about {member.name}
+          </a>
           {sketch && <SketchView sketch={sketch} streams={streams} title={capital(member.title)} />}
         </section>
         <section aria-labelledby="results-title">
