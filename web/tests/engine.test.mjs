@@ -303,7 +303,6 @@ test('texts go there and back unharmed', () => {
   for (const title of titles) steam.AddCustomTraceTitle(title);
   assert.deepEqual(steam.trace().columns, titles);
 });
-});
 
 test('units are converted and found by words', () => {
   near(convert('P', 100, 'psi', 'bar'), 6.89476751);
