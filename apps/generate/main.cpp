@@ -12,6 +12,8 @@ int main(int count, char** arguments) {
     std::cout << calvex::stringResources();
   } else if (what == "worksheet") {
     std::cout << calvex::worksheetFunctions();
+  } else if (what == "entries") {
+    std::cout << calvex::worksheetEntryPoints();
   } else if (what == "results") {
     std::cout << calvex::wrapperResults();
   } else if (what == "members") {
@@ -19,7 +21,7 @@ int main(int count, char** arguments) {
   } else if (what == "visits") {
     std::cout << calvex::wrapperVisits();
   } else {
-    std::cerr << "usage: generate interface|strings|worksheet|results|members|visits\n";
+    std::cerr << "usage: generate interface|strings|worksheet|entries|results|members|visits\n";
     return 2;
   }
 }
