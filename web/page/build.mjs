@@ -11,10 +11,11 @@ const here = import.meta.dirname;
 async function page() {
   mkdirSync(target, { recursive: true });
   // One classic script: a page from a file may load no modules.
-  await build({
+  const { metafile } = await build({
     entryPoints: { page: join(here, 'src/main.tsx') },
     outdir: target,
     bundle: true,
+    metafile: true,
     format: 'iife',
     target: 'es2022',
     minify: true,
@@ -24,6 +25,7 @@ async function page() {
     jsx: 'automatic',
     jsxImportSource: 'preact',
   });
+  writeFileSync(join(target, 'licences.txt'), licences(metafile));
   copyFileSync(join(here, 'index.html'), join(target, 'index.html'));
   copyFileSync(join(here, 'src/icon.svg'), join(target, 'icon.svg'));
   writeFileSync(
@@ -36,6 +38,26 @@ async function page() {
       icons: [{ src: 'icon.svg', sizes: 'any', type: 'image/svg+xml' }],
     }),
   );
+}
+
+/** The licences of the packages that are in the script, each text once with all whose it is. */
+function licences({ inputs }) {
+  const folders = new Set(
+    Object.keys(inputs).flatMap(
+      file => /^.*node_modules\/(?:@[^/]+\/)?[^/]+/.exec(file)?.[0] ?? [],
+    ),
+  );
+  const owners = new Map();
+  for (const folder of [...folders].sort()) {
+    const file = readdirSync(folder).find(name => /^licen[cs]e/i.test(name));
+    const { name, version } = JSON.parse(readFileSync(join(folder, 'package.json'), 'utf8'));
+    const text = readFileSync(join(folder, file), 'utf8').trim();
+    owners.set(text, [...(owners.get(text) ?? []), `${name} ${version}`]);
+  }
+  const ours = readFileSync(join(here, '../../LICENSE'), 'utf8').trim();
+  return [[ours, ['Calvex']], ...owners]
+    .map(([text, names]) => `${names.join(', ')}\n\n${text}\n`)
+    .join(`\n${'-'.repeat(72)}\n\n`);
 }
 
 /** The worker knows all files of the folder, and their contents by its version. */

@@ -12,7 +12,6 @@ const pictures = {
   'page-state': [`#state?P=100+bar&T=500&${units}`, 'aside .plot', desk],
   'page-diagram': [`#diagram/hs?P=100&T=500&${units}`, '.plot .dome', desk],
   'page-equipment': [`#equipment/TurbineA3?${units}`, 'aside .plot', desk],
-  'page-tables': [`#tables?${units}`, '.data', desk],
   'page-phone': [`#diagram/Ts?P=100&T=500&${units}`, '.plot .dome', phone],
 };
 

@@ -7,7 +7,7 @@ export function show(value: number, digits = 10): string {
   if (value === 0) return '0';
   const [mantissa = '', power = ''] = value.toExponential(digits - 1).split('e');
   const exponent = Number(power);
-  if (exponent < -5 || exponent >= digits) {
+  if (exponent < -4 || exponent >= digits) {
     const short = mantissa.includes('.') ? mantissa.replace(/\.?0+$/, '') : mantissa;
     return `${short}e${exponent}`;
   }

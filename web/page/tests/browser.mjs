@@ -77,6 +77,12 @@ export async function onPage(
   assert.deepEqual(complaints, []);
 }
 
+/** Another address of the same page, as if one had typed it. */
+export const lookAt = (page, hash) =>
+  page.evaluate(address => {
+    location.hash = address;
+  }, hash);
+
 /** The text of one that is there. */
 export const textOf = async (page, selector) =>
   (await page.locator(selector).first().textContent()).replace(/\s+/g, ' ').trim();

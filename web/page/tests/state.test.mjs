@@ -1,7 +1,7 @@
 // A state from what one types, against the command line; and what is wrong beside the field.
 import assert from 'node:assert/strict';
 import { test } from 'node:test';
-import { commandLine, near, onPage, textOf, troubled, troubleOf } from './browser.mjs';
+import { commandLine, lookAt, near, onPage, textOf, troubled, troubleOf } from './browser.mjs';
 
 const valuesOf = page =>
   page
@@ -42,13 +42,19 @@ const cases = [
 ];
 
 test('all properties of every pair are those of the command line', async () => {
-  for (const given of cases) {
-    const query = new URLSearchParams(given);
-    await onPage(`#state?${query}&${units}`, async page => {
+  await onPage(`#state?${units}`, async page => {
+    for (const given of cases) {
+      await lookAt(page, `#state?${new URLSearchParams(given)}&${units}`);
+      for (const [letter, text] of Object.entries(given)) {
+        await page.waitForFunction(
+          ([key, wanted]) => document.querySelector(`[data-key=${key}]`)?.value === wanted,
+          [letter, String(text)],
+        );
+      }
       const words = Object.entries(given).map(([letter, value]) => `${letter}=${value}`);
       sameState(await valuesOf(page), commandState(...words));
-    });
-  }
+    }
+  });
 });
 
 test('enthalpy and entropy tell the state that has them', async () => {
@@ -133,12 +139,7 @@ const bad = [
 test('a bad input is told beside its field, in one’s own units, and only there', async () => {
   await onPage(`#state?${units}`, async page => {
     for (const [given, fields, says] of bad) {
-      await page.evaluate(
-        hash => {
-          location.hash = hash;
-        },
-        `#state?${new URLSearchParams(given)}&${units}`,
-      );
+      await lookAt(page, `#state?${new URLSearchParams(given)}&${units}`);
       await page
         .waitForFunction(
           wanted =>

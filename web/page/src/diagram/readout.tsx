@@ -96,6 +96,11 @@ export function Readout({
       </h2>
       <table class="properties">
         <caption class="unseen">Properties of the state under the pointer</caption>
+        <colgroup>
+          <col class="words" />
+          <col />
+          <col class="units" />
+        </colgroup>
         <tbody>
           {Object.values(properties).map(({ name, words, group }) => (
             <tr key={name}>

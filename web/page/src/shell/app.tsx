@@ -100,7 +100,7 @@ export function App() {
       <footer>
         <p>
           Calvex {version}, IAPS Formulation 1984. Computed in this page: nothing you type leaves
-          it.
+          it. <a href="licences.txt">Licences</a>
         </p>
       </footer>
       <KeysDialog shown={keysShown} close={() => showKeys(false)} />

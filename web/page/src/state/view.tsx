@@ -36,7 +36,7 @@ export function StateView() {
           >
             {pairs.map(letters => (
               <option key={letters} value={letters}>
-                {letters[0]}, {letters[1]} – {pairWords(letters)}
+                {capital(pairWords(letters))}
               </option>
             ))}
           </select>
