@@ -14,6 +14,8 @@ int main(int count, char** arguments) {
     std::cout << calvex::stringResources();
   } else if (what == "worksheet") {
     std::cout << calvex::worksheetFunctions();
+  } else if (what == "entries") {
+    std::cout << calvex::worksheetEntryPoints();
   } else if (what == "results") {
     std::cout << calvex::wrapperResults();
   } else if (what == "members") {
@@ -23,7 +25,8 @@ int main(int count, char** arguments) {
   } else if (what == "formulation") {
     std::cout << calvex::formulation();
   } else {
-    std::cerr << "usage: generate interface|strings|worksheet|results|members|visits|formulation\n";
+    std::cerr << "usage: generate interface|strings|worksheet|entries|results|members|visits|"
+                 "formulation\n";
     return 2;
   }
 }

@@ -7,149 +7,38 @@
 #include <string_view>
 #include <vector>
 
-#include "server/member_columns.h"
-#include "server/member_explanations.h"
-#include "server/member_table.h"
+#include "server/worksheet_functions.h"
+#include "units/unit_catalogue.h"
 
 namespace {
 
 using namespace calvex;
 
-struct Argument {
-  std::string name;
-  std::string words;
-  bool isOptional = false;
-};
+using Function = WorksheetFunction;
+using Argument = WorksheetArgument;
 
-/// A worksheet function: a member, or one of the spreadsheet's own.
-struct Function {
-  std::string name;   ///< of the method
-  std::string shown;  ///< what is typed
-  std::string category;
-  std::string description;
-  std::string parameters;  ///< the types of one that has others than numbers
-  std::vector<Argument> arguments;
-  int member = -1;
-};
+std::vector<Function> allFunctions() { return worksheetFunctionTable(calcHabit); }
 
-std::string sentence(std::string text) {
-  if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') {
-    text[0] = static_cast<char>(text[0] - 'a' + 'A');
+/// The types of a function's parameters behind the document.
+std::string parametersOf(const Function& function) {
+  switch (function.own) {
+    case OwnFunction::units:
+      return ", [in] sequence<any> Choices";
+    case OwnFunction::why:
+    case OwnFunction::trace:
+      return ", [in] ::com::sun::star::table::XCellRange Cell";
+    default:
+      break;
   }
-  return text.empty() || text.back() == '.' ? text : text + '.';
-}
-
-std::string unitOf(const Parameter& parameter) {
-  if (!parameter.hasUnit()) return {};
-  const auto& row = unitGroupTable()[static_cast<std::size_t>(parameter.group)];
-  return std::string(row.internalUnit);
-}
-
-/// "pressure, above 0 to 3000 MPa, or in the document's unit"
-std::string wordsOf(const Member& member, const Parameter& parameter) {
-  const ParameterExplanation explained = parameterExplanation(member, parameter);
-  std::string text = explained.words;
-  const std::string unit = unitOf(parameter);
-  if (explained.limits) {
-    const Limits& limits = *explained.limits;
-    text += fmt::format(", {} {}", limits.aboveLow ? "above" : "from", limits.low);
-    if (limits.high < std::numeric_limits<double>::infinity()) {
-      text += fmt::format(" to {}{}", limits.belowHigh ? "below " : "", limits.high);
-    }
-    if (!unit.empty()) text += fmt::format(" {}", unit);
-  } else if (!unit.empty()) {
-    text += fmt::format(", {}", unit);
+  std::string parameters;
+  for (const Argument& argument : function.arguments) {
+    parameters += fmt::format(", [in] any {}", argument.name);
   }
-  return unit.empty() ? text : text + ", or in the unit of the document";
+  return parameters;
 }
 
 std::string listed(std::string list, std::string_view element) {
   return list.empty() ? std::string(element) : fmt::format("{}, {}", list, element);
-}
-
-Function functionOf(const Member& member, const NumericMember& numeric) {
-  const MemberExplanation explained = explanation(member);
-  Function function;
-  function.name = function.shown = member.name;
-  function.member = member.dispatchId;
-  const bool isEquipment = explained.heading == MemberHeading::equipment ||
-                           explained.heading == MemberHeading::spreadsheet;
-  function.category = isEquipment ? "Calvex equipment" : "Calvex";
-  function.description = sentence(explained.title);
-  if (!explained.notes.empty()) function.description += ' ' + explained.notes;
-  for (const Parameter& parameter : member.parameters()) {
-    if (parameter.type == ValueType::real && parameter.isInput()) {
-      function.arguments.push_back(
-          {std::string(parameter.name), wordsOf(member, parameter), false});
-    }
-  }
-  std::string names;
-  for (const NumericMember::Slot& slot : numeric.outputs()) names = listed(names, slot.name);
-  if (!tokensOf(member).empty()) {
-    function.arguments.push_back(
-        {"Tokens", "which results, one or more of: " + names + "; all without it", true});
-  } else if (numeric.outputs().size() > 1) {
-    function.arguments.push_back(
-        {"Result", "which result, one of: " + names + "; without it all, as an array", true});
-  }
-  return function;
-}
-
-/// What no member is: the functions about the document and about other cells.
-std::vector<Function> ownFunctions() {
-  const std::string cell = "[in] ::com::sun::star::table::XCellRange Cell";
-  Function convert{"Convert", "CALVEX.CONVERT",
-                   "Calvex",  sentence(explanation(*findMember("Convert")).title),
-                   {},        {},
-                   -1};
-  for (const Parameter& parameter : findMember("Convert")->parameters()) {
-    if (!parameter.isInput()) continue;
-    const std::string name(parameter.name);
-    convert.parameters +=
-        fmt::format("{}[in] any {}", convert.parameters.empty() ? "" : ", ", name);
-    convert.arguments.push_back(
-        {name, parameterExplanation(*findMember("Convert"), parameter).words, false});
-  }
-  return {{"Units",
-           "CALVEX.UNITS",
-           "Calvex",
-           "Sets units of the document, quantity by quantity, and answers all that are set: "
-           "CALVEX.UNITS(\"T\";\"°C\";\"P\";\"bar\").",
-           "[in] sequence<any> Choices",
-           {{"Choices", "a quantity, then its unit; and so on", true}},
-           -1},
-          {"Unit",
-           "CALVEX.UNIT",
-           "Calvex",
-           "The unit that a quantity has in the document: CALVEX.UNIT(\"P\").",
-           "[in] any Quantity",
-           {{"Quantity", "name of the quantity", false}},
-           -1},
-          {"Why",
-           "CALVEX.WHY",
-           "Calvex",
-           "Why a cell has no value; empty for a cell that has one.",
-           cell,
-           {{"Cell", "the cell", false}},
-           -1},
-          {"Trace",
-           "CALVEX.TRACE",
-           "Calvex",
-           "The record of a cell's calls, as rows of depth, kind and text (an array formula).",
-           cell,
-           {{"Cell", "the cell", false}},
-           -1},
-          convert};
-}
-
-std::vector<Function> allFunctions() {
-  std::vector<Function> functions = ownFunctions();
-  for (const Member& member : memberTable()) {
-    if (const auto numeric = NumericMember::of(member)) {
-      functions.push_back(functionOf(member, *numeric));
-    }
-  }
-  return functions;
 }
 
 constexpr std::string_view notice = "Made by calc/generate from the member table.";
@@ -162,14 +51,8 @@ module calvex {{ module calc {{
 )",
                                  notice);
   for (const Function& function : allFunctions()) {
-    std::string parameters = "[in] ::com::sun::star::beans::XPropertySet document";
-    if (!function.parameters.empty()) parameters += ", " + function.parameters;
-    if (function.parameters.empty()) {
-      for (const Argument& argument : function.arguments) {
-        parameters += fmt::format(", [in] any {}", argument.name);
-      }
-    }
-    text += fmt::format("    any {}({});\n", function.name, parameters);
+    text += fmt::format("    any {}([in] ::com::sun::star::beans::XPropertySet document{});\n",
+                        function.name, parametersOf(function));
   }
   return text + "  };\n}; };\n";
 }

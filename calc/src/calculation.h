@@ -10,11 +10,15 @@
 #include <span>
 #include <string>
 
-#include "signatures.h"
+#include "worksheet/signatures.h"
 
 namespace calvex::calc {
 
 using com::sun::star::uno::Any;
+using worksheet::findSignature;
+using worksheet::Signature;
+using worksheet::signatureOf;
+using worksheet::Slot;
 
 /// Where in an array, or how large it is.
 struct Place {

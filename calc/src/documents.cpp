@@ -7,6 +7,7 @@
 #include <com/sun/star/document/XUndoManagerSupplier.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/sheet/XCalculatable.hpp>
+#include <com/sun/star/sheet/XCellRangeReferrer.hpp>
 #include <com/sun/star/sheet/XCellRangesAccess.hpp>
 #include <com/sun/star/sheet/XNamedRange.hpp>
 #include <com/sun/star/sheet/XNamedRanges.hpp>
@@ -156,6 +157,15 @@ std::string keptUnits(const Reference<XPropertySet>& model) {
   if (!names->hasByName(unitsName)) return {};
   const Reference<css::sheet::XNamedRange> name(names->getByName(unitsName), UNO_QUERY_THROW);
   std::string content = toUtf8(name->getContent());
+  // In workbooks for Excel the name refers to the cell with CALVEX.UNITS, which counts by itself.
+  const Reference<css::sheet::XCellRangeReferrer> referrer(name, UNO_QUERY);
+  const auto cells =
+      referrer.is() ? referrer->getReferredCells() : Reference<css::table::XCellRange>();
+  if (cells.is() &&
+      toUtf8(cells->getCellByPosition(0, 0)->getFormula().toAsciiUpperCase()).find("UNITS(") !=
+          std::string::npos) {
+    return {};
+  }
   std::erase(content, '"');
   return content;
 }

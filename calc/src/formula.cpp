@@ -334,34 +334,6 @@ Any Recalculation::member(const Signature& signature, std::span<const Any* const
   return value;
 }
 
-std::string text(calvex_engine* engine, std::size_t node) {
-  return textOf([&](char* text, std::size_t size, std::size_t* needed) {
-    calvex_trace_text(engine, node, text, size, needed);
-  });
-}
-
-std::vector<RecordRow> recordOf(calvex_engine* engine) {
-  constexpr const char* kinds[] = {"root", "call", "error", "warning", "note", "error"};
-  std::size_t count = 0;
-  calvex_trace_take(engine, &count);
-  std::vector<RecordRow> rows;
-  std::vector<int> depths(count, 0);
-  // A child stands behind its parent, but not always next to it: siblings are walked in order.
-  const auto walk = [&](auto& self, std::size_t node, int depth) -> void {
-    for (; node != CALVEX_NONE;) {
-      calvex_node facts{};
-      calvex_trace_node(engine, node, &facts, sizeof facts);
-      rows.push_back({depth, kinds[facts.kind], text(engine, node)});
-      self(self, facts.first_child, depth + 1);
-      node = facts.next_sibling;
-    }
-  };
-  calvex_node root{};
-  calvex_trace_node(engine, 0, &root, sizeof root);
-  walk(walk, root.first_child, 0);
-  return rows;
-}
-
 }  // namespace
 
 CellCalls::CellCalls(Document& document, const Reference<XCell>& cell) {
@@ -371,7 +343,7 @@ CellCalls::CellCalls(Document& document, const Reference<XCell>& cell) {
   }
   Explanation known{document.model(), document.fault(), {}};
   reason_ = whyOf(known, cell, engine.handle(), recording.handle(), 0);
-  record_ = recordOf(recording.handle());
+  record_ = worksheet::recordOf(recording.handle());
   if (record_.empty()) {
     record_.push_back({0, "note", reason_.empty() ? "no call of Calvex left a message" : reason_});
   }

@@ -10,15 +10,11 @@
 
 #include "calculation.h"
 #include "documents.h"
+#include "worksheet/record.h"
 
 namespace calvex::calc {
 
-/// A row of a record: how deep, "call", "error", "warning" or "note", and its text.
-struct RecordRow {
-  int depth;
-  std::string kind;
-  std::string text;
-};
+using worksheet::RecordRow;
 
 /// The calls in a cell's formula.
 class CellCalls {

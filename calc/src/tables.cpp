@@ -22,7 +22,6 @@
 #include <com/sun/star/util/XProtectable.hpp>
 
 #include "formula.h"
-#include "signatures.h"
 #include "texts.h"
 
 namespace calvex::calc {

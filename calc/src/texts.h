@@ -7,18 +7,11 @@
 #include <string>
 #include <string_view>
 
+#include "worksheet/texts.h"
+
 namespace calvex::calc {
 
-/// A text that the C interface gives: ask(text, size, needed).
-template <class Ask>
-std::string textOf(Ask&& ask) {
-  std::size_t needed = 0;
-  ask(nullptr, std::size_t{0}, &needed);
-  std::string text(needed, '\0');
-  ask(text.data(), text.size(), &needed);
-  if (!text.empty()) text.pop_back();
-  return text;
-}
+using worksheet::textOf;
 
 [[nodiscard]] inline rtl::OUString toOffice(std::string_view utf8) {
   return {utf8.data(), static_cast<sal_Int32>(utf8.size()), RTL_TEXTENCODING_UTF8};

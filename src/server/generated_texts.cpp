@@ -2,8 +2,6 @@
 
 #include <fmt/format.h>
 
-#include <algorithm>
-
 #include "diagnostics/messages.h"
 #include "server/identity.h"
 #include "server/member_table.h"
@@ -86,85 +84,6 @@ std::string quoted(std::string_view text) {
   return quotedText + "\"";
 }
 
-void append(std::string& list, std::string_view element) {
-  if (!list.empty()) list += ", ";
-  list += element;
-}
-
-/// A cell shows numbers, and tokens say which: members that take or answer anything else are none.
-bool isWorksheetFunction(const Member& member) {
-  return !member.isProperty && member.style != ReturnStyle::status &&
-         std::ranges::all_of(member.parameters(), [](const Parameter& parameter) {
-           return parameter.type == ValueType::real || parameter.type == ValueType::array ||
-                  parameter.name == "strTokens";
-         });
-}
-
-/// What a member is given and what it answers, for a function of the worksheet.
-struct WorksheetSignature {
-  std::string inputs, arguments, outputs;
-  std::string described, answered;  ///< with the quantities
-  int inputCount = 0;
-  int outputCount = 0;
-
-  explicit WorksheetSignature(const Member& member) {
-    for (const Parameter& parameter : member.parameters()) {
-      const std::string name(parameter.name);
-      const std::string quantity =
-          parameter.hasUnit() ? fmt::format("{} ({})", name, displayName(parameter)) : name;
-      if (parameter.isOutput()) {
-        append(outputs, name);
-        append(answered, quantity);
-        ++outputCount;
-        if (parameter.direction != Direction::retval) append(arguments, name);
-      } else {
-        append(inputs, name);
-        append(described, quantity);
-        ++inputCount;
-        append(arguments, parameter.type == ValueType::text
-                              ? fmt::format("Text({})", name)
-                              : fmt::format("Number({}, \"{}\")", name, name));
-      }
-    }
-  }
-};
-
-std::string worksheetFunction(const Member& member) {
-  const WorksheetSignature signature(member);
-  const bool isValue = member.style == ReturnStyle::value;
-  return fmt::format(
-      R"(
-' {}{}{}
-Public Function Steam{}({})
-  Dim ok, {}
-  On Error Resume Next
-  {} = Asked().{}({})
-  Steam{} = Outcome({}, {})
-End Function
-)",
-      signature.answered, isValue ? "" : " from ", signature.described, member.name,
-      signature.inputs, signature.outputs, isValue ? signature.outputs : "ok", member.name,
-      signature.arguments, member.name, isValue ? "1" : "ok",
-      signature.outputCount == 1 ? signature.outputs : "Array(" + signature.outputs + ")");
-}
-
-/// The branch that finds a worksheet function by its member's name.
-std::string worksheetCase(const Member& member) {
-  const WorksheetSignature signature(member);
-  std::string name(member.name);
-  std::ranges::transform(name, name.begin(), [](char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-  });
-  std::string inputs;
-  for (int i = 0; i < signature.inputCount; ++i) append(inputs, fmt::format("X({})", i));
-  return fmt::format(
-      "  Case \"{}\"\n"
-      "    If UBound(X) = {} Then Steam = Steam{}({}): Exit Function\n"
-      "    inputs = \"{}\"\n",
-      name, signature.inputCount - 1, member.name, inputs,
-      signature.inputs.empty() ? "no inputs" : signature.inputs);
-}
-
 }  // namespace
 
 std::string interfaceDefinition() {
@@ -225,30 +144,6 @@ std::string stringResources() {
   number = 50;
   for (const UnitGroupRow& row : unitGroupTable()) add(number++, row.internalUnit);
   return text + "END\n";
-}
-
-std::string worksheetFunctions() {
-  std::string functions;
-  std::string cases;
-  for (const Member& member : memberTable()) {
-    if (!isWorksheetFunction(member)) continue;
-    functions += worksheetFunction(member);
-    cases += worksheetCase(member);
-  }
-  return fmt::format(R"(' From here on: {}
-
-' What a member answers, by its name: =Steam("HPT", A1, B1).
-Public Function Steam(Member, ParamArray X() As Variant)
-  Dim inputs
-  Select Case UCase(Text(Member))
-{}  Case Else
-    Steam = Mark & "there is no function " & Text(Member)
-    Exit Function
-  End Select
-  Steam = Mark & Text(Member) & " takes " & inputs
-End Function
-{})",
-                     notice, cases, functions);
 }
 
 }  // namespace calvex

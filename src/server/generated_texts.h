@@ -1,8 +1,8 @@
 /// \file
 /// Texts for other compilers, made from the tables: the interface definition and the string
 /// resources of the Windows module, kept in server/windows, the worksheet functions, kept in
-/// packaging/windows, and three headers of the C++ wrapper, kept in include/calvex.
-/// scripts/update-generated makes them anew.
+/// packaging/windows, the entry points of the Excel add-in, kept in excel/src, and three headers of
+/// the C++ wrapper, kept in include/calvex. scripts/update-generated makes them anew.
 #pragma once
 
 #include <string>
@@ -25,6 +25,9 @@ inline constexpr std::string_view generatedNotice =
 /// A worksheet function for every member that answers numbers, and one that finds them by name, in
 /// Visual Basic: the end of the macro module, whose beginning is written by hand.
 [[nodiscard]] std::string worksheetFunctions();
+
+/// The exported functions of the Excel add-in, one for each of its worksheet functions.
+[[nodiscard]] std::string worksheetEntryPoints();
 
 /// The headers of the C++ wrapper over the C interface: what members with several results answer,
 /// the engine with every member and its real signature, and a visit to all of them.

@@ -30,13 +30,23 @@ def faults(module):
     for number, line in enumerate(module.splitlines(), 1):
         if len(line) > 1000 or not line.isascii():
             yield f"line {number} is too long or not ASCII"
+    for match in re.finditer(r"(?:.* _\n)+", module):
+        if match[0].count("\n") > 24:
+            yield "too many continued lines: " + match[0][:60]
+    for match in re.finditer(r'"((?:[^"]|"")*)"', module):
+        if len(match[1].replace('""', '"')) > 255 and "|" not in match[1]:
+            yield "a text too long for the wizard: " + match[1][:60]
 
 
 def script(module):
     for pattern, replacement in [
             (r"^Attribute .*\n", ""),
             (r"^Option Explicit\n", ""),
-            (r"^Private theServer As Object", "Dim theServer : Set theServer = Nothing"),
+            (r"^Private (the\w+) As Object", r"Dim \1 : Set \1 = Nothing"),
+            (r"^Private (the\w+)", r"Dim \1"),
+            (r"^Private Const", "Const"),
+            (r"\b(Macro|Description|Category|ArgumentDescriptions|Type|Temporary):=", ""),
+            (r"Application\.MacroOptions\b", "Application.KeepOptions"),
             (r"ParamArray X\(\)", "X"),
             (r" As (Object|String|Variant)\b", ""),
             (r"\bMsgBox\b", "Say"),

@@ -45,6 +45,11 @@ TEST(GeneratedTexts, TheKeptWorksheetFunctionsAreCurrent) {
   EXPECT_EQ(text.substr(generated), worksheetFunctions()) << "run scripts/update-generated";
 }
 
+TEST(GeneratedTexts, TheKeptEntryPointsOfTheExcelAddInAreCurrent) {
+  EXPECT_EQ(kept("excel/src/entry_points.inc"), worksheetEntryPoints())
+      << "run scripts/update-generated";
+}
+
 // Visual Basic reads lines of up to 1023 characters.
 TEST(GeneratedTexts, NoWorksheetFunctionHasALineTooLong) {
   std::istringstream text(worksheetFunctions());

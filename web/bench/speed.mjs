@@ -1,7 +1,9 @@
-// What a million points cost: on this machine with two lanes, in WebAssembly with vectors and without,
-// in turns.
+// What a million points cost: on this machine with two lanes, in WebAssembly with vectors and
+// without, in turns.
 //
-//   node web/bench/speed.mjs [MEMBER]    after scripts/build-web and scripts/build release calvex_web_native
+//   node web/bench/speed.mjs [MEMBER]
+//
+// after scripts/build-web and scripts/build release calvex_web_native
 import { spawnSync } from 'node:child_process';
 import { fileURLToPath } from 'node:url';
 

@@ -1,4 +1,4 @@
-// What the engine weighs, as it is and compressed: size.mjs ENGINE.wasm ... Fails at 500 kB compressed.
+// What the engine weighs, as it is and compressed: size.mjs ENGINE.wasm ...
 import { readFileSync } from 'node:fs';
 import { basename } from 'node:path';
 import { brotliCompressSync, gzipSync } from 'node:zlib';

@@ -13,7 +13,6 @@
 #include "server/member_columns.h"
 #include "server/member_explanations.h"
 #include "server/member_table.h"
-#include "units/encoding.h"
 #include "units/unit_words.h"
 
 namespace {
@@ -141,9 +140,8 @@ std::string memberRow(const Member& member) {
 }
 
 std::string unit(UnitGroup group, const ZvUomLiteKeyword& row) {
-  return fmt::format(R"({{"name":{},"factor":{},"offset":{},"notice":{}}})",
-                     quoted(toUtf8(row.name)), number(row.factor), number(row.offset),
-                     quoted(unitNotice(group, row.name)));
+  return fmt::format(R"({{"name":{},"factor":{},"offset":{},"notice":{}}})", quoted(row.name),
+                     number(row.factor), number(row.offset), quoted(unitNotice(group, row.name)));
 }
 
 std::string groupRow(int index) {
@@ -154,7 +152,7 @@ std::string groupRow(int index) {
   units.insert(units.end(), beside.begin(), beside.end());
   return fmt::format(
       R"({{"number":{},"name":{},"keywords":{},"modelUnit":{},"notice":{},"units":{}}})", index,
-      quoted(row.displayName), list(row.keywords, quoted), quoted(toUtf8(row.internalUnit)),
+      quoted(row.displayName), list(row.keywords, quoted), quoted(row.internalUnit),
       quoted(groupNotice(group)),
       list(units, [&](const ZvUomLiteKeyword& each) { return unit(group, each); }));
 }

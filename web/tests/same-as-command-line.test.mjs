@@ -73,8 +73,8 @@ function moved(x, bits) {
   return new Float64Array(shifted.buffer)[0];
 }
 
-/** How far the command line's own answers go apart when an input moves by its last bits: a difference
- * of two nearly equal numbers, and the end of a search, have no more digits than that. */
+/** How far the command line's own answers go apart when an input moves by its last bits: the
+ * difference of two nearly equal numbers, and the end of a search, have no more digits than that. */
 function ownSpread({ row, given }) {
   const near = [-4, -3, -2, -1, 1, 2, 3, 4];
   const others = given.flatMap((x, i) =>

@@ -34,8 +34,8 @@ export function commonLength(called, names, given) {
 
 /** Runs a request over the inputs, into lists of numbers and of codes, all of one length.
  *
- * `layOut` writes what the engine reads besides the columns into `size` bytes and answers what runs it:
- * it is told the addresses of columns and how many elements to go from one row to the next. */
+ * `layOut` is told the addresses of the columns and of `size` bytes, writes into these what else the
+ * engine reads, and answers what runs so many rows. */
 export function inBlocks(given, numbers, codes, size, layOut) {
   const { length } = codes[0];
   const rows = Math.min(blockRows, Math.max(length, 1));
@@ -102,8 +102,8 @@ export function columns(engine, name, row, given) {
   return results;
 }
 
-/** Keeps why rows failed, to be found out when somebody asks: with the inputs and the units that they
- * had. */
+/** Keeps why rows failed, to be found out when somebody asks: with the inputs and the units that
+ * they had. */
 export function keepFailed(engine, status, given, again) {
   const failed = [];
   status.forEach((code, row) => {

@@ -60,7 +60,7 @@ export class Engine {
     wasm.calvex_reset(this.address);
   }
 
-  /** A copy with the units and settings of the moment, the same one until they change: for states and
+  /** A copy with the units and settings of the moment, the same one until they change: for states or
    * reasons, which are asked for later. */
   kept() {
     return (this.#kept ??= this.clone());
@@ -71,7 +71,7 @@ export class Engine {
     this.#unitNames = [];
   }
 
-  // Units ------------------------------------------------------------------------------------------
+  // Units -----------------------------------------------------------------------------------------
 
   unit(quantity) {
     const group = groupNumber(quantity);
@@ -94,13 +94,13 @@ export class Engine {
     return Object.fromEntries(groups.map(group => [group.keywords[0], this.unit(group.number)]));
   }
 
-  // States -----------------------------------------------------------------------------------------
+  // States ----------------------------------------------------------------------------------------
 
   state(pair) {
     return new State(this, pair);
   }
 
-  // What the engine has to tell ----------------------------------------------------------------------
+  // What the engine has to tell -------------------------------------------------------------------
 
   trace() {
     return trace(this.address);
@@ -123,7 +123,7 @@ export class Engine {
   }
 }
 
-// --- Members --------------------------------------------------------------------------------------
+// --- Members -------------------------------------------------------------------------------------
 
 const isNumber = value => value.type === 'number' || value.type === 'integer';
 

@@ -65,7 +65,7 @@ export class Engine {
   units(): { [keyword: string]: string };
 
   /** A state from any pair of properties: P with T, h, s, u, rho, v or x; T with h, s, u, rho, v or
-   * x; h with s. Numbers, or arrays of one length. A state of numbers throws where there is none. */
+   * x; h with s. Numbers, or arrays of one length. One of numbers throws where there is none. */
   state(pair: { readonly [name: string]: number }): State<number>;
   state(pair: { readonly [name: string]: number | Numbers }): State<Float64Array>;
 

@@ -81,7 +81,7 @@ function letter(name) {
   throw new TypeError(`a state is given by two of ${ofMixtures.join(', ')}; "${name}" is none`);
 }
 
-/** Some letters of the points, and their phases; one point, of numbers alone, throws where it fails. */
+/** Some letters of the points, and their phases; a point of numbers throws where it fails. */
 function solve(engine, pair, given, letters) {
   const length = given.find(isColumn)?.length;
   const [status, phase] = [new Int16Array(length ?? 1), new Int16Array(length ?? 1)];
@@ -193,8 +193,8 @@ export class State {
     });
   }
 
-  /** All properties of a point from one solve. Of a mixture the reason that those of one phase have;
-   * of another point that lacks one, "": each has its own. */
+  /** All properties of a point from one solve. Answers the reason why a mixture lacks those of one
+   * phase; "" of another point that lacks one: each has its own. */
   #getAtOnce() {
     const missing = Object.values(properties).filter(({ name }) => !this.#values.has(name));
     if (!this.#scalar || missing.length === 0) return '';

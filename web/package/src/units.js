@@ -3,7 +3,7 @@ import { Engine } from './engine.js';
 import { groups } from './table.js';
 import { memoryView, scratch, wasm, withTexts } from './wasm.js';
 
-/** The number of a quantity by its number, letter, name or a common word: "T", "pressure", "flow". */
+/** The number of a quantity by itself, a letter, a name or a common word: "T", "flow". */
 export function groupNumber(word) {
   if (typeof word === 'number') {
     if (groups[word] !== undefined) return word;

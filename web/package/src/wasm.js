@@ -10,7 +10,7 @@ let view;
 const encoder = new TextEncoder();
 const decoder = new TextDecoder();
 
-/** Where the next call of the engine is laid out; a list or text that is larger gets room of its own. */
+/** Where the next call of the engine is laid out; what is larger gets room of its own. */
 let desk;
 const deskSize = 1 << 16;
 
@@ -86,7 +86,7 @@ export async function start(module) {
   desk = wasm.malloc(deskSize);
 }
 
-// --- Room for what goes in and out ----------------------------------------------------------------
+// --- Room for what goes in and out ---------------------------------------------------------------
 
 /** Calls `use` with the address of so many bytes, aligned for numbers. */
 export function withRoom(size, use) {
@@ -102,7 +102,7 @@ export function withRoom(size, use) {
 /** A place for the few numbers of a scalar call: of two calls at a time the second has others. */
 export const scratch = () => desk;
 
-// --- Texts ----------------------------------------------------------------------------------------
+// --- Texts ---------------------------------------------------------------------------------------
 
 /** Calls `use` with the address and the size of each text. */
 export function withTexts(texts, use) {

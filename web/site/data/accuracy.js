@@ -13,7 +13,7 @@ function table(name) {
     .split('\n');
   const names = head.split(',');
   return {
-    origin: comment.replace(/^# /, ''),
+    origin: comment.replace(/^# /, '').split(';')[0],
     rows: lines.map(line =>
       Object.fromEntries(line.split(',').map((cell, i) => [names[i], Number(cell)])),
     ),

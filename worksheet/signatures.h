@@ -2,12 +2,11 @@
 /// What the worksheet functions are given and answer, from the table of members.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
-namespace calvex::calc {
+namespace calvex::worksheet {
 
 struct Slot {
   std::string name;
@@ -33,4 +32,4 @@ struct Signature {
 /// By the name of the member, in any case; null when there is no such worksheet function.
 [[nodiscard]] const Signature* findSignature(std::string_view name);
 
-}  // namespace calvex::calc
+}  // namespace calvex::worksheet

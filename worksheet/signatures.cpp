@@ -1,13 +1,13 @@
-#include "signatures.h"
+#include "worksheet/signatures.h"
 
 #include <calvex/calvex.h>
 
 #include <algorithm>
 #include <map>
 
-#include "texts.h"
+#include "worksheet/texts.h"
 
-namespace calvex::calc {
+namespace calvex::worksheet {
 
 namespace {
 
@@ -80,4 +80,4 @@ const Signature* findSignature(std::string_view name) {
   return nullptr;
 }
 
-}  // namespace calvex::calc
+}  // namespace calvex::worksheet

@@ -1,0 +1,319 @@
+#include "worksheet/calculation.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+#include "worksheet/texts.h"
+
+namespace calvex::worksheet {
+
+namespace {
+
+// A cell as a number, or the error that says why it is none.
+std::variant<double, Error> toNumber(const Cell& cell) {
+  if (const double* number = std::get_if<double>(&cell)) return *number;
+  if (const Error* error = std::get_if<Error>(&cell)) return *error;
+  if (std::holds_alternative<LeftOut>(cell)) return Error{ErrorKind::missing};
+  if (std::holds_alternative<Blank>(cell)) return Error{ErrorKind::notAvailable};
+  const auto& text = std::get<std::string>(cell);
+  if (text.empty()) return Error{ErrorKind::notAvailable};
+  if (const auto number = numberIn(text)) return *number;
+  return Error{ErrorKind::value};
+}
+
+// How many rows and columns the inputs have together.
+Place extentOf(const Signature& signature, std::span<const Grid> arguments) {
+  Place extent{1, 1};
+  const std::size_t count = std::min(signature.inputs.size(), arguments.size());
+  for (const Grid& grid : arguments.first(count)) {
+    extent.row = std::max(extent.row, grid.rows);
+    extent.column = std::max(extent.column, grid.columns);
+  }
+  return extent;
+}
+
+Cell inputAt(std::span<const Grid> arguments, std::size_t input, Place place) {
+  return input < arguments.size() ? arguments[input].element(place) : Cell();
+}
+
+// The outputs that are wanted; nothing where the last argument names none of them.
+std::optional<std::vector<std::size_t>> wanted(const Signature& signature,
+                                               std::span<const Grid> arguments) {
+  std::vector<std::size_t> outputs(signature.outputs.size());
+  for (std::size_t i = 0; i < outputs.size(); ++i) outputs[i] = i;
+  const Cell choice = inputAt(arguments, signature.inputs.size(), {});
+  if (!signature.hasChoice() || std::holds_alternative<LeftOut>(choice)) return outputs;
+  const std::string* const names = std::get_if<std::string>(&choice);
+  if (names == nullptr) return std::nullopt;
+  outputs = signature.chosen(*names);
+  if (outputs.empty() || (!signature.hasTokens && outputs.size() > 1)) return std::nullopt;
+  return outputs;
+}
+
+// Calls the member once; on success `outputs` has all of its numbers.
+int call(calvex_engine* engine, const Signature& signature, std::span<const double> inputs,
+         std::span<const std::size_t> chosen, std::vector<double>& outputs) {
+  if (signature.hasTokens) {
+    std::string names;
+    for (const std::size_t output : chosen) {
+      names += (names.empty() ? "" : " ") + signature.outputs[output].name;
+    }
+    const char* const texts[] = {names.c_str()};
+    return calvex_call_texts(engine, signature.member, inputs.data(), inputs.size(), texts, nullptr,
+                             1, nullptr, 0);
+  }
+  outputs.resize(signature.outputs.size());
+  return calvex_call(engine, signature.member, inputs.data(), inputs.size(), outputs.data(),
+                     outputs.size());
+}
+
+// "P (MPa), T (K) and, if wanted, one of Power, TOut"
+std::string described(calvex_engine* engine, const Signature& signature) {
+  std::string text;
+  for (const Slot& slot : signature.inputs) {
+    text += (text.empty() ? "" : ", ") + slot.name;
+    if (slot.group < 0) continue;
+    text += " (" + textOf([&](char* unit, std::size_t capacity, std::size_t* needed) {
+              calvex_unit(engine, slot.group, unit, capacity, needed);
+            }) +
+            ")";
+  }
+  if (!signature.hasChoice()) return text;
+  std::string names;
+  for (const Slot& slot : signature.outputs) names += (names.empty() ? "" : ", ") + slot.name;
+  return text + (signature.hasTokens ? " and, if wanted, some of " : " and, if wanted, one of ") +
+         names;
+}
+
+std::string lastFailure(calvex_engine* engine) {
+  const auto said = [&](auto ask) {
+    return textOf([&](char* text, std::size_t capacity, std::size_t* needed) {
+      ask(engine, text, capacity, needed);
+    });
+  };
+  const std::string cause = said(calvex_last_cause);
+  return said(calvex_last_error) + (cause.empty() ? "" : ' ' + cause);
+}
+
+// A result that the member left out is not available.
+Cell orNothing(double value) {
+  if (std::isnan(value)) return Error{ErrorKind::notAvailable};
+  return value;
+}
+
+// The rows of label, value and unit that a member with tokens has answered.
+Grid labelled(calvex_engine* engine) {
+  std::size_t rows = 0, columns = 0;
+  calvex_answer_size(engine, &rows, &columns);
+  Grid grid(rows, columns);
+  for (std::size_t i = 0; i < rows; ++i) {
+    for (std::size_t j = 0; j < columns; ++j) {
+      int kind = CALVEX_CELL_NUMBER;
+      calvex_answer_kind(engine, i, j, &kind);
+      if (kind == CALVEX_CELL_NUMBER) {
+        double number = 0.0;
+        calvex_answer_number(engine, i, j, &number);
+        grid.at({i, j}) = orNothing(number);
+      } else {
+        grid.at({i, j}) = textOf([&](char* text, std::size_t capacity, std::size_t* needed) {
+          calvex_answer_text(engine, i, j, text, capacity, needed);
+        });
+      }
+    }
+  }
+  return grid;
+}
+
+// The numbers of one call, or the first error among them.
+std::variant<std::vector<double>, Error> numbersAt(const Signature& signature,
+                                                   std::span<const Grid> arguments, Place place) {
+  std::vector<double> numbers;
+  for (std::size_t i = 0; i < signature.inputs.size(); ++i) {
+    const auto number = toNumber(inputAt(arguments, i, place));
+    if (const Error* error = std::get_if<Error>(&number)) return *error;
+    numbers.push_back(std::get<double>(number));
+  }
+  return numbers;
+}
+
+Grid one(calvex_engine* engine, const Signature& signature, std::span<const Grid> arguments,
+         std::span<const std::size_t> chosen) {
+  const auto inputs = numbersAt(signature, arguments, {});
+  if (const Error* error = std::get_if<Error>(&inputs)) return Cell(*error);
+  std::vector<double> outputs;
+  if (call(engine, signature, std::get<0>(inputs), chosen, outputs) != CALVEX_OK) {
+    return Cell(Error{ErrorKind::noAnswer});
+  }
+  if (signature.hasTokens) return labelled(engine);
+  Grid row(1, chosen.size());
+  for (std::size_t k = 0; k < chosen.size(); ++k) row.at({0, k}) = orNothing(outputs[chosen[k]]);
+  return row;
+}
+
+// Many at once, by columns of those elements that have all of their inputs.
+Grid many(calvex_engine* engine, const Signature& signature, std::span<const Grid> arguments,
+          Place extent, std::span<const std::size_t> chosen) {
+  const std::size_t results = chosen.size();
+  const bool beside = extent.column == 1;  // several results stand beside, or below, their inputs
+  if (results > 1 && !beside && extent.row != 1) return Cell(Error{ErrorKind::value});
+  const bool turned = results > 1 && !beside;
+  Grid answer(turned ? results : extent.row, beside ? results : extent.column);
+  const auto cellOf = [&](std::size_t element, std::size_t k) -> Cell& {
+    if (turned) return answer.cells[k * answer.columns + element];
+    return answer.cells[element * results + k];
+  };
+
+  std::vector<std::vector<double>> columns(signature.inputs.size());
+  std::vector<std::size_t> elements;
+  for (std::size_t element = 0; element < extent.row * extent.column; ++element) {
+    const auto numbers =
+        numbersAt(signature, arguments, {element / extent.column, element % extent.column});
+    if (const Error* error = std::get_if<Error>(&numbers)) {
+      for (std::size_t k = 0; k < results; ++k) cellOf(element, k) = *error;
+      continue;
+    }
+    elements.push_back(element);
+    for (std::size_t i = 0; i < columns.size(); ++i) columns[i].push_back(std::get<0>(numbers)[i]);
+  }
+  if (elements.empty()) return answer;
+
+  std::vector<calvex_column> inputs;
+  inputs.reserve(columns.size());
+  for (const auto& column : columns) inputs.push_back({column.data(), 1});
+  std::vector<double> computed(results * elements.size());
+  std::vector<calvex_output> outputs;
+  outputs.reserve(results);
+  for (std::size_t k = 0; k < results; ++k) {
+    outputs.push_back({chosen[k], {computed.data() + k, static_cast<std::ptrdiff_t>(results)}});
+  }
+  std::vector<short> status(elements.size());
+  calvex_rows rows{};
+  rows.member = signature.member;
+  rows.count = elements.size();
+  rows.inputs = inputs.data();
+  rows.input_count = inputs.size();
+  rows.outputs = outputs.data();
+  rows.output_count = outputs.size();
+  rows.status = {status.data(), 1};
+  if (calvex_columns(engine, &rows, sizeof rows) != CALVEX_OK) {
+    return Cell(Error{ErrorKind::value});
+  }
+  for (std::size_t i = 0; i < elements.size(); ++i) {
+    for (std::size_t k = 0; k < results; ++k) {
+      cellOf(elements[i], k) =
+          status[i] == 0 ? orNothing(computed[i * results + k]) : Error{ErrorKind::noAnswer};
+    }
+  }
+  return answer;
+}
+
+}  // namespace
+
+std::optional<double> numberIn(std::string_view text) {
+  constexpr std::string_view blanks = " \t\r\n";
+  const std::size_t begin = text.find_first_not_of(blanks);
+  if (begin == std::string_view::npos) return std::nullopt;
+  text = text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  double number = 0.0;
+  const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (code != std::errc() || end != text.data() + text.size() || !std::isfinite(number)) {
+    return std::nullopt;
+  }
+  return number;
+}
+
+Grid calculate(calvex_engine* engine, const Signature& signature, std::span<const Grid> arguments) {
+  const auto chosen = wanted(signature, arguments);
+  if (!chosen) return Cell(Error{ErrorKind::value});
+  const Place extent = extentOf(signature, arguments);
+  return extent.row * extent.column == 1 ? one(engine, signature, arguments, *chosen)
+                                         : many(engine, signature, arguments, extent, *chosen);
+}
+
+Place sourceOf(const Signature& signature, std::span<const Grid> arguments, Place result) {
+  const Place extent = extentOf(signature, arguments);
+  return {extent.row == 1 ? 0 : result.row, extent.column == 1 ? 0 : result.column};
+}
+
+std::string reason(calvex_engine* engine, const Signature& signature,
+                   std::span<const Grid> arguments, Place place) {
+  const auto fault = [&](const std::string& what) {
+    return signature.name + ": " + what + ". It takes " + described(engine, signature) + ".";
+  };
+  std::vector<double> inputs, outputs;
+  for (std::size_t i = 0; i < signature.inputs.size(); ++i) {
+    const std::string& name = signature.inputs[i].name;
+    const Cell given = inputAt(arguments, i, place);
+    const auto number = toNumber(given);
+    if (const double* value = std::get_if<double>(&number)) {
+      inputs.push_back(*value);
+      continue;
+    }
+    switch (std::get<Error>(number).kind) {
+      case ErrorKind::missing:
+        return fault(name + " is missing");
+      case ErrorKind::value:
+        return fault(name + " is the text \"" + std::get<std::string>(given) +
+                     "\", which is no number with a point");
+      case ErrorKind::notAvailable:
+        return fault(std::holds_alternative<Error>(given)
+                         ? name + " has no element here: the ranges are of different sizes"
+                         : name + " is an empty cell or text");
+      default:
+        return fault(name + " is an error itself");
+    }
+  }
+  const auto chosen = wanted(signature, arguments);
+  if (!chosen) return fault("the last argument names no result");
+  const Place extent = extentOf(signature, arguments);
+  if (chosen->size() > 1 && extent.row > 1 && extent.column > 1) {
+    return fault("several results of a table have no place: name one of them");
+  }
+  if (call(engine, signature, inputs, *chosen, outputs) == CALVEX_OK) return {};
+  return signature.name + ": " + lastFailure(engine);
+}
+
+Cell convert(calvex_engine* engine, std::span<const Grid> arguments, std::string& reason) {
+  constexpr std::size_t words = 3;
+  std::string texts[words];
+  const char* data[words];
+  for (std::size_t i = 0; i < words; ++i) {
+    const Cell word = inputAt(arguments, i, {});
+    const std::string* const text = std::get_if<std::string>(&word);
+    if (text == nullptr) {
+      reason = "CALVEX.CONVERT: it takes the texts quantity, unit and unit wanted, then the value";
+      return Error{ErrorKind::value};
+    }
+    texts[i] = *text;
+    data[i] = texts[i].c_str();
+  }
+  const auto given = toNumber(inputAt(arguments, words, {}));
+  if (const Error* error = std::get_if<Error>(&given)) {
+    reason = "CALVEX.CONVERT: the value is no number";
+    return *error;
+  }
+  double value = std::get<double>(given);
+  int member = 0;
+  calvex_find_member("Convert", CALVEX_TERMINATED, &member);
+  if (calvex_call_texts(engine, member, &value, 1, data, nullptr, words, &value, 1) == CALVEX_OK) {
+    return value;
+  }
+  reason = "CALVEX.CONVERT: " + lastFailure(engine);
+  return Error{ErrorKind::value};
+}
+
+Cell unitName(calvex_engine* engine, const Grid& quantity) {
+  const Cell word = quantity.element({});
+  const std::string* const text = std::get_if<std::string>(&word);
+  int group = 0;
+  if (text == nullptr || calvex_find_group(text->data(), text->size(), &group) != CALVEX_OK) {
+    return Error{ErrorKind::value};
+  }
+  return textOf([&](char* name, std::size_t capacity, std::size_t* needed) {
+    calvex_unit(engine, group, name, capacity, needed);
+  });
+}
+
+}  // namespace calvex::worksheet

@@ -1,0 +1,40 @@
+/// \file
+/// The calls of members with what cells have.
+#pragma once
+
+#include <calvex/calvex.h>
+
+#include <span>
+#include <string>
+
+#include "worksheet/cells.h"
+#include "worksheet/signatures.h"
+
+namespace calvex::worksheet {
+
+/// Computes a member: with numbers a number, with ranges an array of their shape, by the direct
+/// road where it can; of a member with several results the one that the last argument names, or all
+/// of them beside each other, below each other where the inputs are a row. What has no answer is an
+/// error; in an array it leaves its neighbours alone.
+[[nodiscard]] Grid calculate(calvex_engine* engine, const Signature& signature,
+                             std::span<const Grid> arguments);
+
+/// Calls the member with the arguments' elements at a place and answers why it fails there; empty
+/// when it does not. The call leaves its record in the engine.
+[[nodiscard]] std::string reason(calvex_engine* engine, const Signature& signature,
+                                 std::span<const Grid> arguments, Place place);
+
+/// Converts a value between units: quantity, unit, unit wanted, value. What fails is an error, and
+/// `reason` has the text.
+[[nodiscard]] Cell convert(calvex_engine* engine, std::span<const Grid> arguments,
+                           std::string& reason);
+
+/// The engine's unit of a quantity in plain words; an error for an unknown one.
+[[nodiscard]] Cell unitName(calvex_engine* engine, const Grid& quantity);
+
+/// Of a call's result the place in the inputs that an element comes from: results of one row or
+/// column of inputs may stand beside each other.
+[[nodiscard]] Place sourceOf(const Signature& signature, std::span<const Grid> arguments,
+                             Place result);
+
+}  // namespace calvex::worksheet
