@@ -2,7 +2,7 @@
 // the same run: per point, on one core, with each instruction set of the machine.
 //
 //   calvex_bench_direct                             the tables
-//   calvex_bench_direct --benchmark_filter=PT       some rows
+//   calvex_bench_direct --benchmark_filter=P,T      some rows
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -70,18 +70,33 @@ struct Case {
 };
 
 const Case cases[] = {
-    {"PT: h, s, rho", Pair::PT, States::onePhase, {Letter::H, Letter::S, Letter::R}, 0.07, 0.12},
-    {"PH: T", Pair::PH, States::onePhase, {Letter::T}, 0.20, 0.35},
-    {"PS: T", Pair::PS, States::onePhase, {Letter::T}, 0.20, 0.35},
-    {"PU: T", Pair::PU, States::onePhase, {Letter::T}, 0.0, 0.0},
-    {"PR: T", Pair::PR, States::onePhase, {Letter::T}, 0.0, 0.0},
-    {"TR: P, h, s", Pair::TR, States::onePhase, {Letter::P, Letter::H, Letter::S}, 0.0, 0.0},
-    {"PH: T, two phases", Pair::PH, States::twoPhases, {Letter::T}, 0.15, 0.25},
-    {"PS: T, two phases", Pair::PS, States::twoPhases, {Letter::T}, 0.15, 0.25},
-    {"PSatT", Pair::TQ, States::line, {Letter::P}, 0.10, 0.18},
-    {"TSatP", Pair::PQ, States::line, {Letter::T}, 0.10, 0.18},
-    {"PT: mu, lambda", Pair::PT, States::onePhase, {Letter::M, Letter::K}, 0.15, 0.25},
-    {"HS: P, T", Pair::HS, States::onePhase, {Letter::P, Letter::T}, 0.40, 0.70},
+    {"(P,T) to h, s and density",
+     Pair::PT,
+     States::onePhase,
+     {Letter::H, Letter::S, Letter::R},
+     0.07,
+     0.12},
+    {"(P,h) to T, one phase", Pair::PH, States::onePhase, {Letter::T}, 0.20, 0.35},
+    {"(P,s) to T, one phase", Pair::PS, States::onePhase, {Letter::T}, 0.20, 0.35},
+    {"(P,u) to T", Pair::PU, States::onePhase, {Letter::T}, 0.0, 0.0},
+    {"(P,density) to T", Pair::PR, States::onePhase, {Letter::T}, 0.0, 0.0},
+    {"(T,density) to P, h and s",
+     Pair::TR,
+     States::onePhase,
+     {Letter::P, Letter::H, Letter::S},
+     0.0,
+     0.0},
+    {"(P,h) to T, two phases", Pair::PH, States::twoPhases, {Letter::T}, 0.15, 0.25},
+    {"(P,s) to T, two phases", Pair::PS, States::twoPhases, {Letter::T}, 0.15, 0.25},
+    {"saturation pressure", Pair::TQ, States::line, {Letter::P}, 0.10, 0.18},
+    {"saturation temperature", Pair::PQ, States::line, {Letter::T}, 0.10, 0.18},
+    {"(P,T) to viscosity and conductivity",
+     Pair::PT,
+     States::onePhase,
+     {Letter::M, Letter::K},
+     0.15,
+     0.25},
+    {"(h,s) to P and T", Pair::HS, States::onePhase, {Letter::P, Letter::T}, 0.40, 0.70},
 };
 
 void arrays(benchmark::State& state, const Case& row, std::string_view set) {
@@ -125,8 +140,8 @@ struct SingleCase {
   double limit;
 };
 const SingleCase singles[] = {
-    {"single PT: h, s, rho", Pair::PT, {Letter::H, Letter::S, Letter::R}, 0.3},
-    {"single PH: T", Pair::PH, {Letter::T}, 0.8},
+    {"one state: (P,T) to h, s and density", Pair::PT, {Letter::H, Letter::S, Letter::R}, 0.3},
+    {"one state: (P,h) to T", Pair::PH, {Letter::T}, 0.8},
 };
 
 // The benchmark's states over and over, as many as asked for.
@@ -186,30 +201,30 @@ class Table final : public calvex::bench::MedianTable {
     const auto empty = median("empty solve");
     if (!empty) return;
     fmt::print("empty solve: {:.0f} ns. Multiples of it, a point; meant to stay below\n", *empty);
-    fmt::print("{:<24}", "");
+    fmt::print("{:<40}", "");
     for (const auto set : instructionSets()) fmt::print("{:>10}", set);
     fmt::print("{:>10}{:>10}\n", "8 lanes", "4 lanes");
     for (const Case& row : cases) {
-      fmt::print("{:<24}", row.name);
+      fmt::print("{:<40}", row.name);
       for (const auto set : instructionSets()) print(nameOf(row.name, set), pointCount, *empty);
       if (row.limit8 > 0.0) fmt::print("{:>10.2f}{:>10.2f}", row.limit8, row.limit4);
       fmt::print("\n");
     }
     for (const SingleCase& row : singles) {
-      fmt::print("{:<24}", row.name);
+      fmt::print("{:<40}", row.name);
       print(row.name, 1, *empty);
       fmt::print("{:>10.2f}\n", row.limit);
     }
-    fmt::print("\n{:<24}{:>10}\n", "points at once", "a point");
+    fmt::print("\n{:<40}{:>10}\n", "points at once", "a point");
     for (const std::size_t count : counts) {
-      fmt::print("{:<24}", count);
+      fmt::print("{:<40}", count);
       print(nameOf(count), count, *empty);
       fmt::print("\n");
     }
-    fmt::print("\n{:<24}", "million points a second");
+    fmt::print("\n{:<40}", "million points a second");
     for (const unsigned threads : threadCounts) fmt::print("{:>4} threads", threads);
     for (const Case& row : cases) {
-      fmt::print("\n{:<24}", row.name);
+      fmt::print("\n{:<40}", row.name);
       for (const unsigned threads : threadCounts) {
         const auto time = medianElapsed(nameOf(row.name, threads));
         fmt::print("{:>12}", time ? fmt::format("{:.1f}", 1e3 * manyPoints / *time) : "");

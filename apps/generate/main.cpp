@@ -1,7 +1,9 @@
-// Prints the texts that are made from the product's tables; see scripts/update-generated.
+// Prints the texts that are made from the product's tables; see scripts/update-generated and
+// web/site.
 #include <iostream>
 #include <string_view>
 
+#include "formulation.h"
 #include "server/generated_texts.h"
 
 int main(int count, char** arguments) {
@@ -20,8 +22,11 @@ int main(int count, char** arguments) {
     std::cout << calvex::wrapperMembers();
   } else if (what == "visits") {
     std::cout << calvex::wrapperVisits();
+  } else if (what == "formulation") {
+    std::cout << calvex::formulation();
   } else {
-    std::cerr << "usage: generate interface|strings|worksheet|entries|results|members|visits\n";
+    std::cerr << "usage: generate interface|strings|worksheet|entries|results|members|visits|"
+                 "formulation\n";
     return 2;
   }
 }

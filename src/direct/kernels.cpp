@@ -13,6 +13,7 @@
 #include "direct/starting_tables.h"
 #include "steam/constants.h"
 #include "steam/fundamental_coefficients.h"
+#include "steam/saturation_coefficients.h"
 #include "steam/transport_coefficients.h"
 
 // Two lanes need no older set than SSE 4; a machine without it has one.
@@ -33,13 +34,22 @@
 //
 #include <hwy/contrib/math/math-inl.h>
 #include <hwy/highway.h>
+#ifdef __wasm_simd128__
+#include <wasm_simd128.h>
+
+#include <limits>
+#endif
 
 HWY_BEFORE_NAMESPACE();
 namespace calvex::direct::HWY_NAMESPACE {
 
 #include "direct/one_lane-inl.h"
 //
+#ifdef __wasm_simd128__
+#include "direct/wasm_lanes-inl.h"
+#else
 #include "direct/lanes-inl.h"
+#endif
 //
 #include "direct/dual-inl.h"
 //

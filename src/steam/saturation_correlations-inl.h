@@ -8,16 +8,7 @@ template <class N>
 [[nodiscard]] N pressure(const N& T) {
   // Ps = Pc exp(S/((T/Tc) (1 + k6 tau + k7 tau^2)) - tau/(k8 tau^2 + k9)), S = sum k_i tau^i,
   // i = 1..5
-  constexpr double k1 = -7.691234564;
-  constexpr double k2 = -26.08023696;
-  constexpr double k3 = -168.1706546;
-  constexpr double k4 = 64.23285504;
-  constexpr double k5 = -118.9646225;
-  constexpr double k6 = 4.16711732;
-  constexpr double k7 = 20.9750676;
-  constexpr double k8 = 1.0e9;
-  constexpr double k9 = 6.0;
-
+  using namespace coefficients::saturationPressure;
   const N tau = 1.0 - T / constants::criticalTemperature;
   const N S = ((((k5 * tau + k4) * tau + k3) * tau + k2) * tau + k1) * tau;
   return constants::criticalPressure *

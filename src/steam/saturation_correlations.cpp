@@ -16,8 +16,9 @@ double temperatureGuess(double P) {
 }
 
 double nearCriticalDensity(double T) {
+  namespace law = coefficients::scalingLaw;
   const double tau = std::max(0.0, 1.0 - T / criticalTemperature);
-  return (0.32189 - 0.657128 * std::pow(tau, 0.325)) * 1000.0;
+  return (law::criticalDensity - law::amplitude * std::pow(tau, law::exponent)) * 1000.0;
 }
 
 }  // namespace calvex::saturation

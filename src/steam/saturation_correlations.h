@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "steam/constants.h"
+#include "steam/saturation_coefficients.h"
 
 namespace calvex::saturation {
 

@@ -49,9 +49,10 @@ template <class N>
   const N chi = rhoR * Pstar / (0.001 * rhoStar * derivatives.Pr);
   const N fromCriticalT = Tr - 1.0;
   const N fromCriticalRho = (rhoR - 1.0) * (rhoR - 1.0);
-  const N lambda2 = 3.7711e-08 / mu * (Tr / rhoR) * (Tr / rhoR) * dPdT * dPdT * pow(chi, 0.4678) *
-                    sqrt(rhoR) *
-                    exp(-18.66 * fromCriticalT * fromCriticalT - fromCriticalRho * fromCriticalRho);
+  const N lambda2 =
+      enhancement::C / mu * (Tr / rhoR) * (Tr / rhoR) * dPdT * dPdT * pow(chi, enhancement::omega) *
+      sqrt(rhoR) *
+      exp(-enhancement::A * fromCriticalT * fromCriticalT - fromCriticalRho * fromCriticalRho);
   return lambda0 * lambda1 + lambda2;
 }
 
@@ -59,8 +60,9 @@ template <class N>
 /// substance (1975), N. B. Vargaftik, B. N. Volkov, L. D. Voljak, JPCRD 12 (1983) 817.
 template <class N>
 [[nodiscard]] N surfaceTension(const N& T) {
-  const N theta = 1.0 - T / 647.15;
-  return 0.2358 * pow(theta, 1.256) * (1.0 - 0.625 * theta);
+  namespace c = coefficients::tension;
+  const N theta = 1.0 - T / c::Tc;
+  return c::B * pow(theta, c::mu) * (1.0 + c::b * theta);
 }
 
 /// Static dielectric constant. M. Uematsu, E. U. Franck, J. Phys. Chem. Ref. Data 9 (1980) 1291.

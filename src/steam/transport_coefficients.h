@@ -37,6 +37,22 @@ inline constexpr std::array<std::array<double, 6>, 5> conductivityResidual{{
     {-1.8525999, 0.9340469, 0.0, 0.0, 0.0, 0.0},
 }};
 
+// Critical enhancement of the thermal conductivity:
+// lambda2 = C/mu (Tr/rho_r dPr/dTr)^2 chi^omega sqrt(rho_r) exp(-A (Tr - 1)^2 - (rho_r - 1)^2)
+namespace enhancement {
+inline constexpr double C = 3.7711e-08;
+inline constexpr double omega = 0.4678;
+inline constexpr double A = 18.66;
+}  // namespace enhancement
+
+// Surface tension, sigma = B theta^mu (1 + b theta) with theta = 1 - T/Tc
+namespace tension {
+inline constexpr double B = 0.2358;  // N/m
+inline constexpr double b = -0.625;
+inline constexpr double mu = 1.256;
+inline constexpr double Tc = 647.15;  // K
+}  // namespace tension
+
 // Dielectric constant, A1..A10: Uematsu and Franck (1980).
 inline constexpr std::array<double, 10> dielectric{7.62571, 244.003,  -140.569, 27.7841, -96.2805,
                                                    41.7909, -10.2099, -45.2059, 84.6395, -35.8644};

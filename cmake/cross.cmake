@@ -1,5 +1,5 @@
-# What the Windows build takes from Debian: headers and sources of packages for the machine it is
-# built on, compiled for the target. The headers are copied aside so that nothing else of
+# What a build for Windows or for WebAssembly takes from Debian: headers and sources of packages for
+# the machine it is built on, compiled for the target. The headers are copied aside so that nothing else of
 # /usr/include is on the target's path.
 set(headers ${CMAKE_BINARY_DIR}/headers)
 file(COPY /usr/include/fmt /usr/include/CLI /usr/include/hwy DESTINATION ${headers})

@@ -1,0 +1,113 @@
+// The pair of inputs of the state that is looked at, which the address keeps for all views.
+import { CalvexError, pairs, type State } from 'calvex/load';
+import { computed } from '@preact/signals';
+
+import { address, replace, changed } from '../address.ts';
+import {
+  blamed,
+  exampleText,
+  holders,
+  letterRow,
+  members,
+  propertyOf,
+  readInput,
+  reasonOf,
+  steam,
+} from '../engine.ts';
+import type { Quantity } from '../engine.ts';
+
+export interface Input extends Quantity {
+  letter: string;
+  text: string;
+}
+
+const quantityOf = (letter: string): Quantity => {
+  const { group, words } = letterRow(letter);
+  return { group, words };
+};
+
+/** The keys of the state in the address: its inputs, in their order. */
+const stateLetters = new Set(pairs.join(''));
+const lettersOf = (keys: string[]) => keys.filter(key => stateLetters.has(key));
+const pairOf = (letters: string[]) =>
+  pairs.find(
+    pair => letters.length === 2 && pair.includes(letters[0]!) && pair.includes(letters[1]!),
+  );
+
+/** A value to begin with: that of the member's example which answers or takes the letter. */
+function firstText(letter: string, pair: string): string {
+  for (const name of [`H${pair}`, `T${pair}`, `HSat${pair}`]) {
+    const member = members.find(row => row.name === name);
+    const i = member?.inputs.findIndex(input => input.name === letter) ?? -1;
+    const given = member?.example.inputs[i];
+    if (typeof given === 'number') return exampleText(letterRow(letter).group, given);
+  }
+  // Enthalpy and entropy have no member: the first state's.
+  const { P, T } = { P: Number(firstText('P', 'PT')), T: Number(firstText('T', 'PT')) };
+  return exampleText(-1, steam.value.state({ P, T }).get(propertyOf(letter).name));
+}
+
+export const pair = computed(() => pairOf(lettersOf(Object.keys(address.value.values))) ?? 'PT');
+
+export const inputs = computed<Input[]>(() =>
+  pair.value.split('').map(letter => ({
+    letter,
+    ...quantityOf(letter),
+    text: address.value.values[letter] ?? firstText(letter, pair.value),
+  })),
+);
+
+holders.push(() =>
+  Object.fromEntries([...stateLetters].map(letter => [letter, quantityOf(letter)])),
+);
+
+export type Answer =
+  | { state: State; troubles?: undefined }
+  | { state?: undefined; troubles: Record<string, string>; code?: number };
+
+/** The state, or what is wrong by the letter of the input whose fault it is. */
+export const answer = computed<Answer>(() => {
+  const troubles: Record<string, string> = {};
+  const given: Record<string, number> = {};
+  for (const input of inputs.value) {
+    const reading = readInput(input.text, input);
+    if (reading.trouble !== undefined) troubles[input.letter] = reading.trouble;
+    else given[propertyOf(input.letter).name] = reading.value;
+  }
+  if (Object.keys(troubles).length > 0) return { troubles };
+  try {
+    return { state: steam.value.state(given) };
+  } catch (failure) {
+    const reason = reasonOf(failure);
+    for (const input of blamed(reason, inputs.value)) troubles[input.letter] = reason;
+    return { troubles, code: failure instanceof CalvexError ? failure.code : undefined };
+  }
+});
+
+/** Another pair: what the state is now, in other properties. */
+export function choosePair(next: string) {
+  const { state } = answer.value;
+  replace(
+    withInputs(
+      Object.fromEntries(
+        next.split('').map(letter => {
+          const known = state?.get(propertyOf(letter).name) ?? NaN;
+          const kept = address.value.values[letter];
+          const text = Number.isFinite(known)
+            ? exampleText(-1, known)
+            : (kept ?? firstText(letter, next));
+          return [letter, text];
+        }),
+      ),
+    ),
+  );
+}
+
+/** The address with these inputs of the state. */
+export function withInputs(texts: Record<string, string>) {
+  const others = Object.fromEntries(
+    lettersOf(Object.keys(address.value.values)).map(letter => [letter, undefined]),
+  );
+  const without = changed(others);
+  return { ...without, values: { ...texts, ...without.values } };
+}

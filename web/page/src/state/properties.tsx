@@ -1,0 +1,131 @@
+// Every property of the state, and the saturated liquid and vapour beside it.
+import type { State } from 'calvex/load';
+
+import {
+  capital,
+  letterRow,
+  pretty,
+  propertyOf,
+  reasonOf,
+  show,
+  steam,
+  unitName,
+} from '../engine.ts';
+import { useLater } from '../shell/later.ts';
+import { warnings } from './trace.tsx';
+
+/** What a phase is called in a sentence. */
+export function phaseText(state: State): string {
+  if (state.phase !== 'two-phase') return capital(state.phase);
+  return `Wet steam: ${show(state.x, 6)}${pretty(state.unit('x'))} of the mass is vapour`;
+}
+
+/** A mixture has no more than its eight properties; of one phase the phase says the quality. */
+const shown = (state: State) =>
+  state
+    .all()
+    .filter(row => (state.phase === 'two-phase' ? !Number.isNaN(row.value) : row.name !== 'x'));
+
+export function Properties({ state }: { state: State }) {
+  const later = useLater();
+  return (
+    <section aria-labelledby="properties-title">
+      <h2 id="properties-title" class="phase">
+        {phaseText(state)}
+      </h2>
+      {later &&
+        warnings.value.map(text => (
+          <p key={text} class="warning">
+            {text}
+          </p>
+        ))}
+      <table class="properties">
+        <caption class="unseen">Properties of the state</caption>
+        <thead class="unseen">
+          <tr>
+            <th scope="col">Property</th>
+            <th scope="col">Letter</th>
+            <th scope="col">Value</th>
+            <th scope="col">Unit</th>
+          </tr>
+        </thead>
+        <tbody>
+          {shown(state).map(row => (
+            <tr key={row.name} data-letter={row.letter}>
+              <th scope="row">{capital(row.words)}</th>
+              <td class="letter">{row.name}</td>
+              {row.reason ? (
+                <td class="why" colSpan={2}>
+                  {row.reason}
+                </td>
+              ) : (
+                <>
+                  <td class="number" data-value={row.value}>
+                    {show(row.value)}
+                  </td>
+                  <td class="unit">{pretty(row.unit)}</td>
+                </>
+              )}
+            </tr>
+          ))}
+        </tbody>
+      </table>
+    </section>
+  );
+}
+
+/** What both ends of a tie line have. */
+const saturated = ['V', 'R', 'H', 'S', 'U'];
+
+export function Saturation({ state }: { state: State }) {
+  let phases: State[];
+  let at: string;
+  try {
+    phases = [0, 1].map(end => steam.value.state({ P: state.P, x: end * fullQuality() }));
+    at =
+      `${show(phases[0]!.P)} ${pretty(unitName(letterRow('P').group))}, ` +
+      `${show(phases[0]!.T)} ${pretty(unitName(letterRow('T').group))}`;
+  } catch (failure) {
+    return (
+      <section class="saturation" aria-labelledby="saturation-title">
+        <h2 id="saturation-title">Saturation at this pressure</h2>
+        <p class="quiet">{reasonOf(failure)}</p>
+      </section>
+    );
+  }
+  return (
+    <section class="saturation" aria-labelledby="saturation-title">
+      <h2 id="saturation-title">Saturation at this pressure</h2>
+      <table class="properties">
+        <caption>{at}</caption>
+        <thead>
+          <tr>
+            <td />
+            <th scope="col">Liquid</th>
+            <th scope="col">Vapour</th>
+            <th scope="col">Unit</th>
+          </tr>
+        </thead>
+        <tbody>
+          {saturated.map(letter => {
+            const { name, words, group } = propertyOf(letter);
+            return (
+              <tr key={letter}>
+                <th scope="row">{capital(words)}</th>
+                {phases.map((phase, i) => (
+                  <td key={i} class="number">
+                    {show(phase.get(name), 8)}
+                  </td>
+                ))}
+                <td class="unit">{pretty(unitName(group))}</td>
+              </tr>
+            );
+          })}
+        </tbody>
+      </table>
+    </section>
+  );
+}
+
+/** All vapour in the unit of qualities: 1, or 100 %. */
+export const fullQuality = (): number => (unitName(letterRow('Q').group) === '%' ? 100 : 1);
