@@ -523,7 +523,9 @@ Public Sub InsertSaturationTable()
   Set at = ActiveCell
   heads = Split("temperature|pressure|volume, liquid|volume, vapour|enthalpy, liquid|enthalpy, vapour|entropy, liquid|entropy, vapour", "|")
   groups = Split("T|P|V|V|H|H|S|S", "|")
-  formulas = Split("|SteamPSatT(#)|SteamVSatTQ(#,0)|SteamVSatTQ(#,1)|SteamHSatTQ(#,0)|SteamHSatTQ(#,1)|SteamSSatTQ(#,0)|SteamSSatTQ(#,1)", "|")
+  ' Q is 1 as a fraction and 100 in per cent.
+  formulas = Split("|SteamPSatT(#)|SteamVSatTQ(#,0)|SteamVSatTQ(#,Q)|SteamHSatTQ(#,0)|SteamHSatTQ(#,Q)|SteamSSatTQ(#,0)|SteamSSatTQ(#,Q)", "|")
+  If Not HasRoom(at, 39, UBound(heads) + 1) Then Exit Sub
   For k = 0 To UBound(heads)
     at.Offset(0, k).Value2 = heads(k)
     at.Offset(1, k).Formula = "=SteamUnit(""" & groups(k) & """)"
@@ -531,15 +533,30 @@ Public Sub InsertSaturationTable()
   For row = 2 To 38
     at.Offset(row, 0).Formula = InUnits(10 * (row - 1), "T", "C")
     For k = 1 To UBound(heads)
-      at.Offset(row, k).Formula = "=" & Replace(formulas(k), "#", at.Offset(row, 0).Address(False, True))
+      at.Offset(row, k).Formula = "=" & Replace(Replace(formulas(k), "#", at.Offset(row, 0).Address(False, True)), ",Q)", "," & Mid(InUnits(1, "Q", "Fraction"), 2) & ")")
     Next
   Next
 End Sub
 
+' What a macro writes over cannot be undone.
+Private Function HasRoom(at, rows, columns)
+  Dim row, column
+  On Error Resume Next  ' behind the sheet's end there are no cells
+  HasRoom = True
+  For row = 0 To rows - 1
+    For column = 0 To columns - 1
+      If Not IsEmpty(at.Offset(row, column).Value2) Then HasRoom = False
+      If Err.Number <> 0 Then HasRoom = False
+    Next
+  Next
+  If Not HasRoom Then MsgBox "Select a cell with " & rows & " empty rows and " & columns & " empty columns from there on."
+End Function
+
 ' The same for everything about one state, of a pressure and a temperature to be overwritten.
 Public Sub InsertStateTable()
-  Dim rows, parts, at, state, k
+  Dim rows, at, state, k
   Set at = ActiveCell
+  If Not HasRoom(at, 12, 3) Then Exit Sub
   at.Value2 = "pressure"
   at.Offset(0, 1).Formula = InUnits(10, "P", "MPa")
   at.Offset(0, 2).Formula = "=SteamUnit(""P"")"

@@ -46,7 +46,7 @@ for path, page in pages.items():
         elif parts.fragment and parts.fragment not in pages[target].names:
             faults.append(f"{path.name}: there is no #{parts.fragment} in {target.name}")
     text = "".join(page.text)
-    faults += [f"{path.name}: {mark} is left of the Markdown" for mark in ("](", "**", "\n|", "\n#", ".md")
+    faults += [f"{path.name}: {mark} is left of the Markdown" for mark in ("](", "**", "\n|", "\n# ", "\n## ", ".md")
                if mark in text]
 reached = {(path.parent / urllib.parse.urlparse(link).path).resolve()
            for path, page in pages.items() for link in page.links}

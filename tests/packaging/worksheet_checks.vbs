@@ -238,18 +238,29 @@ Auto_Open
 Equal "the menu", Application.CommandBars.Bar.Controls.Added.Caption, "Calvex"
 Equal "its commands", Application.CommandBars.Bar.Controls.Added.Controls.Count, 5
 Equal "the last of them", Application.CommandBars.Bar.Controls.Added.Controls.Added.OnAction, "InsertStateTable"
-Equal "texts for the wizard", Application.Described("SteamHPT")(0), "Enthalpy from pressure and temperature."
-Equal "and for its inputs", Application.Described("SteamHPT")(2)(1), _
+Dim described, inputs
+described = Application.Described.Item("SteamHPT")
+inputs = described(2)
+Equal "texts for the wizard", Left(described(0), 39), "Enthalpy from pressure and temperature."
+Equal "and for its inputs", inputs(1), _
   "Temperature, from 260 to 2500 K, or in the unit of the workbook."
-Equal "in a category", Application.Described("SteamTurbineA")(1), "Calvex equipment"
+described = Application.Described.Item("SteamTurbineA")
+Equal "in a category", described(1), "Calvex equipment"
 Equal "of all functions", Application.Described.Count > 150, True
 
 ' Tables.
 Set ActiveCell = CellOf(Empty)
 InsertSaturationTable
 Equal "a formula of the table", ActiveCell.Offset(2, 1).Formula, "=SteamPSatT($A3)"
-Equal "the last one", ActiveCell.Offset(38, 7).Formula, "=SteamSSatTQ($A39,1)"
+Equal "the last one", ActiveCell.Offset(38, 7).Formula, _
+  "=SteamSSatTQ($A39,SteamConvert(1,""Q"",""Fraction"",SteamUnit(""Q"")))"
 Equal "a temperature", ActiveCell.Offset(38, 0).Formula, "=SteamConvert(370,""T"",""C"",SteamUnit(""T""))"
+Set written = CreateObject("Scripting.Dictionary")
+ActiveCell.Offset(11, 2).Value2 = "mine"
+said = Empty
+InsertStateTable
+Equal "no room for a table", Left(said, 46), "Select a cell with 12 empty rows and 3 empty c"
+Equal "so nothing is written", IsEmpty(ActiveCell.Offset(2, 1).Formula), True
 Set written = CreateObject("Scripting.Dictionary")
 InsertStateTable
 Equal "a formula of the state", ActiveCell.Offset(2, 1).Formula, "=SteamHPT(B1,B2)"
