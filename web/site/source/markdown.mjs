@@ -50,12 +50,21 @@ function tidyTables(tokens) {
   return kept;
 }
 
+/** A heading's name in links, as the places where the guides are read as they are make it. */
+const slug = title =>
+  title
+    .toLowerCase()
+    .replace(/[^\p{L}\p{N}\s_-]/gu, '')
+    .trim()
+    .replace(/\s/g, '-');
+
 function parser(source, pages, headings) {
   const markdown = new MarkdownIt({ html: false });
   markdown.use(anchor, {
     tabIndex: false,
-    callback: (token, { slug, title }) =>
-      headings.push({ level: Number(token.tag[1]), slug, title }),
+    slugify: slug,
+    callback: (token, { slug: name, title }) =>
+      headings.push({ level: Number(token.tag[1]), slug: name, title }),
   });
   markdown.core.ruler.push('site', state => {
     state.tokens = tidyTables(state.tokens);
