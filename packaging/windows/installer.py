@@ -23,7 +23,7 @@ ONLY_IN_THE_ZIP = {"register.cmd", "unregister.cmd", "readme.txt"}
 SHORTCUTS = [  # name, target, arguments
     ("Calvex guide", "[#{windows.html}]", ""),
     ("Calvex examples", "[{examples}]", ""),
-    ("Calvex command line", "[SystemFolder]cmd.exe", '/k ""[#{calvex.exe}]" --help"'),
+    ("Calvex command line", "[{system}]cmd.exe", '/k ""[#{calvex.exe}]" --help"'),
 ]
 
 
@@ -135,7 +135,8 @@ class Package:
     def shortcuts(self, menu):
         own = self.bits[0]
         known = {"windows.html": file_id("docs/windows.html"), "examples": directory_id("examples"),
-                 "calvex.exe": file_id(f"{own}/calvex.exe")}
+                 "calvex.exe": file_id(f"{own}/calvex.exe"),
+                 "system": "System64Folder" if self.architecture == "x64" else "SystemFolder"}
         parent = xml.SubElement(menu, "Component", Id="shortcuts", Guid=self.code("shortcuts"),
                                 Win64="no" if self.architecture == "x86" else "yes")
         self.components.append("shortcuts")
@@ -165,6 +166,11 @@ class Package:
                        "A newer Calvex is installed. Remove it first to go back to this one.")
         condition = xml.SubElement(product, "Condition", Message="Calvex needs Windows 7 or later.")
         condition.text = "Installed OR VersionNT >= 601"
+        if self.architecture == "x86":  # it would take the 64-bit parts away without a word
+            condition = xml.SubElement(
+                product, "Condition", Message="This is a 64-bit Windows. Take the x64 package: it serves "
+                "32-bit programs, too. (ONLY32BIT=1 installs this one all the same.)")
+            condition.text = "Installed OR NOT VersionNT64 OR ONLY32BIT"
         for name, value in (("ARPNOMODIFY", "1"), ("ARPCOMMENTS", "Properties of water and steam")):
             xml.SubElement(product, "Property", Id=name, Value=value)
 
