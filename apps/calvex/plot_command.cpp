@@ -9,6 +9,7 @@
 
 #include "client.h"
 #include "command_line.h"
+#include "environment.h"
 #ifndef _WIN32
 #include <spawn.h>
 #include <sys/wait.h>
@@ -80,8 +81,8 @@ ExitStatus plotCommand(const Words& words, Console& console) {
   options.applyTo(client);  // refuses what is no unit
 
   // The first Python on the path may not be the system's, for which packages are installed.
-  const char* const chosen = std::getenv("CALVEX_PYTHON");
-  const Words pythons = chosen != nullptr ? Words{chosen} : Words{"python3", "/usr/bin/python3"};
+  const auto chosen = environmentVariable("CALVEX_PYTHON");
+  const Words pythons = chosen ? Words{*chosen} : Words{"python3", "/usr/bin/python3"};
   std::optional<int> status;
   console.out.flush();
   for (const std::string& python : pythons) {

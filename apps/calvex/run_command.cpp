@@ -1,14 +1,8 @@
 // calvex run [FILE|-]
-#include <fmt/format.h>
-
-#include <cerrno>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <istream>
 
 #include "command_line.h"
-#include "encoding.h"
+#include "input_file.h"
 #include "script.h"
 
 namespace calvex::cli {
@@ -45,14 +39,7 @@ ExitStatus runCommand(const Words& words, Console& console) {
   if (shell && !options.json) return runShell(console, options);
   if (file == "-") return runScript(console.in, console, options);
 
-  if (std::filesystem::is_directory(file)) {
-    throw UsageError(fmt::format("cannot read {}: it is a directory", inQuotes(file)));
-  }
-  errno = 0;
-  std::ifstream in(file, std::ios::binary);
-  if (!in) {
-    throw UsageError(fmt::format("cannot read {}: {}", inQuotes(file), std::strerror(errno)));
-  }
+  std::ifstream in = openedInput(file);
   return runScript(in, console, options);
 }
 
