@@ -123,6 +123,9 @@ class Package:
                                  Win64="no" if narrow else "yes")
         xml.SubElement(element, "File", Id=file_id(path), KeyPath="yes",
                        Source=f"{self.folder.name}/{path}", Name=path.name)
+        if path == pathlib.PurePath(self.bits[0], "calvex.exe"):
+            xml.SubElement(element, "RegistryValue", Root=self.hive, Key="Software\\Calvex", Name="Folder",
+                           Type="string", Value="[INSTALLDIR]")
         if path.name == "calvex.dll":
             for key, name, value in registration(bits, bits == self.bits[0]):
                 if re.match(r"(CLSID|Interface)\\", key):
@@ -171,6 +174,15 @@ class Package:
                 product, "Condition", Message="This is a 64-bit Windows. Take the x64 package: it serves "
                 "32-bit programs, too. (ONLY32BIT=1 installs this one all the same.)")
             condition.text = "Installed OR NOT VersionNT64 OR ONLY32BIT"
+        if self.scope == "perUser":  # its registry is one user's
+            condition = xml.SubElement(
+                product, "Condition", Message="This package installs for one user. ALLUSERS=1 belongs to "
+                f"the one for all users, {self.file_name().replace(self.ending, '')}.")
+            condition.text = "Installed OR NOT ALLUSERS"
+        # A place of the user's own is kept by repairs, by upgrades and by the removal.
+        before = xml.SubElement(product, "Property", Id="INSTALLEDDIR")
+        xml.SubElement(before, "RegistrySearch", Id="installed", Root=self.hive, Key="Software\\Calvex",
+                       Name="Folder", Type="raw", Win64="yes" if self.architecture == "x64" else "no")
         for name, value in (("ARPNOMODIFY", "1"), ("ARPCOMMENTS", "Properties of water and steam")):
             xml.SubElement(product, "Property", Id=name, Value=value)
 
@@ -199,7 +211,8 @@ class Package:
     def changes(self):
         """What wixl has no words for. The same version of another word length is replaced, too (512: up
         to this one and it): they share their names. The command line is found by its name: "=" creates,
-        "-" takes away with the component, "*" means the machine's, "[~]" stands for what there is."""
+        "-" takes away with the component, "*" means the machine's, "[~]" stands for what there is. An action
+        of type 51 sets a property."""
         machine = "*" if self.scope == "perMachine" else ""
         own = self.bits[0]
         return [
@@ -213,10 +226,20 @@ class Package:
             "INSERT INTO `Environment` (`Environment`, `Name`, `Value`, `Component_`) VALUES ('path', "
             f"'=-{machine}PATH', '[~];[{directory_id(own)}]', "
             f"'{name_id('component', own + '/calvex.exe')}')",
-            *("INSERT INTO `InstallExecuteSequence` (`Action`, `Condition`, `Sequence`) VALUES "
-              f"('{action}', '', {place})"
-              for action, place in (("WriteEnvironmentStrings", 5200),
-                                    ("RemoveEnvironmentStrings", 3300))),
+            "UPDATE `Property` SET `Value` = 'WIX_DOWNGRADE_DETECTED;WIX_UPGRADE_DETECTED;INSTALLDIR' "
+            "WHERE `Property` = 'SecureCustomProperties'",
+            *("INSERT INTO `CustomAction` (`Action`, `Type`, `Source`, `Target`) VALUES "
+              f"('{action}', 51, '{name}', '[{value}]')"
+              for action, name, value in (("StayThere", "INSTALLDIR", "INSTALLEDDIR"),
+                                          ("TellThePlace", "ARPINSTALLLOCATION", "INSTALLDIR"))),
+            *(f"INSERT INTO `Install{sequence}Sequence` (`Action`, `Condition`, `Sequence`) VALUES "
+              f"('{action}', '{condition}', {place})"
+              for sequence, action, condition, place in (
+                  ("UI", "StayThere", "INSTALLEDDIR AND NOT INSTALLDIR", 60),
+                  ("Execute", "StayThere", "INSTALLEDDIR AND NOT INSTALLDIR", 60),
+                  ("Execute", "TellThePlace", "", 1010),
+                  ("Execute", "RemoveEnvironmentStrings", "", 3300),
+                  ("Execute", "WriteEnvironmentStrings", "", 5200))),
         ]
 
     def make(self, target):
