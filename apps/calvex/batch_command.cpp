@@ -62,10 +62,10 @@ ExitStatus batchCommand(const Words& words, Console& console) {
                      "Adds computed columns to a table: CSV or TSV with a line of names.");
   app.footer(
       "Examples:\n"
-      "  calvex batch plant.csv 'h=HPT(P,T)' 's=SPT(P,T)' 'x=QPH(P,h)' -u T=C -o out.csv\n"
-      "  calvex batch plant.csv 'h=HPT(\"Pressure, bar\",Steam temp)' -u P=bara -u T=C\n"
-      "  calvex batch plant.csv 'w=TurbineA(h,P,0.01,0.85,flow).Power' -o power.csv\n"
-      "  zcat history.csv.gz | calvex batch - 'Tsat=TSatP(P)' | gzip > out.csv.gz\n"
+      "  calvex batch plant.csv \"h=HPT(P,T)\" \"s=SPT(P,T)\" \"x=QPH(P,h)\" -u T=C -o out.csv\n"
+      "  calvex batch plant.csv \"h=HPT(\\\"Pressure, bar\\\",Steam temp)\" -u P=bara -u T=C\n"
+      "  calvex batch plant.csv \"w=TurbineA(h,P,0.01,0.85,flow).Power\" -o power.csv\n"
+      "  calvex batch - \"Tsat=TSatP(P)\" < history.csv > out.csv\n"
       "An input is a column of the table, one added before it, or a number. Names with blanks may\n"
       "stand as they are; those with , ( ) = and numbers stand in double quotes. A member with\n"
       "several results is followed by the name of one; 'calvex members TurbineA' lists them.\n"
@@ -91,13 +91,13 @@ ExitStatus batchCommand(const Words& words, Console& console) {
   if (rest->empty()) {
     throw UsageError(
         "batch takes a file, or - for standard input, and columns to add, as in\n"
-        "calvex batch plant.csv 'h=HPT(P,T)' -o out.csv");
+        "calvex batch plant.csv \"h=HPT(P,T)\" -o out.csv");
   }
   for (const std::string& word : std::span(*rest).subspan(1)) {
     request.columns.push_back(readBatchColumn(word));
   }
   if (request.columns.empty()) {
-    throw UsageError(fmt::format("which columns are to be added to {}? For example 'h=HPT(P,T)'",
+    throw UsageError(fmt::format("which columns are to be added to {}? For example \"h=HPT(P,T)\"",
                                  inQuotes(rest->front())));
   }
   if (!separator.empty()) request.separator = separatorNamed(separator);

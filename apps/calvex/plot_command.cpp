@@ -10,6 +10,7 @@
 #include "client.h"
 #include "command_line.h"
 #include "environment.h"
+#include "system_words.h"
 #ifndef _WIN32
 #include <spawn.h>
 #include <sys/wait.h>
@@ -56,10 +57,11 @@ ExitStatus plotCommand(const Words& words, Console& console) {
                      "Draws a diagram of water and steam in your units: temperature over entropy, "
                      "enthalpy over\nentropy (Mollier), pressure over enthalpy or over volume.");
   app.footer(
-      "Examples:\n"
-      "  calvex plot hs -u T=C -u P=bar -o mollier.svg\n"
-      "  calvex plot Ts --dark -o page.png\n"
-      "The Python package calvex draws, with matplotlib; docs/python.md tells more.");
+      fmt::format("Examples:\n"
+                  "  calvex plot hs -u T=C -u P=bar -o mollier.svg\n"
+                  "  calvex plot Ts --dark -o page.png\n"
+                  "It needs {}",
+                  here::pythonPackage));
   std::string output;
   bool dark = false;
   ClientOptions options;
@@ -98,10 +100,7 @@ ExitStatus plotCommand(const Words& words, Console& console) {
                               pythons.back()));
   }
   if (*status == packageMissing) {
-    throw Failure(ExitStatus::callFailed,
-                  "plot needs the Python package calvex, with matplotlib: apt install "
-                  "python3-calvex python3-matplotlib, or pip install .\n"
-                  "CALVEX_PYTHON names the Python that has them");
+    throw Failure(ExitStatus::callFailed, fmt::format("plot needs {}", here::pythonPackage));
   }
   return *status == 0 ? ExitStatus::ok : ExitStatus::callFailed;
 }

@@ -102,6 +102,21 @@ TEST_F(WindowsProgram, RepeatsAWordThatItDoesNotKnow) {
       << read(L"err");
 }
 
+TEST_F(WindowsProgram, HelpsWithoutAdviceForOtherSystems) {
+  for (const wchar_t* command : {L"batch", L"config", L"plot", L"run"}) {
+    EXPECT_EQ(calvex(std::wstring(L"help ") + command), 0U);
+    const std::string help = read(L"out");
+    EXPECT_GT(help.size(), 300U);
+    for (const char* foreign :
+         {"~/", "XDG", "zcat", "gzip", "apt ", "pip ", "Ctrl-D", "Tab", "'h="}) {
+      EXPECT_EQ(help.find(foreign), std::string::npos) << foreign << " in:\n" << help;
+    }
+  }
+  EXPECT_EQ(calvex(L"plot hs -o x.svg"), 1U);
+  EXPECT_EQ(read(L"err"),
+            "calvex: plot needs the Python package calvex, which is not made for Windows\r\n");
+}
+
 TEST_F(WindowsProgram, ReadsAndWritesFilesWhateverTheirNames) {
   write(L"Łódź тест 锅炉.csv", "P,T\n10,773.15\n");
   EXPECT_EQ(calvex(LR"(batch "Łódź тест 锅炉.csv" h=HPT(P,T) -o котельная.csv)"), 0U)
