@@ -2,20 +2,20 @@
 #include <fmt/format.h>
 #include <fmt/ostream.h>
 
-#include <cerrno>
 #include <cstdint>
-#include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <istream>
 #include <span>
 
 #include "batch.h"
 #include "command_line.h"
 #include "encoding.h"
+#include "environment.h"
+#include "input_file.h"
 #include "numbers.h"
 #include "output_file.h"
 #include "progress.h"
+#include "terminal.h"
 
 namespace calvex::cli {
 
@@ -33,33 +33,23 @@ char separatorNamed(const std::string& name) {
       fmt::format("--separator takes comma, semicolon or tab, not {}", inQuotes(name)));
 }
 
-std::ifstream opened(const std::string& file) {
-  if (fs::is_directory(file)) {
-    throw UsageError(fmt::format("cannot read {}: it is a directory", inQuotes(file)));
-  }
-  errno = 0;
-  std::ifstream in(file, std::ios::binary);
-  if (!in) {
-    throw UsageError(fmt::format("cannot read {}: {}", inQuotes(file), std::strerror(errno)));
-  }
-  return in;
-}
-
 BatchOutcome run(const std::string& file, const std::string& output, const BatchRequest& request,
                  Console& console) {
   const bool standardInput = file == "-";
+  const fs::path input = standardInput ? "/dev/stdin" : pathNamed(file);
   std::error_code ignored;
-  if (!output.empty() && fs::equivalent(standardInput ? "/dev/stdin" : file, output, ignored)) {
+  if (!output.empty() && fs::equivalent(input, pathNamed(output), ignored)) {
     throw UsageError(
         fmt::format("{} is the input; give the output another name", inQuotes(output)));
   }
-  std::ifstream opening = standardInput ? std::ifstream() : opened(file);
+  std::ifstream opening = standardInput ? std::ifstream() : openedInput(file);
   std::istream& in = standardInput ? console.in : opening;
-  const auto size = standardInput ? 0 : fs::file_size(file, ignored);
+  const auto size = standardInput ? 0 : fs::file_size(input, ignored);
   Progress bar(console.err, ignored ? 0 : static_cast<std::int64_t>(size), console.errIsTerminal);
   const auto progress = [&](std::size_t bytes) { bar.at(static_cast<std::int64_t>(bytes)); };
+  passBytesThrough();
   if (output.empty()) return runBatch(in, console.out, request, progress);
-  OutputFile out(output);
+  OutputFile out(pathNamed(output));
   BatchOutcome outcome = runBatch(in, out.stream(), request, progress);
   out.finish();
   return outcome;
@@ -72,10 +62,10 @@ ExitStatus batchCommand(const Words& words, Console& console) {
                      "Adds computed columns to a table: CSV or TSV with a line of names.");
   app.footer(
       "Examples:\n"
-      "  calvex batch plant.csv 'h=HPT(P,T)' 's=SPT(P,T)' 'x=QPH(P,h)' -u T=C -o out.csv\n"
-      "  calvex batch plant.csv 'h=HPT(\"Pressure, bar\",Steam temp)' -u P=bara -u T=C\n"
-      "  calvex batch plant.csv 'w=TurbineA(h,P,0.01,0.85,flow).Power' -o power.csv\n"
-      "  zcat history.csv.gz | calvex batch - 'Tsat=TSatP(P)' | gzip > out.csv.gz\n"
+      "  calvex batch plant.csv \"h=HPT(P,T)\" \"s=SPT(P,T)\" \"x=QPH(P,h)\" -u T=C -o out.csv\n"
+      "  calvex batch plant.csv \"h=HPT(\\\"Pressure, bar\\\",Steam temp)\" -u P=bara -u T=C\n"
+      "  calvex batch plant.csv \"w=TurbineA(h,P,0.01,0.85,flow).Power\" -o power.csv\n"
+      "  calvex batch - \"Tsat=TSatP(P)\" < history.csv > out.csv\n"
       "An input is a column of the table, one added before it, or a number. Names with blanks may\n"
       "stand as they are; those with , ( ) = and numbers stand in double quotes. A member with\n"
       "several results is followed by the name of one; 'calvex members TurbineA' lists them.\n"
@@ -101,13 +91,13 @@ ExitStatus batchCommand(const Words& words, Console& console) {
   if (rest->empty()) {
     throw UsageError(
         "batch takes a file, or - for standard input, and columns to add, as in\n"
-        "calvex batch plant.csv 'h=HPT(P,T)' -o out.csv");
+        "calvex batch plant.csv \"h=HPT(P,T)\" -o out.csv");
   }
   for (const std::string& word : std::span(*rest).subspan(1)) {
     request.columns.push_back(readBatchColumn(word));
   }
   if (request.columns.empty()) {
-    throw UsageError(fmt::format("which columns are to be added to {}? For example 'h=HPT(P,T)'",
+    throw UsageError(fmt::format("which columns are to be added to {}? For example \"h=HPT(P,T)\"",
                                  inQuotes(rest->front())));
   }
   if (!separator.empty()) request.separator = separatorNamed(separator);

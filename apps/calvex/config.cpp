@@ -2,12 +2,12 @@
 
 #include <fmt/format.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
 #include "client.h"
 #include "encoding.h"
+#include "environment.h"
 
 namespace calvex::cli {
 
@@ -15,10 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string environment(const char* name) {
-  const char* const value = std::getenv(name);
-  return value == nullptr ? std::string() : value;
-}
+std::string environment(const char* name) { return environmentVariable(name).value_or(""); }
 
 // A folder of the user's, as the XDG base directory specification has it: what the variable names
 // when that is an absolute path, else a folder in the home.
@@ -47,7 +44,7 @@ std::string_view trimmed(std::string_view text) {
 }  // namespace
 
 std::string configPath() {
-  if (std::getenv("CALVEX_CONFIG") != nullptr) return environment("CALVEX_CONFIG");
+  if (const auto named = environmentVariable("CALVEX_CONFIG")) return *named;
   return inUserFolder(userFolder("XDG_CONFIG_HOME", ".config"), "config");
 }
 
@@ -57,8 +54,8 @@ std::string historyPath() {
 
 StartingOptions readConfig(const std::string& path) {
   StartingOptions options;
-  std::ifstream in(path, std::ios::binary);
-  if (std::error_code error; !in && fs::exists(path, error)) {
+  std::ifstream in(pathNamed(path), std::ios::binary);
+  if (std::error_code error; !in && fs::exists(pathNamed(path), error)) {
     throw UsageError(fmt::format("cannot read {}\n--no-config leaves it out", path));
   }
   std::string text;
@@ -87,22 +84,23 @@ StartingOptions readConfig(const std::string& path) {
 }
 
 void writeConfig(const std::string& path, const StartingOptions& options) {
+  const fs::path file = pathNamed(path);
   std::error_code error;
   const auto check = [&](const char* action) {
     if (error) {
-      throw Failure(ExitStatus::callFailed,
-                    fmt::format("cannot {} {}: {}", action, path, error.message()));
+      throw Failure(ExitStatus::callFailed, fmt::format("cannot {} {}: {}", action, path,
+                                                        error.default_error_condition().message()));
     }
   };
   if (options.units.empty() && options.settings.empty()) {
-    fs::remove(path, error);
+    fs::remove(file, error);
     return check("remove");
   }
-  if (const fs::path folder = fs::path(path).parent_path(); !folder.empty()) {
+  if (const fs::path folder = file.parent_path(); !folder.empty()) {
     fs::create_directories(folder, error);
     check("make the folder of");
   }
-  const std::string fresh = path + ".new";
+  const fs::path fresh = pathNamed(path + ".new");
   {
     std::ofstream out(fresh, std::ios::binary);
     out << "# Units and settings that calvex starts with; 'calvex config' shows and changes "
@@ -115,7 +113,7 @@ void writeConfig(const std::string& path, const StartingOptions& options) {
       throw Failure(ExitStatus::callFailed, fmt::format("cannot write {}", path));
     }
   }
-  fs::rename(fresh, path, error);
+  fs::rename(fresh, file, error);
   check("write");
 }
 

@@ -10,6 +10,7 @@
 #include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "server/suggestions.h"
+#include "system_words.h"
 #include "units/unit_words.h"
 
 namespace calvex::cli {
@@ -58,7 +59,7 @@ std::string description(const StartingOptions& options) {
 ExitStatus configCommand(const Words& words, Console& console) {
   CommandOptions app("config", "config [NAME=VALUE...] [--clear]",
                      "Remembers units and settings in a file of yours, or shows what it holds.");
-  app.footer(
+  app.footer(fmt::format(
       "Examples:\n"
       "  calvex config                     show\n"
       "  calvex config T=C P=bar           remember units\n"
@@ -67,8 +68,9 @@ ExitStatus configCommand(const Words& words, Console& console) {
       "  calvex config --clear             forget all\n"
       "Every later call starts with them, and -u and -s go on from there; 'calvex run' and\n"
       "its scripts do so only with --config. --no-config leaves them out of one call.\n"
-      "The file is calvex/config in XDG_CONFIG_HOME (or ~/.config); CALVEX_CONFIG names another\n"
-      "one, or none when it is empty.");
+      "The file is calvex/config in {}; CALVEX_CONFIG names another\n"
+      "one, or none when it is empty.",
+      here::configFolder));
   Words assignments;
   ClientOptions chosen;
   bool clear = false;

@@ -10,6 +10,10 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#elif defined(_WIN32)
+#include <windows.h>
+
+#include "units/utf16.h"
 #endif
 
 namespace calvex::cli {
@@ -92,6 +96,23 @@ std::optional<std::string> LineEditor::read(const std::string& prompt) {
 
 #else
 
+namespace {
+
+// A Windows console hands over its own code page's bytes.
+std::string utf8OfTyped(std::string line) {
+#ifdef _WIN32
+  std::wstring wide(line.size(), L'\0');
+  const int size = static_cast<int>(line.size());
+  wide.resize(static_cast<std::size_t>(
+      MultiByteToWideChar(GetConsoleCP(), 0, line.data(), size, wide.data(), size)));
+  return utf8Of<wchar_t>(wide);
+#else
+  return line;
+#endif
+}
+
+}  // namespace
+
 LineEditor::LineEditor(std::string history, Completer /*newCompleter*/)
     : history_(std::move(history)) {}
 LineEditor::~LineEditor() = default;
@@ -100,7 +121,7 @@ std::optional<std::string> LineEditor::read(const std::string& prompt) {
   std::cout << prompt << std::flush;
   std::string line;
   if (!std::getline(std::cin, line)) return std::nullopt;
-  return line;
+  return utf8OfTyped(std::move(line));
 }
 
 #endif

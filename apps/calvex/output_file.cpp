@@ -13,6 +13,7 @@
 #endif
 
 #include "encoding.h"
+#include "environment.h"
 #include "failure.h"
 
 namespace calvex::cli {
@@ -22,7 +23,7 @@ namespace {
 namespace fs = std::filesystem;
 
 [[noreturn]] void refuse(const fs::path& file, std::string_view reason) {
-  throw UsageError(fmt::format("cannot write {}: {}", inQuotes(file.string()), reason));
+  throw UsageError(fmt::format("cannot write {}: {}", inQuotes(nameOf(file)), reason));
 }
 
 // False when there is one already.
@@ -83,7 +84,7 @@ OutputFile::OutputFile(const fs::path& file) {
       const fs::path part = std::exchange(part_, {});
       refuse(file, fmt::format("{} is there, of a run that is not finished; a run is not taken up "
                                "again: remove that file first",
-                               inQuotes(part.string())));
+                               inQuotes(nameOf(part))));
     }
   }
   errno = 0;
@@ -109,8 +110,9 @@ void OutputFile::finish() {
   if (stream_ && !part_.empty()) fs::rename(part_, file_, error);
   if (!stream_ || error) {
     throw Failure(ExitStatus::callFailed,
-                  fmt::format("cannot write {}: {}", inQuotes(file_.string()),
-                              error ? error.message() : "the device is full or failed"));
+                  fmt::format("cannot write {}: {}", inQuotes(nameOf(file_)),
+                              error ? error.default_error_condition().message()
+                                    : "the device is full or failed"));
   }
   if (!part_.empty()) endGuard();
   part_.clear();

@@ -9,6 +9,8 @@
 
 #include "client.h"
 #include "command_line.h"
+#include "environment.h"
+#include "system_words.h"
 #ifndef _WIN32
 #include <spawn.h>
 #include <sys/wait.h>
@@ -55,10 +57,11 @@ ExitStatus plotCommand(const Words& words, Console& console) {
                      "Draws a diagram of water and steam in your units: temperature over entropy, "
                      "enthalpy over\nentropy (Mollier), pressure over enthalpy or over volume.");
   app.footer(
-      "Examples:\n"
-      "  calvex plot hs -u T=C -u P=bar -o mollier.svg\n"
-      "  calvex plot Ts --dark -o page.png\n"
-      "The Python package calvex draws, with matplotlib; docs/python.md tells more.");
+      fmt::format("Examples:\n"
+                  "  calvex plot hs -u T=C -u P=bar -o mollier.svg\n"
+                  "  calvex plot Ts --dark -o page.png\n"
+                  "It needs {}",
+                  here::pythonPackage));
   std::string output;
   bool dark = false;
   ClientOptions options;
@@ -80,8 +83,8 @@ ExitStatus plotCommand(const Words& words, Console& console) {
   options.applyTo(client);  // refuses what is no unit
 
   // The first Python on the path may not be the system's, for which packages are installed.
-  const char* const chosen = std::getenv("CALVEX_PYTHON");
-  const Words pythons = chosen != nullptr ? Words{chosen} : Words{"python3", "/usr/bin/python3"};
+  const auto chosen = environmentVariable("CALVEX_PYTHON");
+  const Words pythons = chosen ? Words{*chosen} : Words{"python3", "/usr/bin/python3"};
   std::optional<int> status;
   console.out.flush();
   for (const std::string& python : pythons) {
@@ -97,10 +100,7 @@ ExitStatus plotCommand(const Words& words, Console& console) {
                               pythons.back()));
   }
   if (*status == packageMissing) {
-    throw Failure(ExitStatus::callFailed,
-                  "plot needs the Python package calvex, with matplotlib: apt install "
-                  "python3-calvex python3-matplotlib, or pip install .\n"
-                  "CALVEX_PYTHON names the Python that has them");
+    throw Failure(ExitStatus::callFailed, fmt::format("plot needs {}", here::pythonPackage));
   }
   return *status == 0 ? ExitStatus::ok : ExitStatus::callFailed;
 }

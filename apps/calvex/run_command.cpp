@@ -1,22 +1,19 @@
 // calvex run [FILE|-]
 #include <fmt/format.h>
 
-#include <cerrno>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <istream>
 
 #include "command_line.h"
-#include "encoding.h"
+#include "input_file.h"
 #include "script.h"
+#include "system_words.h"
 
 namespace calvex::cli {
 
 ExitStatus runCommand(const Words& words, Console& console) {
   CommandOptions app("run", "run [FILE|-] [OPTIONS]",
                      "Runs a script with one client object: one call a line.");
-  app.footer(
+  app.footer(fmt::format(
       "A line is a member and its arguments, or a setting with or without a new value:\n"
       "  HPT 10 773.15\n"
       "  SetUserUnit P \"ft H2O\"      # texts with blanks stand in quotes\n"
@@ -24,8 +21,9 @@ ExitStatus runCommand(const Words& words, Console& console) {
       "Three more words: 'trace' prints the tree of traced calls, 'reset' makes a new client\n"
       "object, 'quit' ends the script. A line that cannot be run is reported and the next one "
       "runs.\n"
-      "On a terminal, without FILE, it is a shell with history, completion (Tab) and help.\n"
-      "Exit status: 2 when a line could not be run, else 1 when a call failed, else 0.");
+      "On a terminal, without FILE, it is {} and help.\n"
+      "Exit status: 2 when a line could not be run, else 1 when a call failed, else 0.",
+      here::shell));
   std::string file = "-";
   ClientOptions options;
   app.add_option("FILE", file, "The script; - or nothing: standard input")->type_name("");
@@ -45,14 +43,7 @@ ExitStatus runCommand(const Words& words, Console& console) {
   if (shell && !options.json) return runShell(console, options);
   if (file == "-") return runScript(console.in, console, options);
 
-  if (std::filesystem::is_directory(file)) {
-    throw UsageError(fmt::format("cannot read {}: it is a directory", inQuotes(file)));
-  }
-  errno = 0;
-  std::ifstream in(file, std::ios::binary);
-  if (!in) {
-    throw UsageError(fmt::format("cannot read {}: {}", inQuotes(file), std::strerror(errno)));
-  }
+  std::ifstream in = openedInput(file);
   return runScript(in, console, options);
 }
 

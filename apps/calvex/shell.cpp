@@ -10,6 +10,7 @@
 #include "line_editor.h"
 #include "script.h"
 #include "server/suggestions.h"
+#include "system_words.h"
 #include "units/unit_words.h"
 
 namespace calvex::cli {
@@ -25,8 +26,8 @@ constexpr std::string_view shellHelp =
     "  units P                     units of pressure\n"
     "  help HPT                    what HPT takes and answers\n"
     "  trace, reset                the tree of traced calls; a new client object\n"
-    "  quit                        or Ctrl-D\n"
-    "Tab completes names; the arrows bring back earlier lines.\n";
+    "  quit                        or {}\n"
+    "{}\n";
 
 const CommandName* findCommand(std::string_view name) {
   static const std::vector<CommandName> commands = commandNames();
@@ -137,7 +138,7 @@ class Shell {
              std::string_view("0123456789.").find(word[1]) == std::string_view::npos;
     });
     if (words == Words{"help"} || words == Words{"?"}) {
-      console_.out << shellHelp;
+      fmt::print(console_.out, shellHelp, here::endOfInput, here::keys);
     } else if (words == Words{"run"}) {
       complain(console_, "this is the shell; 'run FILE' runs a script");
     } else if (findCommand(first) != nullptr || (hasOptions && findMember(first) != nullptr)) {

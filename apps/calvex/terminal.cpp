@@ -3,11 +3,14 @@
 #include <fmt/format.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#ifndef _WIN32
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#else
 #include <sys/ioctl.h>
 #endif
 
-#include <cstdlib>
+#include "environment.h"
 
 namespace calvex::cli {
 
@@ -17,11 +20,6 @@ bool sameFile(int one, int other) {
   struct stat a = {}, b = {};
   return fstat(one, &a) == 0 && fstat(other, &b) == 0 && a.st_dev == b.st_dev &&
          a.st_ino == b.st_ino && a.st_ino != 0;  // Windows has no such numbers
-}
-
-std::string_view environment(const char* name) {
-  const char* const value = std::getenv(name);
-  return value == nullptr ? std::string_view() : value;
 }
 
 }  // namespace
@@ -35,14 +33,18 @@ Terminal lookAtTerminal() {
 #ifndef _WIN32
   winsize size = {};
   if (terminal.out && ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0) terminal.outWidth = size.ws_col;
-#endif
+  // Not on Windows, whose older consoles print the codes.
   // https://no-color.org: any value but the empty one says no.
-  terminal.colour =
-      terminal.err && environment("NO_COLOR").empty() && environment("TERM") != "dumb";
-#ifdef _WIN32
-  terminal.colour = false;  // consoles of old Windows print the codes
+  terminal.colour = terminal.err && environmentVariable("NO_COLOR").value_or("").empty() &&
+                    environmentVariable("TERM") != "dumb";
 #endif
   return terminal;
+}
+
+void passBytesThrough() {
+#ifdef _WIN32
+  for (const int stream : {STDIN_FILENO, STDOUT_FILENO}) setmode(stream, O_BINARY);
+#endif
 }
 
 std::string coloured(std::string_view text, Colour colour, bool wanted) {

@@ -307,7 +307,7 @@ End Sub
 
 Private Function Reason()
   Reason = Err.Description
-  If Err.Number = 429 Then Reason = "The server is not registered for this Excel. Run register.cmd."
+  If Err.Number = 429 Then Reason = "The server is not registered for this Excel. Install Calvex for all users, or run register.cmd of the ZIP."
   Err.Clear
 End Function
 

@@ -23,7 +23,7 @@ ONLY_IN_THE_ZIP = {"register.cmd", "unregister.cmd", "readme.txt"}
 SHORTCUTS = [  # name, target, arguments
     ("Calvex guide", "[#{windows.html}]", ""),
     ("Calvex examples", "[{examples}]", ""),
-    ("Calvex command line", "[SystemFolder]cmd.exe", '/k ""[#{calvex.exe}]" --help"'),
+    ("Calvex command line", "[{system}]cmd.exe", '/k ""[#{calvex.exe}]" --help"'),
 ]
 
 
@@ -123,6 +123,9 @@ class Package:
                                  Win64="no" if narrow else "yes")
         xml.SubElement(element, "File", Id=file_id(path), KeyPath="yes",
                        Source=f"{self.folder.name}/{path}", Name=path.name)
+        if path == pathlib.PurePath(self.bits[0], "calvex.exe"):
+            xml.SubElement(element, "RegistryValue", Root=self.hive, Key="Software\\Calvex", Name="Folder",
+                           Type="string", Value="[INSTALLDIR]")
         if path.name == "calvex.dll":
             for key, name, value in registration(bits, bits == self.bits[0]):
                 if re.match(r"(CLSID|Interface)\\", key):
@@ -135,7 +138,8 @@ class Package:
     def shortcuts(self, menu):
         own = self.bits[0]
         known = {"windows.html": file_id("docs/windows.html"), "examples": directory_id("examples"),
-                 "calvex.exe": file_id(f"{own}/calvex.exe")}
+                 "calvex.exe": file_id(f"{own}/calvex.exe"),
+                 "system": "System64Folder" if self.architecture == "x64" else "SystemFolder"}
         parent = xml.SubElement(menu, "Component", Id="shortcuts", Guid=self.code("shortcuts"),
                                 Win64="no" if self.architecture == "x86" else "yes")
         self.components.append("shortcuts")
@@ -165,6 +169,20 @@ class Package:
                        "A newer Calvex is installed. Remove it first to go back to this one.")
         condition = xml.SubElement(product, "Condition", Message="Calvex needs Windows 7 or later.")
         condition.text = "Installed OR VersionNT >= 601"
+        if self.architecture == "x86":  # it would take the 64-bit parts away without a word
+            condition = xml.SubElement(
+                product, "Condition", Message="This is a 64-bit Windows. Take the x64 package: it serves "
+                "32-bit programs, too. (ONLY32BIT=1 installs this one all the same.)")
+            condition.text = "Installed OR NOT VersionNT64 OR ONLY32BIT"
+        if self.scope == "perUser":  # its registry is one user's
+            condition = xml.SubElement(
+                product, "Condition", Message="This package installs for one user. ALLUSERS=1 belongs to "
+                f"the one for all users, {self.file_name().replace(self.ending, '')}.")
+            condition.text = "Installed OR NOT ALLUSERS"
+        # A place of the user's own is kept by repairs, by upgrades and by the removal.
+        before = xml.SubElement(product, "Property", Id="INSTALLEDDIR")
+        xml.SubElement(before, "RegistrySearch", Id="installed", Root=self.hive, Key="Software\\Calvex",
+                       Name="Folder", Type="raw", Win64="yes" if self.architecture == "x64" else "no")
         for name, value in (("ARPNOMODIFY", "1"), ("ARPCOMMENTS", "Properties of water and steam")):
             xml.SubElement(product, "Property", Id=name, Value=value)
 
@@ -193,7 +211,8 @@ class Package:
     def changes(self):
         """What wixl has no words for. The same version of another word length is replaced, too (512: up
         to this one and it): they share their names. The command line is found by its name: "=" creates,
-        "-" takes away with the component, "*" means the machine's, "[~]" stands for what there is."""
+        "-" takes away with the component, "*" means the machine's, "[~]" stands for what there is. An action
+        of type 51 sets a property."""
         machine = "*" if self.scope == "perMachine" else ""
         own = self.bits[0]
         return [
@@ -207,10 +226,20 @@ class Package:
             "INSERT INTO `Environment` (`Environment`, `Name`, `Value`, `Component_`) VALUES ('path', "
             f"'=-{machine}PATH', '[~];[{directory_id(own)}]', "
             f"'{name_id('component', own + '/calvex.exe')}')",
-            *("INSERT INTO `InstallExecuteSequence` (`Action`, `Condition`, `Sequence`) VALUES "
-              f"('{action}', '', {place})"
-              for action, place in (("WriteEnvironmentStrings", 5200),
-                                    ("RemoveEnvironmentStrings", 3300))),
+            "UPDATE `Property` SET `Value` = 'WIX_DOWNGRADE_DETECTED;WIX_UPGRADE_DETECTED;INSTALLDIR' "
+            "WHERE `Property` = 'SecureCustomProperties'",
+            *("INSERT INTO `CustomAction` (`Action`, `Type`, `Source`, `Target`) VALUES "
+              f"('{action}', 51, '{name}', '[{value}]')"
+              for action, name, value in (("StayThere", "INSTALLDIR", "INSTALLEDDIR"),
+                                          ("TellThePlace", "ARPINSTALLLOCATION", "INSTALLDIR"))),
+            *(f"INSERT INTO `Install{sequence}Sequence` (`Action`, `Condition`, `Sequence`) VALUES "
+              f"('{action}', '{condition}', {place})"
+              for sequence, action, condition, place in (
+                  ("UI", "StayThere", "INSTALLEDDIR AND NOT INSTALLDIR", 60),
+                  ("Execute", "StayThere", "INSTALLEDDIR AND NOT INSTALLDIR", 60),
+                  ("Execute", "TellThePlace", "", 1010),
+                  ("Execute", "RemoveEnvironmentStrings", "", 3300),
+                  ("Execute", "WriteEnvironmentStrings", "", 5200))),
         ]
 
     def make(self, target):

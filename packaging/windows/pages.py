@@ -47,10 +47,10 @@ def body(markdown):
                   lambda m: f'<h{m[1]} id="{anchor(m[2])}">{m[2]}</h{m[1]}>', text)
 
 
-def write(sources, folder):
+def write(sources, folder, version):
     """Writes the pages into the folder. Links between them stay links; of those to other pages of docs/
-    the words stay."""
-    texts = {source.stem: source.read_text() for source in sources}
+    the words stay. VERSION in the name of a file becomes this one."""
+    texts = {source.stem: re.sub(r"-VERSION\b", f"-{version}", source.read_text()) for source in sources}
 
     def link(match):
         name, rest, words = match.groups()

@@ -224,6 +224,10 @@ class ZvThermoInt {
   /// message 104 and false.
   bool give(double* out, UnitGroup group, double value);
   bool give(double* out, double value);
+  /// Stores what the value in the unit `from` is in the unit `to`; where that is not finite the
+  /// error tells which conversion it was.
+  bool giveConverted(double* out, double result, double value, std::string_view from,
+                     std::string_view to);
 
   /// Where no temperature is known the strict pressure limit is that of 400 K.
   static constexpr double temperatureOfNone = 400.0;

@@ -1,4 +1,6 @@
 // The members that choose, read and convert units of measure.
+#include <cmath>
+
 #include "diagnostics/formatting.h"
 #include "engine/thermo_engine.h"
 
@@ -88,8 +90,18 @@ int ZvThermoInt::Convert(std::string_view strGroup, std::string_view strFromUnit
       return fail(
           fmt::sprintf("Cannot convert %s from %s to %s.", strGroup, strFromUnit, strToUnit));
     }
-    return give(dblToVal, result);
+    return giveConverted(dblToVal, result, dblFromVal, strFromUnit, strToUnit);
   });
+}
+
+bool ZvThermoInt::giveConverted(double* out, double result, double value, std::string_view from,
+                                std::string_view to) {
+  if (!std::isfinite(result)) {
+    return fail(fmt::format("Cannot convert {} {} to {}: the result is no finite number.", value,
+                            from, to));
+  }
+  *out = result;
+  return true;
 }
 
 }  // namespace calvex

@@ -119,7 +119,8 @@ ZvCalvex::Result Client::invoke(const Member& member, std::span<Value> arguments
     const double value = std::get<double>(*(arguments.end() - 2));
     double result = 0.0;
     const int success = engine().call(member.name, [&] {
-      return engine().give(&result, convert(*choice.units[0], *choice.units[1], value));
+      const ZvUomLiteKeyword &from = *choice.units[0], &to = *choice.units[1];
+      return engine().giveConverted(&result, convert(from, to, value), value, from.name, to.name);
     });
     if (success != 0) arguments.back() = result;
     return {HResult::ok, success};

@@ -1,7 +1,8 @@
 #include "ui/unit_selection.h"
 
 #include <charconv>
-#include <cmath>
+
+#include "units/number.h"
 
 namespace calvex {
 
@@ -31,17 +32,6 @@ constexpr std::array<UnitSelection::List, UnitSelection::listCount> unitLists = 
     {1019, UnitGroup::gibbsEnergy},
 }};
 
-bool isNumber(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t");
-  if (first == std::string_view::npos) return false;
-  text = text.substr(first, text.find_last_not_of(" \t") - first + 1);
-  if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
-  double value = 0;
-  const char* end = text.data() + text.size();
-  const auto [rest, error] = std::from_chars(text.data(), end, value);
-  return error == std::errc() && rest == end && std::isfinite(value);
-}
-
 }  // namespace
 
 std::span<const UnitSelection::List, UnitSelection::listCount> UnitSelection::lists() noexcept {
@@ -70,7 +60,7 @@ bool UnitSelection::accept(const Choices& choices, std::string_view atmosphericP
     const auto unit = static_cast<std::size_t>(choices[i]);
     units_.setCatalogueUnit(static_cast<int>(unitLists[i].group), entries(unitLists[i])[unit].name);
   }
-  return isNumber(atmosphericPressure);
+  return numberIn(atmosphericPressure).has_value();
 }
 
 }  // namespace calvex

@@ -1,6 +1,7 @@
 // The members that choose, tell and convert units, in every units mode.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
 #include <map>
 #include <memory>
@@ -114,6 +115,16 @@ TEST_F(UnitMembers, ConvertNamesTheGroupAndBothUnitsWhenItCannot) {
   EXPECT_EQ(engine.LastError(), "Cannot convert P from bar to psia.");
   EXPECT_EQ(engine.Convert("p", "psia", "bar", 1.0, &value), 0);
   EXPECT_EQ(engine.LastError(), "Cannot convert p from psia to bar.");
+  EXPECT_EQ(value, untouched);
+}
+
+TEST_F(UnitMembers, ConvertTellsWhenThereIsNoNumberToAnswer) {
+  double value = untouched;
+  EXPECT_EQ(engine.Convert("P", "bara", "Pa", 1e308, &value), 0);
+  EXPECT_EQ(engine.LastError(),
+            "Cannot convert 1e+308 bara to Pa: the result is no finite number.");
+  EXPECT_EQ(engine.Convert("T", "K", "C", std::nan(""), &value), 0);
+  EXPECT_EQ(engine.LastError(), "Cannot convert nan K to C: the result is no finite number.");
   EXPECT_EQ(value, untouched);
 }
 

@@ -13,6 +13,7 @@ class Page(html.parser.HTMLParser):
     def __init__(self, path):
         super().__init__()
         self.links, self.names, self.open, self.text, self.tables = [], set(), [], [], 0
+        self.all_text, self.headings = "", []
         self.feed(path.read_text(encoding="utf-8"))
 
     def handle_starttag(self, tag, attributes):
@@ -20,6 +21,8 @@ class Page(html.parser.HTMLParser):
         self.links += [values[name] for name in ("href", "src") if name in values]
         self.names.add(values.get("id"))
         self.tables += tag == "table"
+        if tag == "th":
+            self.headings.append("")
         self.open.append(tag)
 
     def handle_endtag(self, tag):
@@ -27,6 +30,9 @@ class Page(html.parser.HTMLParser):
             pass
 
     def handle_data(self, data):
+        self.all_text += data
+        if "th" in self.open:
+            self.headings[-1] += data
         if not {"pre", "code", "style"} & set(self.open):
             self.text.append(data)
 
@@ -45,6 +51,12 @@ for path, page in pages.items():
             faults.append(f"{path.name}: {link} leads nowhere")
         elif parts.fragment and parts.fragment not in pages[target].names:
             faults.append(f"{path.name}: there is no #{parts.fragment} in {target.name}")
+    if not all(heading.strip() for heading in page.headings):
+        faults.append(f"{path.name}: a column without a heading")
+    # A shell of Windows knows no single quotes; the rest is for whoever packs.
+    faults += [f"{path.name}: {word} is not for this reader"
+               for word in ("VERSION", "zcat", "export ", "calvex batch plant.csv '", "-u '")
+               if word in page.all_text]
     text = "".join(page.text)
     faults += [f"{path.name}: {mark} is left of the Markdown" for mark in ("](", "**", "\n|", "\n# ", "\n## ", ".md")
                if mark in text]

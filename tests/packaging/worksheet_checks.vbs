@@ -271,7 +271,7 @@ Equal "its name", ActiveCell.Offset(2, 0).Value2, "enthalpy"
 At 30
 Set theServer = Nothing
 serverName = "Nothing.There"
-Const missing = "The server is not registered for this Excel. Run register.cmd."
+Const missing = "The server is not registered for this Excel. Install Calvex for all users, or run register.cmd of the ZIP."
 Equal "a cell without a server", SteamHPT(10, 500), NA
 Equal "knows why", WhyAt(30, 1), "HPT: " & missing
 Equal "a constant without a server", SteamCritT(), NA

@@ -37,14 +37,13 @@ struct AutomationObject::DualTable {
     if (count == 0) return S_OK;
     return atBoundary([&] { return idsOfNames(names, count, ids); });
   }
-  static HRESULT STDMETHODCALLTYPE invoke(Dual* self, DISPID member, REFIID id, LCID locale,
+  static HRESULT STDMETHODCALLTYPE invoke(Dual* self, DISPID member, REFIID id, LCID /*locale*/,
                                           WORD flags, DISPPARAMS* given, VARIANT* result,
                                           EXCEPINFO* /*exception*/, UINT* wrongArgument) {
     if (id != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
     if (given == nullptr) return E_POINTER;
     return atBoundary([&] {
-      return com::invoke(self->object->object_, member, locale, flags, *given, result,
-                         wrongArgument);
+      return com::invoke(self->object->object_, member, flags, *given, result, wrongArgument);
     });
   }
 

@@ -70,8 +70,8 @@ class Arguments {
   std::array<UINT, maxParameters> places_{};
 };
 
-HRESULT callMethod(ZvCalvex& object, const Member& member, LCID locale, const DISPPARAMS& given,
-                   VARIANT* result, UINT* wrongArgument) {
+HRESULT callMethod(ZvCalvex& object, const Member& member, const DISPPARAMS& given, VARIANT* result,
+                   UINT* wrongArgument) {
   const std::span<const Parameter> parameters = member.parameters();
   Arguments arguments(given, wrongArgument);
   if (const HRESULT arranged = arguments.arrange(parameters.size()); FAILED(arranged)) {
@@ -81,7 +81,7 @@ HRESULT callMethod(ZvCalvex& object, const Member& member, LCID locale, const DI
   for (std::size_t i = 0; i < parameters.size(); ++i) {
     const HRESULT ready = parameters[i].isOutput()
                               ? checkOutput(arguments[i], parameters[i].type)
-                              : read(arguments[i], parameters[i].type, locale, values[i]);
+                              : read(arguments[i], parameters[i].type, values[i]);
     if (FAILED(ready)) return arguments.blameFor(i, ready);
   }
   const ZvCalvex::Result called = object.invoke(member, {values.data(), parameters.size()});
@@ -106,12 +106,12 @@ HRESULT getValue(ZvCalvex& object, const Member& member, const DISPPARAMS& given
   return static_cast<HRESULT>(got.hresult);
 }
 
-HRESULT putSetting(ZvCalvex& object, const Member& member, LCID locale, const DISPPARAMS& given,
+HRESULT putSetting(ZvCalvex& object, const Member& member, const DISPPARAMS& given,
                    UINT* wrongArgument) {
   if (member.put == nullptr) return DISP_E_MEMBERNOTFOUND;
   if (given.cArgs != 1) return DISP_E_BADPARAMCOUNT;
   Value value;
-  const HRESULT ready = read(given.rgvarg[0], member.parameters()[0].type, locale, value);
+  const HRESULT ready = read(given.rgvarg[0], member.parameters()[0].type, value);
   if (FAILED(ready)) {
     if (wrongArgument != nullptr) *wrongArgument = 0;
     return ready;
@@ -132,21 +132,21 @@ HRESULT idsOfNames(LPOLESTR* names, UINT count, DISPID* ids) {
   return allKnown ? S_OK : DISP_E_UNKNOWNNAME;
 }
 
-HRESULT invoke(ZvCalvex& object, DISPID id, LCID locale, WORD flags, const DISPPARAMS& given,
-               VARIANT* result, UINT* wrongArgument) {
+HRESULT invoke(ZvCalvex& object, DISPID id, WORD flags, const DISPPARAMS& given, VARIANT* result,
+               UINT* wrongArgument) {
   if (result != nullptr) VariantInit(result);
   const Member* member = findMember(id);
   if (member == nullptr) return DISP_E_MEMBERNOTFOUND;
   if (member->isProperty) {
     if ((flags & DISPATCH_PROPERTYGET) != 0) return getValue(object, *member, given, result);
     if ((flags & DISPATCH_PROPERTYPUT) != 0) {
-      return putSetting(object, *member, locale, given, wrongArgument);
+      return putSetting(object, *member, given, wrongArgument);
     }
     return DISP_E_MEMBERNOTFOUND;
   }
   if ((flags & DISPATCH_METHOD) == 0) return DISP_E_MEMBERNOTFOUND;
   if (member->style == ReturnStyle::value) return getValue(object, *member, given, result);
-  return callMethod(object, *member, locale, given, result, wrongArgument);
+  return callMethod(object, *member, given, result, wrongArgument);
 }
 
 }  // namespace calvex::com

@@ -11,7 +11,7 @@ namespace calvex::com {
 HRESULT idsOfNames(LPOLESTR* names, UINT count, DISPID* ids);
 
 /// As IDispatch::Invoke. Answers what the member answers: S_FALSE when a setting refuses.
-HRESULT invoke(ZvCalvex& object, DISPID id, LCID locale, WORD flags, const DISPPARAMS& given,
-               VARIANT* result, UINT* wrongArgument);
+HRESULT invoke(ZvCalvex& object, DISPID id, WORD flags, const DISPPARAMS& given, VARIANT* result,
+               UINT* wrongArgument);
 
 }  // namespace calvex::com

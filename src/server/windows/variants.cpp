@@ -7,6 +7,7 @@
 #include <new>
 
 #include "server/windows/boundary.h"
+#include "units/number.h"
 #include "units/utf16.h"
 
 namespace calvex::com {
@@ -114,10 +115,25 @@ constexpr VARTYPE variantType(ValueType type) {
 }
 
 /// A variable of a script arrives as a reference to a variant, through procedures to another one.
-const VARIANT& follow(const VARIANT& argument) {
+/// Null where a reference leads nowhere.
+const VARIANT* follow(const VARIANT& argument) {
   const VARIANT* variable = &argument;
-  while (variable->vt == (VT_BYREF | VT_VARIANT)) variable = variable->pvarVal;
-  return *variable;
+  while (variable != nullptr && variable->vt == (VT_BYREF | VT_VARIANT)) {
+    variable = variable->pvarVal;
+  }
+  const bool toNowhere =
+      variable != nullptr && (variable->vt & VT_BYREF) != 0 && variable->byref == nullptr;
+  return toNowhere ? nullptr : variable;
+}
+
+/// What is there by value or by reference; null where there is something else or nothing.
+BSTR textIn(const VARIANT& given) {
+  if (given.vt == VT_BSTR) return given.bstrVal;
+  return given.vt == (VT_BYREF | VT_BSTR) ? *given.pbstrVal : nullptr;
+}
+IDispatch* objectIn(const VARIANT& given) {
+  if (given.vt == VT_DISPATCH) return given.pdispVal;
+  return given.vt == (VT_BYREF | VT_DISPATCH) ? *given.ppdispVal : nullptr;
 }
 
 HRESULT giveTyped(const VARIANT& reference, const Variant& content) {
@@ -206,17 +222,32 @@ void replace(VARIANT& target, const Value& value) {
   assign(target, content);
 }
 
-HRESULT read(const VARIANT& argument, ValueType type, LCID locale, Value& value) {
-  const VARIANT& given = follow(argument);
+HRESULT read(const VARIANT& argument, ValueType type, Value& value) {
+  const VARIANT* content = follow(argument);
+  if (content == nullptr) return E_INVALIDARG;
   if (type == ValueType::array) return S_OK;  // what it held is replaced
-  const VARTYPE wanted = variantType(type);
-  Variant coerced;
-  const VARIANT* content = &given;
-  if (given.vt == VT_ERROR && given.scode == DISP_E_PARAMNOTFOUND) return DISP_E_PARAMNOTOPTIONAL;
-  if (given.vt != wanted) {
+  if (content->vt == VT_ERROR && content->scode == DISP_E_PARAMNOTFOUND) {
+    return DISP_E_PARAMNOTOPTIONAL;
+  }
+  Variant held, written, coerced;
+  if (IDispatch* object = objectIn(*content)) {  // a cell is its value
+    DISPPARAMS none{};
+    if (FAILED(object->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
+                              &none, &held, nullptr, nullptr))) {
+      return DISP_E_TYPEMISMATCH;
+    }
+    content = &held;
+  }
+  if (BSTR text = textIn(*content); text != nullptr && type != ValueType::text) {
+    const std::optional<double> number = numberIn(toText(text));
+    if (!number) return DISP_E_TYPEMISMATCH;
+    written.set(*number);
+    content = &written;
+  }
+  if (const VARTYPE wanted = variantType(type); content->vt != wanted) {
     // The declaration lacks a const.
-    auto* source = const_cast<VARIANT*>(&given);
-    const HRESULT result = VariantChangeTypeEx(&coerced, source, locale, 0, wanted);
+    auto* source = const_cast<VARIANT*>(content);
+    const HRESULT result = VariantChangeTypeEx(&coerced, source, LOCALE_INVARIANT, 0, wanted);
     if (FAILED(result)) return result == DISP_E_OVERFLOW ? result : DISP_E_TYPEMISMATCH;
     content = &coerced;
   }
@@ -237,7 +268,9 @@ HRESULT read(const VARIANT& argument, ValueType type, LCID locale, Value& value)
 }
 
 HRESULT checkOutput(const VARIANT& argument, ValueType type) {
-  const VARIANT& place = follow(argument);
+  const VARIANT* const followed = follow(argument);
+  if (followed == nullptr) return E_INVALIDARG;
+  const VARIANT& place = *followed;
   if (place.vt == (VT_BYREF | VT_ARRAY | VT_VARIANT) && *place.pparray != nullptr) {
     // An array of fixed size cannot become one of another.
     constexpr USHORT fixed = FADF_AUTO | FADF_STATIC | FADF_EMBEDDED | FADF_FIXEDSIZE;
@@ -249,7 +282,7 @@ HRESULT checkOutput(const VARIANT& argument, ValueType type) {
 }
 
 HRESULT give(const VARIANT& argument, const Value& value) {
-  const VARIANT& place = follow(argument);
+  const VARIANT& place = *follow(argument);
   Variant content;
   content.set(value);
   if (place.vt == (VT_BYREF | VT_BSTR)) {

@@ -22,9 +22,11 @@ void replace(BSTR& target, std::string_view text);
 void replace(VARIANT& target, const ResultArray& rows);
 void replace(VARIANT& target, const Value& value);
 
-/// Reads an argument as a parameter of that type, coerced as automation does, in the client's
-/// locale. S_OK, DISP_E_TYPEMISMATCH, DISP_E_OVERFLOW or DISP_E_PARAMNOTOPTIONAL.
-HRESULT read(const VARIANT& argument, ValueType type, LCID locale, Value& value);
+/// Reads an argument as a parameter of that type, coerced as automation does, but for texts: a text
+/// is a number where it is written with a decimal point, whatever the client's locale makes of it.
+/// S_OK, DISP_E_TYPEMISMATCH, DISP_E_OVERFLOW, DISP_E_PARAMNOTOPTIONAL or, for a reference to
+/// nowhere, E_INVALIDARG.
+HRESULT read(const VARIANT& argument, ValueType type, Value& value);
 
 /// Hands an output to the argument that the client gave for it: a variable of the parameter's own
 /// type, a variant (takes that type), an object (its property `value` where the object is a

@@ -122,6 +122,8 @@ void ModalDialog::arrange(LONG width, LONG height) {
         moved(first.bottom, growth.bottom * down) - y, SWP_NOZORDER | SWP_NOACTIVATE);
   }
   EndDeferWindowPos(moves);
+  // Frames and labels move their old pixels over each other.
+  RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
   resized();
 }
 

@@ -204,22 +204,32 @@ TEST_F(Dispatch, BringsInputsToTheParametersType) {
   EXPECT_EQ(h, expected);
 }
 
-TEST_F(Dispatch, ReadsTextsInTheClientsLocale) {
-  const auto call = [&](const wchar_t* pressure, LCID locale) {
-    double h = 0.0;
-    std::vector<VARIANT> backwards{Variant(T), VARIANT{}, Variant(&h)};
-    Variant text(pressure);
-    backwards[1] = text;
+TEST_F(Dispatch, ReadsTextsWithAPointWhateverTheClientsLocale) {
+  double h = 0.0;
+  const auto call = [&](Variant pressure, LCID locale) {
+    LateCall called;
+    h = 1.0;
+    std::vector<VARIANT> backwards{Variant(T), pressure, Variant(&h)};
     DISPPARAMS parameters{backwards.data(), nullptr, 3, 0};
-    const HRESULT result = steam->Invoke(idOfHPT, IID_NULL, locale, DISPATCH_METHOD, &parameters,
-                                         nullptr, nullptr, nullptr);
-    return std::pair(result, h);
+    called.result = steam->Invoke(idOfHPT, IID_NULL, locale, DISPATCH_METHOD, &parameters,
+                                  &called.value, nullptr, &called.wrongArgument);
+    return called;
   };
   constexpr LCID english = 0x409, german = 0x407;
-  EXPECT_NEAR(call(L"0.9934", english).second, H, tolerance);
-  EXPECT_NEAR(call(L"0,9934", german).second, H, tolerance);
-  EXPECT_EQ(call(L"1 MPa", english).first, DISP_E_TYPEMISMATCH);
-  EXPECT_EQ(call(L"", english).first, DISP_E_TYPEMISMATCH);
+  for (const LCID locale : {english, german}) {
+    for (const wchar_t* good : {L"0.9934", L" +993.4e-3 "}) {
+      EXPECT_EQ(call(good, locale).value.lVal, 1);
+      EXPECT_NEAR(h, H, tolerance);
+      Text text(good);
+      EXPECT_EQ(call(text.place(), locale).value.lVal, 1);
+      EXPECT_NEAR(h, H, tolerance);
+    }
+    for (const wchar_t* bad :
+         {L"0,9934", L"1,000", L"1 000", L"(1)", L"$1", L"&H1", L"1 MPa", L""}) {
+      expectRefusal(call(bad, locale), DISP_E_TYPEMISMATCH, 1);
+      EXPECT_EQ(h, 1.0) << narrow(bad);
+    }
+  }
 }
 
 TEST_F(Dispatch, TakesInputsByReferenceHoweverDeep) {
@@ -243,6 +253,30 @@ TEST_F(Dispatch, RefusesInputsThatAreNoNumbers) {
   array.parray = SafeArrayCreateVector(VT_R8, 0, 3);
   expectRefusal(HPT(&h, array, T), DISP_E_TYPEMISMATCH, 1);
   expectRefusal(HPT(&h, P, Variant::omitted()), DISP_E_PARAMNOTOPTIONAL, 0);
+  EXPECT_EQ(h, 1.0);
+}
+
+TEST_F(Dispatch, RefusesReferencesToNowhere) {
+  const auto nowhere = [](int type) {
+    Variant reference;
+    reference.vt = static_cast<VARTYPE>(VT_BYREF | type);
+    reference.byref = nullptr;
+    return reference;
+  };
+  double h = 1.0;
+  for (const int type :
+       {+VT_VARIANT, +VT_R8, +VT_I2, +VT_BSTR, +VT_DISPATCH, VT_ARRAY | VT_VARIANT}) {
+    Variant inner = nowhere(type);
+    for (const Variant& reference : {inner, Variant(static_cast<VARIANT*>(&inner))}) {
+      expectRefusal(HPT(&h, reference, T), E_INVALIDARG, 1);
+      expectRefusal(HPT(&h, P, reference), E_INVALIDARG, 0);
+      expectRefusal(HPT(reference, P, T), E_INVALIDARG, 2);
+      const LateCall put = putProperty(*steam, L"SolverIter", reference);
+      EXPECT_EQ(put.result, E_INVALIDARG);
+      EXPECT_EQ(put.wrongArgument, 0U);
+      EXPECT_EQ(callMethod(*steam, L"GetAlarms", {reference}).result, E_INVALIDARG);
+    }
+  }
   EXPECT_EQ(h, 1.0);
 }
 
@@ -361,15 +395,18 @@ TEST_F(Dispatch, LosesOutputsThatHaveNoPlace) {
   EXPECT_EQ(HPT(Variant(), P, T).value.lVal, 1);
 }
 
-/// An object that keeps what is put into its default property.
+/// An object that keeps what is put into its default property, and hands it out.
 class Cell final : public ClientObject {
  public:
-  explicit Cell(bool writable) : writable_(writable) {}
+  explicit Cell(bool open) : open_(open) {}
   Variant content;
 
-  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* given, VARIANT*,
-                                   EXCEPINFO*, UINT*) override {
-    if (id != DISPID_VALUE || flags != DISPATCH_PROPERTYPUT || !writable_) {
+  HRESULT STDMETHODCALLTYPE Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* given,
+                                   VARIANT* result, EXCEPINFO*, UINT*) override {
+    if (id == DISPID_VALUE && (flags & DISPATCH_PROPERTYGET) != 0 && open_) {
+      return VariantCopy(result, &content);
+    }
+    if (id != DISPID_VALUE || flags != DISPATCH_PROPERTYPUT || !open_) {
       return DISP_E_MEMBERNOTFOUND;
     }
     if (given->cArgs != 1 || given->cNamedArgs != 1 ||
@@ -380,7 +417,7 @@ class Cell final : public ClientObject {
   }
 
  private:
-  bool writable_;
+  bool open_;
 };
 
 TEST_F(Dispatch, PutsOutputsIntoObjectsWithADefaultProperty) {
@@ -394,6 +431,23 @@ TEST_F(Dispatch, PutsOutputsIntoObjectsWithADefaultProperty) {
   EXPECT_EQ(HPT(static_cast<IDispatch*>(&cell), P, 100.0).value.lVal, 0);
   EXPECT_EQ(narrow(cell.content.bstrVal), "K");
   EXPECT_EQ(cell.references, 1);
+}
+
+TEST_F(Dispatch, ReadsObjectsByTheirDefaultProperty) {
+  Cell pressure(true);
+  Variant cell(static_cast<IDispatch*>(&pressure));
+  pressure.content = P;
+  expectEnthalpy(cell, T);
+  pressure.content = L"0.9934";
+  expectEnthalpy(static_cast<VARIANT*>(&cell), T);
+  pressure.content = L"0,9934";
+  double h = 1.0;
+  expectRefusal(HPT(&h, cell, T), DISP_E_TYPEMISMATCH, 1);
+  Cell closed(false);
+  expectRefusal(HPT(&h, P, static_cast<IDispatch*>(&closed)), DISP_E_TYPEMISMATCH, 0);
+  expectRefusal(HPT(&h, P, static_cast<IDispatch*>(nullptr)), DISP_E_TYPEMISMATCH, 0);
+  EXPECT_EQ(h, 1.0);
+  EXPECT_EQ(pressure.references, 2);
 }
 
 TEST_F(Dispatch, TellsWhenAnObjectTakesNoOutput) {

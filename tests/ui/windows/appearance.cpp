@@ -41,6 +41,39 @@ void expectFit(HWND control, const std::wstring& text, LONG margin, LONG height)
   EXPECT_LE(extent.cy, height) << testing::PrintToString(text);
 }
 
+struct Picture {
+  BITMAPINFOHEADER info{};
+  std::vector<char> pixels;
+};
+
+// What is shown of the window.
+Picture pictureOf(HWND window) {
+  const RECT place = screenRectangle(window);
+  const int width = place.right - place.left, height = place.bottom - place.top;
+  const HDC shown = GetWindowDC(window);
+  const HDC memory = CreateCompatibleDC(shown);
+  const HBITMAP bitmap = CreateCompatibleBitmap(shown, width, height);
+  const HGDIOBJ before = SelectObject(memory, bitmap);
+  BitBlt(memory, 0, 0, width, height, shown, 0, 0, SRCCOPY);
+  SelectObject(memory, before);
+
+  Picture picture;
+  BITMAPINFOHEADER& info = picture.info;
+  info.biSize = sizeof info;
+  info.biWidth = width;
+  info.biHeight = height;
+  info.biPlanes = 1;
+  info.biBitCount = 32;
+  info.biSizeImage = static_cast<DWORD>(width * height * 4);
+  picture.pixels.resize(info.biSizeImage);
+  GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), picture.pixels.data(),
+            reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS);
+  DeleteObject(bitmap);
+  DeleteDC(memory);
+  ReleaseDC(window, shown);
+  return picture;
+}
+
 }  // namespace
 
 void expectEverythingFits(HWND dialog) {
@@ -94,6 +127,22 @@ void expectResizable(HWND dialog) {
   EXPECT_TRUE(EqualRect(&before, &after));
 }
 
+void expectDrawnWhole(HWND dialog) {
+  for (const auto& [width, height] : {std::pair(150, 80), {-90, -40}, {30, -40}}) {
+    enlarge(dialog, width, height);
+    RedrawWindow(dialog, nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
+    const Picture shown = pictureOf(dialog);
+    RedrawWindow(dialog, nullptr, nullptr,
+                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    const Picture anew = pictureOf(dialog);
+    const auto first = std::ranges::mismatch(shown.pixels, anew.pixels).in1;
+    EXPECT_EQ(first, shown.pixels.end())
+        << "pixel " << (first - shown.pixels.begin()) / 4 % shown.info.biWidth << " from the left";
+    const auto [darkest, brightest] = std::ranges::minmax(anew.pixels);
+    EXPECT_NE(darkest, brightest) << "an empty picture";
+  }
+}
+
 void expectCentred(const std::function<void(DialogUser::Turn)>& show) {
   RECT work{};
   SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
@@ -138,37 +187,15 @@ void takePicture(HWND window, const std::string& name) {
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
   }
-  const RECT place = screenRectangle(window);
-  const int width = place.right - place.left, height = place.bottom - place.top;
-  const HDC screen = GetDC(nullptr);
-  const HDC memory = CreateCompatibleDC(screen);
-  const HBITMAP bitmap = CreateCompatibleBitmap(screen, width, height);
-  const HGDIOBJ before = SelectObject(memory, bitmap);
-  BitBlt(memory, 0, 0, width, height, screen, place.left, place.top, SRCCOPY);
-  SelectObject(memory, before);
-
-  BITMAPINFOHEADER info{};
-  info.biSize = sizeof info;
-  info.biWidth = width;
-  info.biHeight = height;
-  info.biPlanes = 1;
-  info.biBitCount = 32;
-  info.biSizeImage = static_cast<DWORD>(width * height * 4);
-  std::vector<char> pixels(info.biSizeImage);
-  GetDIBits(memory, bitmap, 0, static_cast<UINT>(height), pixels.data(),
-            reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS);
-  DeleteObject(bitmap);
-  DeleteDC(memory);
-  ReleaseDC(nullptr, screen);
-
+  const Picture picture = pictureOf(window);
   BITMAPFILEHEADER header{};
   header.bfType = 0x4D42;
-  header.bfOffBits = sizeof header + sizeof info;
-  header.bfSize = header.bfOffBits + info.biSizeImage;
+  header.bfOffBits = sizeof header + sizeof picture.info;
+  header.bfSize = header.bfOffBits + picture.info.biSizeImage;
   std::ofstream file(std::string(folder) + "/" + name + ".bmp", std::ios::binary);
   file.write(reinterpret_cast<const char*>(&header), sizeof header);
-  file.write(reinterpret_cast<const char*>(&info), sizeof info);
-  file.write(pixels.data(), static_cast<std::streamsize>(pixels.size()));
+  file.write(reinterpret_cast<const char*>(&picture.info), sizeof picture.info);
+  file.write(picture.pixels.data(), static_cast<std::streamsize>(picture.pixels.size()));
   EXPECT_TRUE(file.good()) << folder;
 }
 

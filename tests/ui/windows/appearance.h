@@ -23,6 +23,10 @@ void enlarge(HWND dialog, int width, int height);
 /// Fails where the dialog has no border to draw at, or becomes smaller than it opened.
 void expectResizable(HWND dialog);
 
+/// Fails where the dialog, after the user has drawn at its border, shows other pixels than it does
+/// when everything in it is drawn anew.
+void expectDrawnWhole(HWND dialog);
+
 /// Shows the dialog, by the function, from owners in several places and from none: it must open at
 /// the owner's middle, or the screen's, and nowhere beyond the screen's work area.
 void expectCentred(const std::function<void(DialogUser::Turn)>& show);

@@ -335,6 +335,10 @@ TEST_F(TraceDialog, OpensAtTheMiddleOfItsOwner) {
   test::expectCentred([this](DialogUser::Turn turn) { show({std::move(turn)}); });
 }
 
+TEST_F(TraceDialog, IsDrawnWholeAtEverySize) {
+  show({[](HWND dialog) { test::expectDrawnWhole(dialog); }});
+}
+
 TEST_F(TraceDialog, GrowsWithItsControlsAndDoesNotShrink) {
   engine_.SetupExcelTracing();
   show({[](HWND dialog) {

@@ -208,6 +208,10 @@ TEST_F(UnitDialog, OpensAtTheMiddleOfItsOwner) {
   test::expectCentred([this](DialogUser::Turn turn) { show({std::move(turn)}); });
 }
 
+TEST_F(UnitDialog, IsDrawnWholeAtEverySize) {
+  show({[](HWND dialog) { test::expectDrawnWhole(dialog); }});
+}
+
 TEST_F(UnitDialog, GrowsWithItsControlsAndDoesNotShrink) {
   show({[](HWND dialog) {
     test::expectResizable(dialog);
