@@ -212,6 +212,22 @@ TEST_F(ExcelFunctions, WrongInputsAreErrorsWithReasons) {
   EXPECT_NE(why().find("No function of Calvex has failed here"), std::string::npos) << why();
 }
 
+// Without a drop of pressure no mass flow makes power.
+TEST_F(ExcelFunctions, AnInfiniteResultIsAnError) {
+  Grid outlets(2, 1);
+  outlets.cells = {10.0, 1.0};
+  const Cell wanted = std::string("MIn");
+  const Grid mass =
+      host.calculate(home, L"TurbineB", {3374.0, 10.0, outlets, 0.8, 500.0, wanted}, 2, 1);
+  EXPECT_EQ(errorOf(mass, 0), xlerrNA);
+  EXPECT_GT(numberOf(mass, 1), 0.0);
+  EXPECT_EQ(why(), "TurbineB: MIn is infinite here");
+  const Address other{home.sheet, 7, 0};
+  EXPECT_EQ(errorOf(host.calculate(other, L"TurbineB", {3374.0, 10.0, 10.0, 0.8, 500.0, wanted})),
+            xlerrNA);
+  EXPECT_EQ(why(other), "TurbineB: MIn is infinite here");
+}
+
 TEST_F(ExcelFunctions, OneBadRowDoesNotSpoilTheColumn) {
   Grid pressures(5, 1);
   pressures.cells = {10.0, -1.0, std::string("text"), Blank{}, 10.0};
