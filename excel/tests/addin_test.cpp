@@ -126,7 +126,7 @@ TEST_F(ExcelAddIn, LeavesNothingWhereItIsTakenOff) {
   const double before = memoryInUse();
   host.calculate({L"[Book1.xlsx]Sheet1", 0, 0}, L"HPT", {10.0, cold}, 1, 1);
   host.cells.clear();
-  EXPECT_GT(memoryInUse() - before, 4.0) << "MB of a failure";
+  EXPECT_GT(memoryInUse() - before, 2.0) << "MB of a failure";
   EXPECT_EQ(close(), 1);
   EXPECT_LT(memoryInUse() - before, 0.1) << "MB";
   EXPECT_TRUE(host.functions.empty());
