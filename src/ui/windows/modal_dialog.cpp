@@ -1,10 +1,9 @@
 #include "ui/windows/modal_dialog.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 
 #include "ui/resource_ids.h"
+#include "ui/windows/common_controls.h"
 #include "units/utf16.h"
 
 namespace calvex {
@@ -52,7 +51,7 @@ DialogResult ModalDialog::show() {
   const ActivationContext controls(module_);
   const INITCOMMONCONTROLSEX classes = {sizeof classes,
                                         ICC_LISTVIEW_CLASSES | ICC_TREEVIEW_CLASSES};
-  InitCommonControlsEx(&classes);
+  commonControls().InitCommonControlsEx(&classes);
   const INT_PTR result = DialogBoxParamW(module_, MAKEINTRESOURCEW(resource_), GetActiveWindow(),
                                          procedure, reinterpret_cast<LPARAM>(this));
   if (error_) std::rethrow_exception(error_);

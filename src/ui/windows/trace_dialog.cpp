@@ -1,11 +1,10 @@
 #include "ui/windows/trace_dialog.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <vector>
 
 #include "ui/resource_ids.h"
+#include "ui/windows/common_controls.h"
 
 namespace calvex {
 
@@ -14,8 +13,8 @@ namespace {
 /// Enter in the list is the list's and not the default button's.
 LRESULT CALLBACK takeEnter(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
                            DWORD_PTR) {
-  if (message == WM_NCDESTROY) RemoveWindowSubclass(window, takeEnter, id);
-  const LRESULT answer = DefSubclassProc(window, message, first, second);
+  if (message == WM_NCDESTROY) commonControls().RemoveWindowSubclass(window, takeEnter, id);
+  const LRESULT answer = commonControls().DefSubclassProc(window, message, first, second);
   if (message != WM_GETDLGCODE || second == 0) return answer;
   const auto& key = *reinterpret_cast<const MSG*>(second);
   return key.message == WM_KEYDOWN && key.wParam == VK_RETURN ? answer | DLGC_WANTMESSAGE : answer;
@@ -38,7 +37,9 @@ class Redraw {
 
 }  // namespace
 
-void TraceDialog::DestroyImages::operator()(_IMAGELIST* images) const { ImageList_Destroy(images); }
+void TraceDialog::DestroyImages::operator()(_IMAGELIST* images) const {
+  commonControls().ImageList_Destroy(images);
+}
 
 TraceDialog::TraceDialog(HINSTANCE module, Diagnostics& diagnostics)
     : ModalDialog(module, CALVEX_TRACE_DIALOG), view_(diagnostics) {}
@@ -57,7 +58,7 @@ void TraceDialog::opened() {
     send(CALVEX_TRACE_LEVEL, CB_ADDSTRING, 0, toWide(text).c_str());
   }
   send(CALVEX_TRACE_LEVEL, CB_SETCURSEL, static_cast<WPARAM>(view_.level()));
-  SetWindowSubclass(control(CALVEX_TRACE_LIST), takeEnter, 0, 0);
+  commonControls().SetWindowSubclass(control(CALVEX_TRACE_LIST), takeEnter, 0, 0);
   fillList();
   fitColumns();
 }
@@ -78,11 +79,11 @@ Growth TraceDialog::growth(int control) const {
 
 void TraceDialog::addImages() {
   const int width = GetSystemMetrics(SM_CXSMICON), height = GetSystemMetrics(SM_CYSMICON);
-  images_.reset(ImageList_Create(width, height, ILC_COLOR32 | ILC_MASK, 5, 0));
+  images_.reset(commonControls().ImageList_Create(width, height, ILC_COLOR32 | ILC_MASK, 5, 0));
   for (int number = CALVEX_ICON_ERROR; number <= CALVEX_ICON_EXTERNAL_ERROR; ++number) {
     const HANDLE icon =
         LoadImageW(module(), MAKEINTRESOURCEW(number), IMAGE_ICON, width, height, 0);
-    ImageList_ReplaceIcon(images_.get(), -1, static_cast<HICON>(icon));
+    commonControls().ImageList_ReplaceIcon(images_.get(), -1, static_cast<HICON>(icon));
     DestroyIcon(static_cast<HICON>(icon));
   }
   send(CALVEX_TRACE_LIST, LVM_SETIMAGELIST, LVSIL_SMALL, images_.get());
