@@ -1,6 +1,7 @@
 #include "worksheet/calculation.h"
 
 #include <algorithm>
+#include <array>
 #include <calvex/calvex.hpp>
 #include <cmath>
 #include <optional>
@@ -285,6 +286,7 @@ std::string reason(calvex_engine* engine, const Signature& signature,
 namespace {
 
 constexpr std::size_t words = 3;  // of a conversion, before its value
+using Words = std::array<std::string, words>;
 
 // Why the texts of a conversion name no units, with what they may have meant; empty where they do.
 std::string unknownUnit(std::span<const std::string> texts) {
@@ -297,14 +299,15 @@ std::string unknownUnit(std::span<const std::string> texts) {
   }
 }
 
-// A conversion at a place; where it fails `fault` may learn why.
+// A conversion at a place; where it fails `fault` may learn why. `refused` has the last words that
+// were no units: a column of them is refused at once.
 Cell convertedAt(calvex_engine* engine, std::span<const Grid> arguments, Place place,
-                 const Wording* wording, std::string* fault) {
+                 std::optional<Words>& refused, const Wording* wording, std::string* fault) {
   const auto failed = [&](const Error& error, const auto& why) -> Cell {
     if (fault != nullptr) *fault = "CALVEX.CONVERT: " + why();
     return error;
   };
-  std::string texts[words];
+  Words texts;
   const char* data[words];
   for (std::size_t i = 0; i < words; ++i) {
     const Cell word = inputAt(arguments, i, place);
@@ -323,6 +326,7 @@ Cell convertedAt(calvex_engine* engine, std::span<const Grid> arguments, Place p
   if (const Error* const error = std::get_if<Error>(&number)) {
     return failed(*error, [&] { return "the value" + faultOf(given, *wording); });
   }
+  if (texts == refused) return Error{ErrorKind::value};
   static const int member = [] {
     int found = 0;
     calvex_find_member("Convert", CALVEX_TERMINATED, &found);
@@ -334,6 +338,7 @@ Cell convertedAt(calvex_engine* engine, std::span<const Grid> arguments, Place p
   double value = 0.0, one = 0.0;
   if (convert(std::get<double>(number), value)) return value;
   if (!convert(1.0, one)) {
+    refused = texts;
     return failed(Error{ErrorKind::value}, [&] {
       const std::string unknown = unknownUnit(texts);
       return unknown.empty() ? lastFailure(engine) : unknown;
@@ -348,9 +353,10 @@ Cell convertedAt(calvex_engine* engine, std::span<const Grid> arguments, Place p
 Grid convert(calvex_engine* engine, std::span<const Grid> arguments) {
   const Place extent = extentOf(arguments, words + 1);
   Grid answer(extent.row, extent.column);
+  std::optional<Words> refused;
   for (std::size_t i = 0; i < extent.row; ++i) {
     for (std::size_t j = 0; j < extent.column; ++j) {
-      answer.at({i, j}) = convertedAt(engine, arguments, {i, j}, nullptr, nullptr);
+      answer.at({i, j}) = convertedAt(engine, arguments, {i, j}, refused, nullptr, nullptr);
     }
   }
   return answer;
@@ -359,7 +365,8 @@ Grid convert(calvex_engine* engine, std::span<const Grid> arguments) {
 std::string reasonOfConversion(calvex_engine* engine, std::span<const Grid> arguments, Place place,
                                const Wording& wording) {
   std::string fault;
-  static_cast<void>(convertedAt(engine, arguments, place, &wording, &fault));
+  std::optional<Words> refused;
+  static_cast<void>(convertedAt(engine, arguments, place, refused, &wording, &fault));
   return fault;
 }
 

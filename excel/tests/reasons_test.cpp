@@ -191,6 +191,8 @@ TEST_F(ExcelReasons, AConversionHasTheReasonOfItsElement) {
       xlerrValue);
   EXPECT_NE(why().find("'barr' is not a unit of Pressure; did you mean bara"), std::string::npos)
       << why();
+  host.calculate(home, L"CALVEX.CONVERT", {text(""), text(""), text(""), 1.0});
+  EXPECT_NE(why().find("'' is not a unit group"), std::string::npos) << why();
   EXPECT_EQ(errorOf(host.calculate(home, L"CALVEX.CONVERT", {text("P"), text("MPa"), text("Pa")})),
             xlerrValue);
   EXPECT_EQ(why(), "CALVEX.CONVERT: the value is missing");
