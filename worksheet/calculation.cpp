@@ -1,8 +1,10 @@
 #include "worksheet/calculation.h"
 
 #include <algorithm>
-#include <charconv>
+#include <array>
+#include <calvex/calvex.hpp>
 #include <cmath>
+#include <optional>
 
 #include "worksheet/texts.h"
 
@@ -16,17 +18,33 @@ std::variant<double, Error> toNumber(const Cell& cell) {
   if (const Error* error = std::get_if<Error>(&cell)) return *error;
   if (std::holds_alternative<LeftOut>(cell)) return Error{ErrorKind::missing};
   if (std::holds_alternative<Blank>(cell)) return Error{ErrorKind::notAvailable};
-  const auto& text = std::get<std::string>(cell);
-  if (text.empty()) return Error{ErrorKind::notAvailable};
-  if (const auto number = numberIn(text)) return *number;
-  return Error{ErrorKind::value};
+  return Error{std::get<std::string>(cell).empty() ? ErrorKind::notAvailable : ErrorKind::value};
 }
 
-// How many rows and columns the inputs have together.
-Place extentOf(const Signature& signature, std::span<const Grid> arguments) {
+// Why a cell is no number, as the end of a sentence; empty for one that is.
+std::string faultOf(const Cell& cell, const Wording& wording) {
+  const auto number = toNumber(cell);
+  const Error* const error = std::get_if<Error>(&number);
+  if (error == nullptr) return {};
+  switch (error->kind) {
+    case ErrorKind::missing:
+      return " is missing";
+    case ErrorKind::value:
+      return " is the text \"" + std::get<std::string>(cell) + "\", " +
+             std::string(wording.noNumber);
+    case ErrorKind::given:
+      return " is itself " + wording.errorInWords(error->code);
+    default:
+      return std::holds_alternative<Error>(cell)
+                 ? " has no element here: the ranges are of different sizes"
+                 : " is an empty cell or text";
+  }
+}
+
+// How many rows and columns the first arguments have together.
+Place extentOf(std::span<const Grid> arguments, std::size_t count) {
   Place extent{1, 1};
-  const std::size_t count = std::min(signature.inputs.size(), arguments.size());
-  for (const Grid& grid : arguments.first(count)) {
+  for (const Grid& grid : arguments.first(std::min(count, arguments.size()))) {
     extent.row = std::max(extent.row, grid.rows);
     extent.column = std::max(extent.column, grid.columns);
   }
@@ -96,9 +114,10 @@ std::string lastFailure(calvex_engine* engine) {
   return said(calvex_last_error) + (cause.empty() ? "" : ' ' + cause);
 }
 
-// A result that the member left out is not available.
+// A result that the member left out is not available; an infinite one is no answer.
 Cell orNothing(double value) {
   if (std::isnan(value)) return Error{ErrorKind::notAvailable};
+  if (std::isinf(value)) return Error{ErrorKind::noAnswer};
   return value;
 }
 
@@ -210,98 +229,145 @@ Grid many(calvex_engine* engine, const Signature& signature, std::span<const Gri
 
 }  // namespace
 
-std::optional<double> numberIn(std::string_view text) {
-  constexpr std::string_view blanks = " \t\r\n";
-  const std::size_t begin = text.find_first_not_of(blanks);
-  if (begin == std::string_view::npos) return std::nullopt;
-  text = text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
-  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
-  double number = 0.0;
-  const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (code != std::errc() || end != text.data() + text.size() || !std::isfinite(number)) {
-    return std::nullopt;
-  }
-  return number;
-}
-
 Grid calculate(calvex_engine* engine, const Signature& signature, std::span<const Grid> arguments) {
   const auto chosen = wanted(signature, arguments);
   if (!chosen) return Cell(Error{ErrorKind::value});
-  const Place extent = extentOf(signature, arguments);
+  const Place extent = extentOf(arguments, signature.inputs.size());
   return extent.row * extent.column == 1 ? one(engine, signature, arguments, *chosen)
                                          : many(engine, signature, arguments, extent, *chosen);
 }
 
 Place sourceOf(const Signature& signature, std::span<const Grid> arguments, Place result) {
-  const Place extent = extentOf(signature, arguments);
+  const Place extent = extentOf(arguments, signature.inputs.size());
   return {extent.row == 1 ? 0 : result.row, extent.column == 1 ? 0 : result.column};
 }
 
 std::string reason(calvex_engine* engine, const Signature& signature,
-                   std::span<const Grid> arguments, Place place) {
+                   std::span<const Grid> arguments, Place place, const Wording& wording) {
   const auto fault = [&](const std::string& what) {
     return signature.name + ": " + what + ". It takes " + described(engine, signature) + ".";
   };
+  const std::size_t count = signature.inputs.size();
   std::vector<double> inputs, outputs;
-  for (std::size_t i = 0; i < signature.inputs.size(); ++i) {
-    const std::string& name = signature.inputs[i].name;
+  for (std::size_t i = 0; i < count; ++i) {
     const Cell given = inputAt(arguments, i, place);
-    const auto number = toNumber(given);
-    if (const double* value = std::get_if<double>(&number)) {
-      inputs.push_back(*value);
-      continue;
-    }
-    switch (std::get<Error>(number).kind) {
-      case ErrorKind::missing:
-        return fault(name + " is missing");
-      case ErrorKind::value:
-        return fault(name + " is the text \"" + std::get<std::string>(given) +
-                     "\", which is no number with a point");
-      case ErrorKind::notAvailable:
-        return fault(std::holds_alternative<Error>(given)
-                         ? name + " has no element here: the ranges are of different sizes"
-                         : name + " is an empty cell or text");
-      default:
-        return fault(name + " is an error itself");
-    }
+    const std::string what = faultOf(given, wording);
+    if (!what.empty()) return fault(signature.inputs[i].name + what);
+    inputs.push_back(std::get<double>(given));
+  }
+  const std::size_t most = count + (signature.hasChoice() ? 1 : 0);
+  if (arguments.size() > most) {
+    return fault(std::to_string(arguments.size()) + " inputs are given, not " +
+                 std::to_string(most));
   }
   const auto chosen = wanted(signature, arguments);
-  if (!chosen) return fault("the last argument names no result");
-  const Place extent = extentOf(signature, arguments);
-  if (chosen->size() > 1 && extent.row > 1 && extent.column > 1) {
-    return fault("several results of a table have no place: name one of them");
+  if (!chosen) {
+    const Cell choice = inputAt(arguments, count, {});
+    const auto* const name = std::get_if<std::string>(&choice);
+    return fault(name != nullptr ? '"' + *name + "\" names no result"
+                                 : "the last argument is no text that names a result");
   }
-  if (call(engine, signature, inputs, *chosen, outputs) == CALVEX_OK) return {};
-  return signature.name + ": " + lastFailure(engine);
+  const Place extent = extentOf(arguments, count);
+  if (chosen->size() > 1 && extent.row > 1 && extent.column > 1) {
+    return fault("several results of a table of inputs have no place: name one of them");
+  }
+  if (call(engine, signature, inputs, *chosen, outputs) != CALVEX_OK) {
+    return signature.name + ": " + lastFailure(engine);
+  }
+  if (signature.hasTokens) return {};
+  for (const std::size_t output : *chosen) {
+    if (std::isinf(outputs[output])) {
+      return signature.name + ": " + signature.outputs[output].name + " is infinite here";
+    }
+  }
+  return {};
 }
 
-Cell convert(calvex_engine* engine, std::span<const Grid> arguments, std::string& reason) {
-  constexpr std::size_t words = 3;
-  std::string texts[words];
+namespace {
+
+constexpr std::size_t words = 3;  // of a conversion, before its value
+using Words = std::array<std::string, words>;
+
+// Why the texts of a conversion name no units, with what they may have meant; empty where they do.
+std::string unknownUnit(std::span<const std::string> texts) {
+  try {
+    Engine aside;
+    for (const std::string& unit : texts.subspan(1)) aside.unit(texts[0], unit);
+    return {};
+  } catch (const calvex::Error& fault) {
+    return fault.what();
+  }
+}
+
+// A conversion at a place; where it fails `fault` may learn why. `refused` has the last words that
+// were no units: a column of them is refused at once.
+Cell convertedAt(calvex_engine* engine, std::span<const Grid> arguments, Place place,
+                 std::optional<Words>& refused, const Wording* wording, std::string* fault) {
+  const auto failed = [&](const Error& error, const auto& why) -> Cell {
+    if (fault != nullptr) *fault = "CALVEX.CONVERT: " + why();
+    return error;
+  };
+  Words texts;
   const char* data[words];
   for (std::size_t i = 0; i < words; ++i) {
-    const Cell word = inputAt(arguments, i, {});
-    const std::string* const text = std::get_if<std::string>(&word);
-    if (text == nullptr) {
-      reason = "CALVEX.CONVERT: it takes the texts quantity, unit and unit wanted, then the value";
-      return Error{ErrorKind::value};
+    const Cell word = inputAt(arguments, i, place);
+    if (const auto* const text = std::get_if<std::string>(&word)) {
+      texts[i] = *text;
+      data[i] = texts[i].c_str();
+      continue;
     }
-    texts[i] = *text;
-    data[i] = texts[i].c_str();
+    const Error* const error = std::get_if<Error>(&word);
+    return failed(error != nullptr ? *error : Error{ErrorKind::value}, [] {
+      return std::string("it takes the texts quantity, unit and unit wanted, then the value");
+    });
   }
-  const auto given = toNumber(inputAt(arguments, words, {}));
-  if (const Error* error = std::get_if<Error>(&given)) {
-    reason = "CALVEX.CONVERT: the value is no number";
-    return *error;
+  const Cell given = inputAt(arguments, words, place);
+  const auto number = toNumber(given);
+  if (const Error* const error = std::get_if<Error>(&number)) {
+    return failed(*error, [&] { return "the value" + faultOf(given, *wording); });
   }
-  double value = std::get<double>(given);
-  int member = 0;
-  calvex_find_member("Convert", CALVEX_TERMINATED, &member);
-  if (calvex_call_texts(engine, member, &value, 1, data, nullptr, words, &value, 1) == CALVEX_OK) {
-    return value;
+  if (texts == refused) return Error{ErrorKind::value};
+  static const int member = [] {
+    int found = 0;
+    calvex_find_member("Convert", CALVEX_TERMINATED, &found);
+    return found;
+  }();
+  const auto convert = [&](double from, double& to) {
+    return calvex_call_texts(engine, member, &from, 1, data, nullptr, words, &to, 1) == CALVEX_OK;
+  };
+  double value = 0.0, one = 0.0;
+  if (convert(std::get<double>(number), value)) return value;
+  if (!convert(1.0, one)) {
+    refused = texts;
+    return failed(Error{ErrorKind::value}, [&] {
+      const std::string unknown = unknownUnit(texts);
+      return unknown.empty() ? lastFailure(engine) : unknown;
+    });
   }
-  reason = "CALVEX.CONVERT: " + lastFailure(engine);
-  return Error{ErrorKind::value};
+  return failed(Error{ErrorKind::noAnswer},
+                [&] { return "the value is too large to be a number of " + texts[2]; });
+}
+
+}  // namespace
+
+Grid convert(calvex_engine* engine, std::span<const Grid> arguments) {
+  const Place extent = extentOf(arguments, words + 1);
+  Grid answer(extent.row, extent.column);
+  std::optional<Words> refused;
+  for (std::size_t i = 0; i < extent.row; ++i) {
+    for (std::size_t j = 0; j < extent.column; ++j) {
+      answer.at({i, j}) = convertedAt(engine, arguments, {i, j}, refused, nullptr, nullptr);
+    }
+  }
+  return answer;
+}
+
+std::string reasonOfConversion(calvex_engine* engine, std::span<const Grid> arguments, Place place,
+                               const Wording& wording) {
+  std::string fault;
+  std::optional<Words> refused;
+  static_cast<void>(convertedAt(engine, arguments, place, refused, &wording, &fault));
+  return fault;
 }
 
 Cell unitName(calvex_engine* engine, const Grid& quantity) {

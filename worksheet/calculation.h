@@ -6,11 +6,18 @@
 
 #include <span>
 #include <string>
+#include <string_view>
 
 #include "worksheet/cells.h"
 #include "worksheet/signatures.h"
 
 namespace calvex::worksheet {
+
+/// How a spreadsheet speaks of what its cells have.
+struct Wording {
+  std::string (*errorInWords)(int code);  ///< "#DIV/0!, a division by zero"
+  std::string_view noNumber;              ///< what a text is where a number must be: "no number"
+};
 
 /// Computes a member: with numbers a number, with ranges an array of their shape, by the direct
 /// road where it can; of a member with several results the one that the last argument names, or all
@@ -22,12 +29,16 @@ namespace calvex::worksheet {
 /// Calls the member with the arguments' elements at a place and answers why it fails there; empty
 /// when it does not. The call leaves its record in the engine.
 [[nodiscard]] std::string reason(calvex_engine* engine, const Signature& signature,
-                                 std::span<const Grid> arguments, Place place);
+                                 std::span<const Grid> arguments, Place place,
+                                 const Wording& wording);
 
-/// Converts a value between units: quantity, unit, unit wanted, value. What fails is an error, and
-/// `reason` has the text.
-[[nodiscard]] Cell convert(calvex_engine* engine, std::span<const Grid> arguments,
-                           std::string& reason);
+/// Converts a value between units: quantity, unit, unit wanted, value; each may be a range. What
+/// fails is an error.
+[[nodiscard]] Grid convert(calvex_engine* engine, std::span<const Grid> arguments);
+
+/// Converts the arguments' elements at a place and answers why that fails; empty when it does not.
+[[nodiscard]] std::string reasonOfConversion(calvex_engine* engine, std::span<const Grid> arguments,
+                                             Place place, const Wording& wording);
 
 /// The engine's unit of a quantity in plain words; an error for an unknown one.
 [[nodiscard]] Cell unitName(calvex_engine* engine, const Grid& quantity);

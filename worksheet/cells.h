@@ -3,9 +3,7 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <variant>
 #include <vector>
@@ -39,6 +37,7 @@ using Cell = std::variant<LeftOut, Blank, double, Error, std::string>;
 struct Place {
   std::size_t row = 0;
   std::size_t column = 0;
+  bool operator==(const Place&) const = default;
 };
 
 /// Cells in rows and columns; a single value is one of one cell.
@@ -52,6 +51,8 @@ struct Grid {
   Grid(std::size_t height, std::size_t width)
       : rows(height), columns(width), cells(height * width) {}
 
+  bool operator==(const Grid&) const = default;
+
   [[nodiscard]] Cell& at(Place place) { return cells[place.row * columns + place.column]; }
   /// A single row or column goes on without an end; outside of the grid there is #N/A.
   [[nodiscard]] Cell element(Place place) const {
@@ -61,9 +62,5 @@ struct Grid {
     return cells[place.row * columns + place.column];
   }
 };
-
-/// A text that is a number as it is written everywhere: with a point, "10.5", "-1e-3". Nothing for
-/// any other; "10,5" is none.
-[[nodiscard]] std::optional<double> numberIn(std::string_view text);
 
 }  // namespace calvex::worksheet

@@ -1,6 +1,6 @@
 /// \file
-/// The calls of members with what cells have. Values are as the spreadsheet gives them: a number, a
-/// text, or rows of both; an argument that is left out is void.
+/// The calls of members with what cells have, in the spreadsheet's own values. These are as the
+/// spreadsheet gives them: a number, a text, or rows of both; an argument that is left out is void.
 #pragma once
 
 #include <calvex/calvex.h>
@@ -10,21 +10,18 @@
 #include <span>
 #include <string>
 
+#include "worksheet/cells.h"
 #include "worksheet/signatures.h"
 
 namespace calvex::calc {
 
 using com::sun::star::uno::Any;
 using worksheet::findSignature;
+using worksheet::Grid;
+using worksheet::Place;
 using worksheet::Signature;
 using worksheet::signatureOf;
 using worksheet::Slot;
-
-/// Where in an array, or how large it is.
-struct Place {
-  std::size_t row = 0;
-  std::size_t column = 0;
-};
 
 /// Computes a member: with numbers a number, with ranges an array of their shape; of a member with
 /// several results the one that the last argument names, or all of them beside each other. What has
@@ -37,14 +34,19 @@ struct Place {
 [[nodiscard]] std::string reason(calvex_engine* engine, const Signature& signature,
                                  std::span<const Any* const> arguments, Place place);
 
-/// Converts a value, or a range of them, between units: quantity, unit, unit wanted, value. What
-/// fails is an error value, and `reason` has the text of the first.
-[[nodiscard]] Any convert(calvex_engine* engine, std::span<const Any* const> arguments,
-                          std::string& reason);
+/// Converts a value between units: quantity, unit, unit wanted, value; each may be a range. What
+/// fails is an error value.
+[[nodiscard]] Any convert(calvex_engine* engine, std::span<const Any* const> arguments);
+
+/// Why the conversion fails at a place; empty when it does not.
+[[nodiscard]] std::string reasonOfConversion(calvex_engine* engine,
+                                             std::span<const Any* const> arguments, Place place);
 
 /// The engine's unit of a quantity in plain words; an error value for an unknown one.
 [[nodiscard]] Any unitName(calvex_engine* engine, const Any& quantity);
 
+/// What a value is to the functions of every spreadsheet.
+[[nodiscard]] Grid gridOf(const Any& value);
 /// The element of a value; a single one stands for all of its row or column.
 [[nodiscard]] Any elementOf(const Any& value, Place place);
 /// How many rows and columns a value has.

@@ -217,64 +217,11 @@ struct Document::Watched {
 Document::Document(const Reference<XPropertySet>& model) : model_(model) {}
 Document::~Document() = default;
 
-namespace {
-
-std::string keywordOf(int group) {
-  return textOf([&](char* text, std::size_t size, std::size_t* needed) {
-    calvex_group_text(group, CALVEX_GROUP_KEYWORD, text, size, needed);
-  });
-}
-
-}  // namespace
-
-std::string unitsText(const Units& units) {
-  std::string text;
-  for (const auto& [group, unit] : units) {
-    if (!text.empty()) text += "; ";
-    text.append(keywordOf(group)).append("=").append(unit);
-  }
-  return text;
-}
-
-Units readUnits(std::string_view text) {
-  Units units;
-  while (!text.empty()) {
-    std::string_view part = text.substr(0, text.find(';'));
-    text.remove_prefix(std::min(text.size(), part.size() + 1));
-    part.remove_prefix(std::min(part.size(), part.find_first_not_of(' ')));
-    const std::size_t sign = part.find('=');
-    if (sign == std::string_view::npos) {
-      throw Error(CALVEX_VALUE,
-                  "'" + std::string(part) + "' is no quantity with its unit, as P=bara");
-    }
-    const auto [group, unit] = namedUnit(part.substr(0, sign), part.substr(sign + 1));
-    units.insert_or_assign(group, unit);
-  }
-  return units;
-}
-
-std::pair<int, std::string> namedUnit(std::string_view group, std::string_view unit) {
-  Engine engine;
-  engine.unit(group, unit);
-  int number = 0;
-  calvex_find_group(group.data(), group.size(), &number);
-  return {number, engine.unit(group)};
-}
-
 Units unitsOf(std::span<const Any> words) {
-  if (words.size() % 2 != 0) {
-    throw Error(CALVEX_COUNT, "a quantity has no unit behind it: the texts come in pairs");
-  }
-  Units units;
-  for (std::size_t i = 0; i < words.size(); i += 2) {
-    OUString group, unit;
-    if (!(elementOf(words[i], {}) >>= group) || !(elementOf(words[i + 1], {}) >>= unit)) {
-      throw Error(CALVEX_VALUE, "quantities and units are texts");
-    }
-    const auto [number, name] = namedUnit(toUtf8(group), toUtf8(unit));
-    units.insert_or_assign(number, name);
-  }
-  return units;
+  std::vector<worksheet::Grid> grids;
+  grids.reserve(words.size());
+  for (const Any& word : words) grids.push_back(gridOf(word));
+  return worksheet::unitsOf(grids);
 }
 
 bool Document::readUnits() {
@@ -286,7 +233,7 @@ bool Document::readUnits() {
     if (fault.empty()) fault = "The units of this document are not known. " + place + ": " + what;
   };
   try {
-    units = calc::readUnits(named_);
+    units = worksheet::readUnits(named_);
   } catch (const Error& error) {
     isFaulty(std::string("The name ") + unitsName, error.what());
   }
@@ -320,7 +267,7 @@ bool Document::readUnits() {
   fault_ = fault;
   settingCells_ = settingCells;
   engine_ = std::make_unique<Engine>();
-  for (const auto& [group, unit] : units_) engine_->unit(keywordOf(group), unit);
+  worksheet::setUnits(*engine_, units_);
   return true;
 }
 
@@ -351,7 +298,8 @@ std::string Document::overruled(const Units& units) const {
     const auto cell = settingCells_.find(group);
     const auto holding = units_.find(group);
     if (cell == settingCells_.end() || holding == units_.end() || holding->second == unit) continue;
-    text += " (" + keywordOf(group) + " is " + holding->second + " by " + cell->second + ")";
+    text +=
+        " (" + worksheet::keywordOf(group) + " is " + holding->second + " by " + cell->second + ")";
   }
   return text;
 }

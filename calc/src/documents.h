@@ -14,25 +14,17 @@
 #include <memory>
 #include <span>
 #include <string>
-#include <string_view>
-#include <utility>
 #include <vector>
+
+#include "worksheet/units.h"
 
 namespace calvex::calc {
 
 namespace css = com::sun::star;
 using css::uno::Reference;
 
-/// Units by their unit group's number, in the order of the groups.
-using Units = std::map<int, std::string>;
-
-/// "T=°C; P=bar", by keywords of the groups.
-[[nodiscard]] std::string unitsText(const Units& units);
-/// Reads what `unitsText` writes; throws `calvex::Error` for what is none.
-[[nodiscard]] Units readUnits(std::string_view text);
-/// A unit in plain words as the catalogue names it; throws `calvex::Error` for words that name no
-/// group or no unit of it.
-[[nodiscard]] std::pair<int, std::string> namedUnit(std::string_view group, std::string_view unit);
+using worksheet::Units;
+using worksheet::unitsText;
 
 /// The units that pairs of a group's and a unit's words name; throws `calvex::Error`.
 [[nodiscard]] Units unitsOf(std::span<const css::uno::Any> words);

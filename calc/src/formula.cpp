@@ -230,6 +230,11 @@ class Recalculation : public Meaning {
       if (firstError(argument) && !notes_.empty()) notes_.pop_back();
     }
   }
+  // Of an array what stands in this cell, or the first that has failed.
+  [[nodiscard]] Place failedIn(const Any& value) const {
+    if (errorOf(elementOf(value, place_)) != 0) return place_;
+    return firstError(value).value_or(place_);
+  }
   Any named(const std::string& name) {
     const std::string formula = namedFormula(known_.model, sheet_, name);
     if (depth_ < deepest && !formula.empty()) return computeFormula(formula, *this);
@@ -301,9 +306,8 @@ Any Recalculation::function(const std::string& name, std::span<const Any> argume
   for (const Any& argument : arguments) given.push_back(&argument);
   if (own == "UNITS") return units(arguments);
   if (own == "CONVERT") {
-    std::string failure;
-    const Any value = convert(engine_, given, failure);
-    note(failure);
+    const Any value = convert(engine_, given);
+    note(calc::reasonOfConversion(engine_, given, failedIn(value)));
     return value;
   }
   if (own == "UNIT") {
@@ -327,10 +331,7 @@ Any Recalculation::member(const Signature& signature, std::span<const Any* const
          "IFERROR(range;\"\"), which leaves only those rows without a value.");
   }
   const Any value = calculate(engine_, signature, arguments);
-  // Of an array what stands in this cell, or the first that has failed.
-  Place failed = place_;
-  if (errorOf(elementOf(value, place_)) == 0) failed = firstError(value).value_or(place_);
-  note(calc::reason(recording_, signature, arguments, failed));
+  note(calc::reason(recording_, signature, arguments, failedIn(value)));
   return value;
 }
 

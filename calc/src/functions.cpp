@@ -143,8 +143,7 @@ Any Functions::Convert(const Reference<XPropertySet>& document, const Any& quant
                        const Any& from, const Any& to, const Any& value) {
   return guarded([&] {
     const Any* const arguments[] = {&quantity, &from, &to, &value};
-    std::string reason;
-    return convert(documentOf(document).engine(), arguments, reason);
+    return convert(documentOf(document).engine(), arguments);
   });
 }
 

@@ -158,6 +158,8 @@ def test_wrong_inputs_are_errors_with_reasons(sheet, document):
             ("HPT(Const;3000)", NUM, "Temperature parameter out of range"),
             ("HPT(Twice;3000)", NUM, "Temperature parameter out of range"),
             ('CALVEX.CONVERT("T";"C";"K")', MISSING, "the value is missing"),
+            ('CALVEX.CONVERT("P";"barr";"Pa";1)', VALUE, "'barr' is not a unit of Pressure; did you mean bara"),
+            ('CALVEX.CONVERT("P";"MPa";"Pa";1E+308)', NUM, "the value is too large to be a number of Pa"),
             ("B1", 522, "the cell reads itself"),
             ("HPT(TPH(10;-1);300)", NUM, "TPH: "),
             ("SUM(1;HPT(10;3000))", NUM, "HPT: Temperature parameter out of range"),
@@ -241,3 +243,7 @@ def test_conversion(sheet):
     sheet["B1:B2"].DataArray = ((0.0,), (100.0,))
     assert sheet.array("C1:C2", '=CALVEX.CONVERT("T";"C";"K";B1:B2)') == (
         (pytest.approx(273.15),), (pytest.approx(373.15),))
+    sheet.array("C1:C2", "")
+    sheet["E1:F1"].DataArray = (("K", "F"),)
+    assert sheet.array("C1:D2", '=CALVEX.CONVERT("T";"C";E1:F1;B1:B2)') == (
+        (pytest.approx(273.15), pytest.approx(32)), (pytest.approx(373.15), pytest.approx(212)))

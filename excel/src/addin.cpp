@@ -1,10 +1,10 @@
 // What the host calls: the add-in's life and the worksheet functions.
 #include <array>
 
+#include "failures.h"
 #include "functions.h"
 #include "host.h"
 #include "registration.h"
-#include "workbook.h"
 
 using namespace calvex::excel;
 
@@ -19,16 +19,14 @@ CALVEX_ENTRY int WINAPI xlAutoOpen() {
   }
 }
 
-/// The host may still be kept open by its user, so that the functions stay.
-CALVEX_ENTRY int WINAPI xlAutoClose() { return 1; }
-
-/// The user takes the add-in off the list.
-CALVEX_ENTRY int WINAPI xlAutoRemove() {
+/// The host lets the add-in go: nothing of it stays there, and it has no memory of it.
+CALVEX_ENTRY int WINAPI xlAutoClose() {
   try {
     unregisterAll();
     forgetAllFailures();
+    forgetEngines();
   } catch (...) {
-    return 0;
+    // The host takes no other answer.
   }
   return 1;
 }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "workbook.h"
+#include "failures.h"
 #include "worksheet/record.h"
 
 namespace calvex::excel {
@@ -39,8 +39,9 @@ std::vector<Grid> gridsOf(std::span<const XLOPER12* const> arguments) {
 
 // A function that has failed without a call of a member.
 Grid failed(const std::optional<CellRange>& where, ErrorKind kind, std::string why) {
-  if (where) keepFailure(*where, {1, 1}, std::move(why));
-  return errorCell(kind);
+  const Grid answer = errorCell(kind);
+  if (where) keepFailure(*where, answer, std::move(why));
+  return answer;
 }
 
 // Runs a body with an engine that has the units of the workbook.
@@ -62,43 +63,52 @@ const worksheet::Error* errorIn(const Cell& cell) { return std::get_if<worksheet
 
 bool isError(const Cell& cell) { return errorIn(cell) != nullptr; }
 
-// Keeps why a call has failed. Where it only passes an error on, what an inner call of the same
-// formula has said stays.
-void keep(const CellRange& where, const Grid& answer, FailedCall call) {
-  const bool passesOn = std::ranges::all_of(answer.cells, [](const Cell& cell) {
-    const auto* error = errorIn(cell);
-    return error == nullptr || error->kind == ErrorKind::given;
-  });
-  const auto known = passesOn ? findFailure(where) : std::nullopt;
-  if (known) {
-    const auto* inner = std::get_if<FailedCall>(known->failure);
-    if (inner == nullptr || inner->signature != call.signature) return;
+// The answer of a call, which is kept where it has failed.
+Grid answered(const std::optional<CellRange>& where, Grid answer, FailedCall call) {
+  if (!where) return answer;
+  if (std::ranges::any_of(answer.cells, isError)) {
+    keepFailure(*where, answer, std::move(call));
+  } else {
+    forgetFailure(*where);
   }
-  keepFailure(where, {answer.rows, answer.columns}, std::move(call));
+  return answer;
 }
+
+std::string shownError(int number) {
+  switch (number) {
+    case xlerrNull:
+      return "#NULL!";
+    case xlerrDiv0:
+      return "#DIV/0!";
+    case xlerrValue:
+      return "#VALUE!";
+    case xlerrRef:
+      return "#REF!";
+    case xlerrName:
+      return "#NAME?";
+    case xlerrNum:
+      return "#NUM!";
+    case xlerrNA:
+      return "#N/A";
+    default:
+      return "an error";
+  }
+}
+
+constexpr worksheet::Wording wording{shownError, "which is no number with a point"};
 
 // Runs what failed in a cell again, with an engine that records it.
 std::string reasonOf(const FoundFailure& found, calvex_engine* recording) {
   if (const auto* text = std::get_if<std::string>(found.failure)) return *text;
   const auto& call = std::get<FailedCall>(*found.failure);
+  if (call.signature == nullptr) {
+    return worksheet::reasonOfConversion(recording, call.arguments, found.element, wording);
+  }
   calvex_take_settings(recording, call.engine->handle());
   const Place source = worksheet::sourceOf(*call.signature, call.arguments, found.element);
-  const std::string why = worksheet::reason(recording, *call.signature, call.arguments, source);
+  const std::string why =
+      worksheet::reason(recording, *call.signature, call.arguments, source, wording);
   return why.empty() ? call.signature->name + ": there is no such result of these inputs." : why;
-}
-
-// Whether a cell shows an error now.
-bool showsError(const XLOPER12& cell) {
-  Answer contents;
-  if (!call(xlCoerce, contents, {cell})) return false;
-  const XLOPER12* value = &contents.value();
-  if (contents.type() == xltypeMulti) value = value->val.array.lparray;
-  return (value->xltype & xltypeMask) == xltypeErr;
-}
-
-std::optional<FoundFailure> failureOf(const XLOPER12& cell) {
-  const auto range = rangeOf(cell);
-  return range ? findFailure(*range) : std::nullopt;
 }
 
 }  // namespace
@@ -110,13 +120,7 @@ XLOPER12* answerMember(int member, std::initializer_list<const XLOPER12*> argume
       const Signature& signature = worksheet::signatureOf(member);
       std::vector<Grid> grids = gridsOf({arguments.begin(), arguments.size()});
       Grid answer = worksheet::calculate(engine->handle(), signature, grids);
-      if (!where) return answer;
-      if (std::ranges::any_of(answer.cells, isError)) {
-        keep(*where, answer, {&signature, std::move(grids), engine});
-      } else {
-        forgetFailure(*where, &signature);
-      }
-      return answer;
+      return answered(where, std::move(answer), {&signature, std::move(grids), engine});
     });
   });
 }
@@ -126,7 +130,7 @@ XLOPER12* answerUnits(std::span<const XLOPER12* const> choices) noexcept {
     const auto where = caller();
     std::string chosen;
     try {
-      chosen = unitsText(gridsOf(choices));
+      chosen = worksheet::unitsText(worksheet::unitsOf(gridsOf(choices)));
     } catch (const Error& fault) {
       return failed(where, ErrorKind::value, std::string("CALVEX.UNITS: ") + fault.what());
     }
@@ -139,7 +143,7 @@ XLOPER12* answerUnits(std::span<const XLOPER12* const> choices) noexcept {
                         "). Define the name " + std::string(unitsName) +
                         " and let it refer to this cell, then press Ctrl+Alt+F9.");
     }
-    if (where) forgetFailure(*where, nullptr);
+    if (where) forgetFailure(*where);
     if (chosen.empty() && !units.fault.empty()) {
       return failed(where, ErrorKind::value, units.fault);
     }
@@ -155,7 +159,7 @@ XLOPER12* answerUnit(const XLOPER12* quantity) noexcept {
       if (isError(name)) {
         return failed(where, ErrorKind::value, "CALVEX.UNIT: that is not the name of a quantity");
       }
-      if (where) forgetFailure(*where, nullptr);
+      if (where) forgetFailure(*where);
       return name;
     });
   });
@@ -163,29 +167,24 @@ XLOPER12* answerUnit(const XLOPER12* quantity) noexcept {
 
 XLOPER12* answerConvert(std::initializer_list<const XLOPER12*> arguments) noexcept {
   return guarded([&]() -> Grid {
-    const auto where = caller();
-    std::string why;
-    Cell value = worksheet::convert(engineOf({})->handle(),
-                                    gridsOf({arguments.begin(), arguments.size()}), why);
-    if (!where) return value;
-    if (why.empty()) {
-      forgetFailure(*where, nullptr);
-    } else {
-      keepFailure(*where, {1, 1}, std::move(why));
-    }
-    return value;
+    std::vector<Grid> grids = gridsOf({arguments.begin(), arguments.size()});
+    const auto engine = engineOf({});
+    Grid answer = worksheet::convert(engine->handle(), grids);
+    return answered(caller(), std::move(answer), {nullptr, std::move(grids), engine});
   });
 }
 
 XLOPER12* answerWhy(const XLOPER12* cell) noexcept {
   return guarded([&]() -> Grid {
-    if (!rangeOf(*cell)) return errorCell(ErrorKind::value);
-    if (!showsError(*cell)) return Cell(std::string());
-    const auto found = failureOf(*cell);
+    const auto range = rangeOf(*cell);
+    if (!range) return errorCell(ErrorKind::value);
+    const auto error = shownErrorOf(*range);
+    if (!error) return Cell(std::string());
+    const auto found = findFailure(*range, *error);
     if (!found) {
       return Cell(std::string(
-          "No function of Calvex has failed here since the workbook was opened. Ctrl+Alt+F9 "
-          "calculates everything anew."));
+          "No function of Calvex has failed here, as the cell stands now. Ctrl+Alt+F9 calculates "
+          "everything anew."));
     }
     const Engine recording;
     return Cell(reasonOf(*found, recording.handle()));
@@ -194,8 +193,10 @@ XLOPER12* answerWhy(const XLOPER12* cell) noexcept {
 
 XLOPER12* answerTrace(const XLOPER12* cell) noexcept {
   return guarded([&]() -> Grid {
-    if (!rangeOf(*cell)) return errorCell(ErrorKind::value);
-    const auto found = showsError(*cell) ? failureOf(*cell) : std::nullopt;
+    const auto range = rangeOf(*cell);
+    if (!range) return errorCell(ErrorKind::value);
+    const auto error = shownErrorOf(*range);
+    const auto found = error ? findFailure(*range, *error) : std::nullopt;
     if (!found) return Cell(std::string());
     const Engine recording;
     const std::string why = reasonOf(*found, recording.handle());

@@ -21,10 +21,11 @@ XLOPER12* answerUnits(std::span<const XLOPER12* const> choices) noexcept;
 /// The unit that a quantity has in the workbook.
 XLOPER12* answerUnit(const XLOPER12* quantity) noexcept;
 
-/// Converts a value between units: quantity, unit, unit wanted, value.
+/// Converts a value between units: quantity, unit, unit wanted, value; each may be a range.
 XLOPER12* answerConvert(std::initializer_list<const XLOPER12*> arguments) noexcept;
 
-/// Why a cell, given by reference, has no value; empty for one that has.
+/// Why a cell, given by reference, has no value; empty for one that has. A reason is that of the
+/// formula and the inputs that stand there now.
 XLOPER12* answerWhy(const XLOPER12* cell) noexcept;
 
 /// The record of a failed cell's call: rows of depth, kind and text.

@@ -1,6 +1,8 @@
 #include "host.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <memory>
 
 namespace calvex::excel {
@@ -37,8 +39,11 @@ Cell cellOf(const XLOPER12& value) {
       return value.val.num;
     case xltypeInt:
       return static_cast<double>(value.val.w);
-    case xltypeStr:
-      return toUtf8({value.val.str + 1, static_cast<std::size_t>(value.val.str[0])});
+    case xltypeStr: {
+      std::string text = toUtf8({value.val.str + 1, static_cast<std::size_t>(value.val.str[0])});
+      if (const auto number = numberIn(text)) return *number;
+      return text;
+    }
     case xltypeBool:
       return std::string(value.val.xbool != 0 ? "TRUE" : "FALSE");
     case xltypeErr:
@@ -94,6 +99,20 @@ std::string toUtf8(std::wstring_view text) {
   WideCharToMultiByte(CP_UTF8, 0, text.data(), size, utf8.data(), static_cast<int>(utf8.size()),
                       nullptr, nullptr);
   return utf8;
+}
+
+std::optional<double> numberIn(std::string_view text) {
+  constexpr std::string_view blanks = " \t\r\n";
+  const std::size_t begin = text.find_first_not_of(blanks);
+  if (begin == std::string_view::npos) return std::nullopt;
+  text = text.substr(begin, text.find_last_not_of(blanks) + 1 - begin);
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  double number = 0.0;
+  const auto [end, code] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (code != std::errc() || end != text.data() + text.size() || !std::isfinite(number)) {
+    return std::nullopt;
+  }
+  return number;
 }
 
 Argument::Argument(std::string_view utf8) : Argument(std::wstring_view(toWide(utf8))) {}

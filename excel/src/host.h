@@ -3,6 +3,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -62,7 +63,12 @@ class Answer {
 bool call(int function, Answer& answer, std::span<const Argument> arguments = {});
 bool call(int function, Answer& answer, std::initializer_list<Argument> arguments);
 
-/// The values of cells as the host gives them to a function.
+/// A text that is a number as it is written everywhere: with a point, "10.5", "-1e-3". Nothing for
+/// any other; "10,5" is none.
+[[nodiscard]] std::optional<double> numberIn(std::string_view text);
+
+/// The values of cells as the host gives them to a function; a text that is a number is that
+/// number.
 [[nodiscard]] worksheet::Grid gridOf(const XLOPER12& value);
 
 /// A result for the host, which gives it back to `release`.

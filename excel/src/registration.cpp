@@ -108,7 +108,7 @@ void unregisterAll() {
     Answer done;
     call(xlfUnregister, done, {handle});
   }
-  handles().clear();
+  handles() = {};
   for (const std::string& name : identifiers()) {
     Answer done;
     call(xlfSetName, done, {std::string_view(name)});

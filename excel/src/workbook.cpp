@@ -8,7 +8,6 @@
 namespace calvex::excel {
 
 using worksheet::Grid;
-using worksheet::Place;
 
 namespace {
 
@@ -18,37 +17,37 @@ std::wstring_view trimmed(std::wstring_view text) {
   return text.substr(begin, text.find_last_not_of(L' ') + 1 - begin);
 }
 
-// A unit as the catalogue names it, "T=°C".
-std::pair<int, std::string> namedUnit(std::string_view group, std::string_view unit) {
-  Engine engine;
-  engine.unit(group, unit);
-  int number = 0;
-  calvex_find_group(group.data(), group.size(), &number);
-  return {number, engine.unit(group)};
+// A sheet's name without the quotes that it has in formulas: "It's mine" of "'It''s mine'".
+std::wstring plainSheet(std::wstring_view written) {
+  std::wstring sheet(written);
+  if (sheet.size() > 1 && sheet.front() == L'\'' && sheet.back() == L'\'') {
+    sheet = sheet.substr(1, sheet.size() - 2);
+    for (std::size_t i = 0; (i = sheet.find(L"''", i)) != std::wstring::npos; ++i) {
+      sheet.erase(i, 1);
+    }
+  }
+  return sheet;
 }
 
-std::string joined(const std::map<int, std::string>& units) {
-  std::string text;
-  for (const auto& [group, unit] : units) {
-    const int number = group;
-    if (!text.empty()) text += "; ";
-    text += worksheet::textOf([&](char* name, std::size_t size, std::size_t* needed) {
-      calvex_group_text(number, CALVEX_GROUP_KEYWORD, name, size, needed);
-    });
-    text += '=' + unit;
+// What a word means to cells of a sheet, as an expression: "'[Book1.xlsx]Sheet1'!A1"; without a
+// sheet what it means to the active one.
+std::wstring expressionOf(std::wstring_view word, const std::optional<CellRange>& where) {
+  if (!where || word.find(L'[') != std::wstring_view::npos) {
+    return (where ? L"" : L"!") + std::wstring(word);
   }
-  return text;
+  std::wstring sheet = where->sheet;
+  if (const std::size_t sign = word.rfind(L'!'); sign != std::wstring_view::npos) {
+    sheet.resize(sheet.find(L']') + 1);
+    sheet += plainSheet(word.substr(0, sign));
+    word.remove_prefix(sign + 1);
+  }
+  std::wstring expression = L"'";
+  for (const wchar_t c : sheet) expression += c == L'\'' ? L"''" : std::wstring(1, c);
+  return (expression += L"'!").append(word);
 }
 
-// The name of a sheet's workbook as an expression; without a sheet that of the active one.
-std::wstring nameExpression(const std::optional<CellRange>& where) {
-  std::wstring expression = L"!";
-  if (where) {
-    expression = L"'";
-    for (const wchar_t c : where->sheet) expression += c == L'\'' ? L"''" : std::wstring(1, c);
-    expression += L"'!";
-  }
-  return expression + toWide(unitsName);
+std::wstring unitsExpression(const std::optional<CellRange>& where) {
+  return expressionOf(toWide(unitsName), where);
 }
 
 // What the name is defined as, "=Sheet1!R3C1"; empty when there is none.
@@ -68,17 +67,39 @@ std::wstring columnLetters(COL column) {
   return letters;
 }
 
-struct KeptFailure {
-  XLREF12 cells;
-  Place size;
-  Failure failure;
+// By their units.
+std::map<std::string, std::shared_ptr<Engine>>& engines() {
+  static std::map<std::string, std::shared_ptr<Engine>> made;
+  return made;
+}
+
+// A reference to the first of some cells, for calls of the host.
+class FirstCell {
+ public:
+  explicit FirstCell(const CellRange& cells) : area_{1, {cells.cells}} {
+    area_.reftbl[0].rwLast = cells.cells.rwFirst;
+    area_.reftbl[0].colLast = cells.cells.colFirst;
+    Answer sheet;
+    if (!call(xlSheetId, sheet, {std::wstring_view(cells.sheet)}) || sheet.type() != xltypeRef) {
+      return;
+    }
+    reference_.xltype = xltypeRef;
+    reference_.val.mref = {&area_, sheet.value().val.mref.idSheet};
+  }
+  FirstCell(const FirstCell&) = delete;
+  FirstCell& operator=(const FirstCell&) = delete;
+  /// Whether there is still such a sheet.
+  [[nodiscard]] bool exists() const { return reference_.xltype == xltypeRef; }
+  [[nodiscard]] Argument argument() const { return reference_; }
+
+ private:
+  XLMREF12 area_;
+  XLOPER12 reference_{.val = {}, .xltype = xltypeMissing};
 };
 
-// By sheet, then by the first cell.
-using Failures = std::map<std::wstring, std::map<std::pair<RW, COL>, KeptFailure>, std::less<>>;
-Failures& failures() {
-  static Failures kept;
-  return kept;
+std::size_t sizeOf(const XLREF12& cells) {
+  return static_cast<std::size_t>(cells.rwLast - cells.rwFirst + 1) *
+         static_cast<std::size_t>(cells.colLast - cells.colFirst + 1);
 }
 
 }  // namespace
@@ -108,27 +129,38 @@ std::optional<CellRange> caller() {
   return rangeOf(reference.value());
 }
 
-std::string unitsText(std::span<const Grid> words) {
-  std::size_t count = words.size();
-  const auto given = [&](std::size_t i) {
-    return i < words.size() ? words[i].element({}) : worksheet::Cell();
-  };
-  while (count > 0 && std::holds_alternative<worksheet::LeftOut>(given(count - 1))) --count;
-  std::map<int, std::string> units;
-  for (std::size_t i = 0; i < count; i += 2) {
-    const worksheet::Cell group = given(i), unit = given(i + 1);
-    if (!std::holds_alternative<std::string>(group) || !std::holds_alternative<std::string>(unit)) {
-      throw Error(CALVEX_VALUE, "it takes texts in pairs: a quantity, then its unit");
-    }
-    const auto [number, name] =
-        namedUnit(std::get<std::string>(group), std::get<std::string>(unit));
-    units.insert_or_assign(number, name);
-  }
-  return joined(units);
+std::wstring formulaOf(const CellRange& cells) {
+  constexpr double asFormula = 6;
+  const FirstCell cell(cells);
+  Answer formula;
+  if (!cell.exists() || !call(xlfGetCell, formula, {asFormula, cell.argument()}) ||
+      !formula.isText())
+    return {};
+  return std::wstring(formula.text());
+}
+
+Grid valueOf(std::wstring_view name, const CellRange& cells) {
+  const std::wstring expression = expressionOf(name, cells);
+  Answer value, contents;
+  if (!call(xlfEvaluate, value, {std::wstring_view(expression)})) return {};
+  if (!value.isReference()) return gridOf(value.value());
+  constexpr std::size_t most = 1000;  // a formula with more than that is calculated for each change
+  const auto range = rangeOf(value.value());
+  if (!range || sizeOf(range->cells) > most || !call(xlCoerce, contents, {value.value()}))
+    return {};
+  return gridOf(contents.value());
+}
+
+std::optional<int> shownErrorOf(const CellRange& cells) {
+  const FirstCell cell(cells);
+  Answer contents;
+  if (!cell.exists() || !call(xlCoerce, contents, {cell.argument()})) return {};
+  if (contents.type() != xltypeErr) return {};
+  return contents.value().val.err;
 }
 
 WorkbookUnits unitsOf(const std::optional<CellRange>& where) {
-  const std::wstring expression = nameExpression(where);
+  const std::wstring expression = unitsExpression(where);
   WorkbookUnits units;
   const std::string name(unitsName);
   Answer named, contents;
@@ -159,44 +191,26 @@ WorkbookUnits unitsOf(const std::optional<CellRange>& where) {
 }
 
 bool namesUnits(const CellRange& cell) {
-  std::wstring definition = definitionOf(nameExpression(cell));
+  const std::wstring definition = definitionOf(unitsExpression(cell));
   const std::size_t sign = definition.rfind(L'!');
   if (sign == std::wstring::npos || definition[0] != L'=') return false;
   const std::wstring place = definition.substr(sign + 1);
   const std::wstring row = std::to_wstring(cell.cells.rwFirst + 1);
   const bool isPlace = place == L"R" + row + L"C" + std::to_wstring(cell.cells.colFirst + 1) ||
                        place == L"$" + columnLetters(cell.cells.colFirst) + L"$" + row;
-  // "=Sheet1", "='[Book1.xlsx]It''s mine'"
-  std::wstring sheet = definition.substr(1, sign - 1);
-  if (sheet.size() > 1 && sheet.front() == L'\'' && sheet.back() == L'\'') {
-    sheet = sheet.substr(1, sheet.size() - 2);
-    for (std::size_t i = 0; (i = sheet.find(L"''", i)) != std::wstring::npos; ++i)
-      sheet.erase(i, 1);
-  }
+  const std::wstring sheet = plainSheet(definition.substr(1, sign - 1));
   const auto plain = [](const std::wstring& name) { return name.substr(name.find(L']') + 1); };
   return isPlace && plain(sheet) == plain(cell.sheet);
 }
 
 std::shared_ptr<Engine> engineOf(const std::string& units) {
-  static std::map<std::string, std::shared_ptr<Engine>> engines;
-  if (const auto known = engines.find(units); known != engines.end()) return known->second;
+  if (const auto known = engines().find(units); known != engines().end()) return known->second;
   auto engine = std::make_shared<Engine>();
-  std::string_view rest = units;
-  while (!rest.empty()) {
-    std::string_view part = rest.substr(0, rest.find(';'));
-    rest.remove_prefix(std::min(rest.size(), part.size() + 1));
-    const std::size_t begin = part.find_first_not_of(' ');
-    if (begin == std::string_view::npos) continue;
-    part = part.substr(begin, part.find_last_not_of(' ') + 1 - begin);
-    const std::size_t sign = part.find('=');
-    if (sign == std::string_view::npos) {
-      throw Error(CALVEX_VALUE,
-                  "\"" + std::string(part) + "\" is not a quantity, a sign = and a unit.");
-    }
-    engine->unit(part.substr(0, sign), part.substr(sign + 1));
-  }
-  return engines.emplace(units, std::move(engine)).first->second;
+  worksheet::setUnits(*engine, worksheet::readUnits(units));
+  return engines().emplace(units, std::move(engine)).first->second;
 }
+
+void forgetEngines() { engines().clear(); }
 
 bool sameUnits(const std::string& a, const std::string& b) {
   try {
@@ -215,48 +229,6 @@ bool sameUnits(const std::string& a, const std::string& b) {
   } catch (const Error&) {
     return false;
   }
-}
-
-void keepFailure(const CellRange& cells, Place size, Failure failure) {
-  failures()[cells.sheet].insert_or_assign({cells.cells.rwFirst, cells.cells.colFirst},
-                                           KeptFailure{cells.cells, size, std::move(failure)});
-}
-
-void forgetFailure(const CellRange& cells, const worksheet::Signature* signature) {
-  const auto sheet = failures().find(cells.sheet);
-  if (sheet == failures().end()) return;
-  const auto kept = sheet->second.find({cells.cells.rwFirst, cells.cells.colFirst});
-  if (kept == sheet->second.end()) return;
-  const auto* failed = std::get_if<FailedCall>(&kept->second.failure);
-  const worksheet::Signature* of = failed != nullptr ? failed->signature : nullptr;
-  if (of == signature) sheet->second.erase(kept);
-}
-
-void forgetAllFailures() { failures().clear(); }
-
-std::optional<FoundFailure> findFailure(const CellRange& cell) {
-  const auto sheet = failures().find(cell.sheet);
-  if (sheet == failures().end()) return {};
-  const RW row = cell.cells.rwFirst;
-  const COL column = cell.cells.colFirst;
-  const auto elementIn = [&](const KeptFailure& kept) -> std::optional<FoundFailure> {
-    if (row < kept.cells.rwFirst || column < kept.cells.colFirst) return {};
-    Place element{static_cast<std::size_t>(row - kept.cells.rwFirst),
-                  static_cast<std::size_t>(column - kept.cells.colFirst)};
-    const bool isInside = row <= kept.cells.rwLast && column <= kept.cells.colLast;
-    const bool isSpilled = element.row < kept.size.row && element.column < kept.size.column;
-    if (!isInside && !isSpilled) return {};
-    if (kept.size.row == 1) element.row = 0;  // the host repeats a single row or column
-    if (kept.size.column == 1) element.column = 0;
-    return FoundFailure{&kept.failure, element};
-  };
-  if (const auto own = sheet->second.find({row, column}); own != sheet->second.end()) {
-    return elementIn(own->second);
-  }
-  for (const auto& [place, kept] : sheet->second) {
-    if (const auto found = elementIn(kept)) return found;
-  }
-  return {};
 }
 
 }  // namespace calvex::excel

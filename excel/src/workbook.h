@@ -1,5 +1,5 @@
 /// \file
-/// What is known of the workbook that calls: its units, and which of its cells have failed.
+/// What is known of the workbook that calls: what stands in its cells, and its units.
 ///
 /// A workbook's units are in its name Calvex_Units, which is a text ("T=°C; P=bar") or refers to a
 /// cell with CALVEX.UNITS. They are read with every call, so that nothing has to be kept in step.
@@ -10,11 +10,10 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
-#include <vector>
 
 #include "host.h"
 #include "worksheet/calculation.h"
+#include "worksheet/units.h"
 
 namespace calvex::excel {
 
@@ -36,9 +35,13 @@ struct CellRange {
 /// The cells with the formula that is being calculated; nothing for a call from a macro.
 [[nodiscard]] std::optional<CellRange> caller();
 
-/// Pairs of a quantity and a unit in plain words as the catalogue names them: "T=°C; P=bar". Throws
-/// `calvex::Error` for words that name none.
-[[nodiscard]] std::string unitsText(std::span<const worksheet::Grid> words);
+/// The formula of the first of those cells as it is typed, or the constant there.
+[[nodiscard]] std::wstring formulaOf(const CellRange& cells);
+/// The values of what a name, a cell or a range means to a formula in those cells: "A1", "Speed".
+/// Of very large ranges there are none.
+[[nodiscard]] worksheet::Grid valueOf(std::wstring_view name, const CellRange& cells);
+/// The host's number of the error that the first of those cells shows; nothing where it shows none.
+[[nodiscard]] std::optional<int> shownErrorOf(const CellRange& cells);
 
 struct WorkbookUnits {
   std::string text;                 ///< "T=°C; P=bar"; empty: model units
@@ -55,27 +58,10 @@ struct WorkbookUnits {
 /// An engine with those units; throws `calvex::Error` where the text names none.
 [[nodiscard]] std::shared_ptr<Engine> engineOf(const std::string& units);
 
+/// Lets all those engines go.
+void forgetEngines();
+
 /// Whether two texts of units mean the same ones; false for a text that names none.
 [[nodiscard]] bool sameUnits(const std::string& a, const std::string& b);
-
-/// A call that failed somewhere, kept for those who ask why.
-struct FailedCall {
-  const worksheet::Signature* signature;
-  std::vector<worksheet::Grid> arguments;
-  std::shared_ptr<Engine> engine;
-};
-using Failure = std::variant<std::string, FailedCall>;
-
-/// Keeps why those cells fail. `size` is that of the result, which may reach beyond them.
-void keepFailure(const CellRange& cells, worksheet::Place size, Failure failure);
-/// That member has succeeded there.
-void forgetFailure(const CellRange& cells, const worksheet::Signature* signature);
-void forgetAllFailures();
-
-struct FoundFailure {
-  const Failure* failure;
-  worksheet::Place element;  ///< of the result
-};
-[[nodiscard]] std::optional<FoundFailure> findFailure(const CellRange& cell);
 
 }  // namespace calvex::excel

@@ -83,12 +83,14 @@ enum : int { xlretSuccess = 0, xlretFailed = 32 };
 enum : int {
   xlFree = 0x4000,
   xlCoerce = 0x4002,
+  xlSheetId = 0x4004,
   xlSheetNm = 0x4005,
   xlGetName = 0x4009,
   xlfSetName = 88,
   xlfCaller = 89,
   xlfGetName = 107,
   xlfRegister = 149,
+  xlfGetCell = 185,
   xlfUnregister = 201,
   xlfEvaluate = 257,
 };

@@ -110,16 +110,35 @@ TEST_F(ExcelAddIn, TellsItsNameToTheListOfAddIns) {
   release(answer);
 }
 
-TEST_F(ExcelAddIn, StaysWhenTheHostIsNotClosedAfterAllAndGoesWhenItIsRemoved) {
+TEST_F(ExcelAddIn, LeavesNothingWhereItIsTakenOff) {
+  const auto close = host.entry<int(WINAPI*)()>("xlAutoClose");
   ASSERT_EQ(open(), 1);
   const std::size_t count = host.functions.size();
-  EXPECT_EQ(host.entry<int(WINAPI*)()>("xlAutoClose")(), 1);
-  EXPECT_EQ(host.functions.size(), count);
-  EXPECT_EQ(host.entry<int(WINAPI*)()>("xlAutoRemove")(), 1);
+  const auto names = [&] {
+    std::set<std::wstring> all;
+    for (const auto& [name, function] : host.functions) all.insert(name);
+    return all;
+  }();
+  host.unitNames[L"Book1.xlsx"] = std::wstring(L"T=C");
+  host.calculate({L"[Book1.xlsx]Sheet1", 1, 1}, L"HPT", {10.0, 500.0});
+  Grid cold(100000, 1);
+  std::ranges::fill(cold.cells, -300.0);
+  const double before = memoryInUse();
+  host.calculate({L"[Book1.xlsx]Sheet1", 0, 0}, L"HPT", {10.0, cold}, 1, 1);
+  host.cells.clear();
+  EXPECT_GT(memoryInUse() - before, 2.0) << "MB of a failure";
+  EXPECT_EQ(close(), 1);
+  EXPECT_LT(memoryInUse() - before, 0.1) << "MB";
   EXPECT_TRUE(host.functions.empty());
-  EXPECT_EQ(host.deletedNames.size(), count);
+  EXPECT_EQ(std::set(host.deletedNames.begin(), host.deletedNames.end()), names);
+  EXPECT_EQ(close(), 1);
   ASSERT_EQ(open(), 1);
   EXPECT_EQ(host.functions.size(), count);
+  EXPECT_EQ(errorOf(host.calculate({L"[Book1.xlsx]Sheet1", 0, 0}, L"HPT", {10.0, 3000.0})),
+            xlerrNA);
+  EXPECT_EQ(close(), 1);
+  EXPECT_TRUE(host.functions.empty());
+  EXPECT_EQ(host.lent, host.givenBack);
 }
 
 TEST_F(ExcelAddIn, SaysSoWhenTheHostRefuses) {

@@ -2,10 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstring>
 #include <limits>
+#include <regex>
 #include <utility>
 
 namespace calvex::excel::test {
@@ -48,6 +50,15 @@ std::string narrow(const std::wstring& text) {
       WideCharToMultiByte(CP_UTF8, 0, text.data(), static_cast<int>(text.size()), result.data(),
                           static_cast<int>(result.size()), nullptr, nullptr)));
   return result;
+}
+
+// "$A$1"
+std::wstring cellName(const Address& cell) {
+  std::wstring letters;
+  for (int rest = cell.column + 1; rest > 0; rest = (rest - 1) / 26) {
+    letters.insert(letters.begin(), static_cast<wchar_t>(L'A' + (rest - 1) % 26));
+  }
+  return L'$' + letters + L'$' + std::to_wstring(cell.row + 1);
 }
 
 std::wstring counted(const std::wstring& text) {
@@ -148,6 +159,56 @@ void Host::lend(const Cell& cell, XLOPER12* to) {
   }
 }
 
+void Host::lend(const Grid& grid, XLOPER12* to) {
+  if (grid.cells.size() == 1) return lend(grid.cells[0], to);
+  to->xltype = xltypeMulti;
+  to->val.array = {new XLOPER12[grid.cells.size()], static_cast<RW>(grid.rows),
+                   static_cast<COL>(grid.columns)};
+  ++lent;
+  for (std::size_t i = 0; i < grid.cells.size(); ++i) {
+    to->val.array.lparray[i] = {};
+    lend(grid.cells[i], &to->val.array.lparray[i]);
+  }
+}
+
+void Host::takeBack(XLOPER12& value) {
+  if (value.xltype == xltypeStr) {
+    delete[] value.val.str;
+  } else if (value.xltype == xltypeRef && value.val.mref.lpmref != nullptr) {
+    delete value.val.mref.lpmref;
+  } else if (value.xltype == xltypeMulti) {
+    const auto count = static_cast<std::size_t>(value.val.array.rows) *
+                       static_cast<std::size_t>(value.val.array.columns);
+    for (std::size_t i = 0; i < count; ++i) takeBack(value.val.array.lparray[i]);
+    delete[] value.val.array.lparray;
+  } else {
+    return;
+  }
+  value.xltype = xltypeNil;
+  ++givenBack;
+}
+
+Cell Host::contents(const Address& cell) const {
+  const auto found = cells.find(cell);
+  return found == cells.end() ? Cell(Blank{}) : found->second;
+}
+
+// "A1", "$B$2:C7"
+bool Host::refersTo(const std::wstring& name, const std::wstring& sheet, XLOPER12* result) {
+  static const std::wregex pattern(L"\\$?([A-Z]{1,3})\\$?([0-9]+)(:\\$?([A-Z]{1,3})\\$?([0-9]+))?");
+  std::wsmatch found;
+  if (!std::regex_match(name, found, pattern)) return false;
+  const auto place = [&](std::size_t letters) {
+    int column = 0;
+    for (const wchar_t c : found.str(letters)) column = 26 * column + (c - L'A' + 1);
+    return std::pair(std::stoi(found.str(letters + 1)) - 1, column - 1);
+  };
+  const auto [row, column] = place(1);
+  const auto [lastRow, lastColumn] = found[3].matched ? place(4) : std::pair(row, column);
+  refer({sheet, row, column}, lastRow - row + 1, lastColumn - column + 1, result);
+  return true;
+}
+
 void Host::refer(const Address& where, int rows, int columns, XLOPER12* to) {
   const XLREF12 rectangle{where.row, where.row + rows - 1, where.column,
                           where.column + columns - 1};
@@ -165,15 +226,16 @@ void Host::refer(const Address& where, int rows, int columns, XLOPER12* to) {
 
 int Host::evaluate(const std::wstring& expression, XLOPER12* result) {
   const std::size_t sign = expression.rfind(L'!');
-  if (sign == std::wstring::npos || expression.substr(sign + 1) != L"Calvex_Units") {
+  if (sign == std::wstring::npos) {
     lend(Error{ErrorKind::given, xlerrName}, result);
     return xlretSuccess;
   }
   std::wstring sheet = expression.substr(0, sign);
   if (sheet.empty()) {
     sheet = activeSheet;
+  } else if (sheet.front() != L'\'') {
+    sheet = activeSheet.substr(0, activeSheet.find(L']') + 1) + sheet;
   } else {
-    EXPECT_EQ(sheet.front(), L'\'');
     EXPECT_EQ(sheet.back(), L'\'');
     sheet = sheet.substr(1, sheet.size() - 2);
     for (std::size_t i = 0; (i = sheet.find(L'\'', i)) != std::wstring::npos; ++i) {
@@ -181,17 +243,19 @@ int Host::evaluate(const std::wstring& expression, XLOPER12* result) {
       sheet.erase(i, 1);
     }
   }
+  const std::wstring name = expression.substr(sign + 1);
+  if (refersTo(name, sheet, result)) return xlretSuccess;
   const std::wstring book = sheet.substr(1, sheet.find(L']') - 1);
   const auto found = unitNames.find(book);
-  if (found == unitNames.end()) {
+  if (name != L"Calvex_Units" || found == unitNames.end()) {
     lend(Error{ErrorKind::given, xlerrName}, result);
   } else if (const auto* text = std::get_if<std::wstring>(&found->second)) {
     lend(narrow(*text), result);
   } else if (const auto* error = std::get_if<Error>(&found->second)) {
     lend(*error, result);
   } else if (namesAreValues) {
-    const auto cell = cells.find(std::get<Address>(found->second));
-    lend(cell == cells.end() ? Cell(0.0) : cell->second, result);
+    const Cell cell = contents(std::get<Address>(found->second));
+    lend(std::holds_alternative<Blank>(cell) ? Cell(0.0) : cell, result);
   } else {
     refer(std::get<Address>(found->second), 1, 1, result);
   }
@@ -225,16 +289,7 @@ int Host::callback(int function, int count, XLOPER12** arguments, XLOPER12* resu
   ++callbacks;
   switch (function) {
     case xlFree:
-      for (int i = 0; i < count; ++i) {
-        if (arguments[i]->xltype == xltypeStr) {
-          delete[] arguments[i]->val.str;
-          ++givenBack;
-        } else if (arguments[i]->xltype == xltypeRef) {
-          delete arguments[i]->val.mref.lpmref;
-          ++givenBack;
-        }
-        arguments[i]->xltype = xltypeNil;
-      }
+      for (int i = 0; i < count; ++i) takeBack(*arguments[i]);
       return xlretSuccess;
     case xlGetName:
       lend(std::string(CALVEX_XLL), result);
@@ -260,6 +315,20 @@ int Host::callback(int function, int count, XLOPER12** arguments, XLOPER12* resu
     case xlSheetNm:
       lend(narrow(sheetOf(*arguments[0])), result);
       return xlretSuccess;
+    case xlSheetId:
+      result->xltype = xltypeRef;
+      result->val.mref = {nullptr, sheetId(textIn(*arguments[0]))};
+      return xlretSuccess;
+    case xlfGetCell: {
+      EXPECT_TRUE(isMacroFunction_) << "only functions with # may ask about cells";
+      EXPECT_EQ(arguments[0]->val.num, 6);
+      const XLREF12& at = arguments[1]->val.mref.lpmref->reftbl[0];
+      const Address cell{sheetOf(*arguments[1]), at.rwFirst, at.colFirst};
+      const auto formula = formulas.find(cell);
+      const auto* text = formula == formulas.end() ? nullptr : &formula->second;
+      lend(text == nullptr ? std::string() : narrow(*text), result);
+      return xlretSuccess;
+    }
     case xlfGetName: {
       EXPECT_TRUE(isMacroFunction_) << "only functions with # may ask for names";
       const std::wstring expression = textIn(*arguments[0]);
@@ -287,8 +356,18 @@ int Host::callback(int function, int count, XLOPER12** arguments, XLOPER12* resu
       const DWORD type = from.xltype & xltypeMask;
       if (type == xltypeRef || type == xltypeSRef) {
         const XLREF12& at = type == xltypeRef ? from.val.mref.lpmref->reftbl[0] : from.val.sref.ref;
-        const auto cell = cells.find({sheetOf(from), at.rwFirst, at.colFirst});
-        const Cell value = cell == cells.end() ? Cell(Blank{}) : cell->second;
+        const Cell value = contents({sheetOf(from), at.rwFirst, at.colFirst});
+        if (at.rwFirst != at.rwLast || at.colFirst != at.colLast) {
+          Grid grid(static_cast<std::size_t>(at.rwLast - at.rwFirst + 1),
+                    static_cast<std::size_t>(at.colLast - at.colFirst + 1));
+          for (std::size_t i = 0; i < grid.cells.size(); ++i) {
+            grid.cells[i] =
+                contents({sheetOf(from), at.rwFirst + static_cast<int>(i / grid.columns),
+                          at.colFirst + static_cast<int>(i % grid.columns)});
+          }
+          lend(grid, result);
+          return xlretSuccess;
+        }
         const bool wantsText = count > 1 && static_cast<DWORD>(arguments[1]->val.num) == xltypeStr;
         if (wantsText && std::holds_alternative<Error>(value)) return xlretFailed;
         lend(wantsText && !std::holds_alternative<std::string>(value) ? Cell(std::string()) : value,
@@ -329,8 +408,7 @@ Grid Host::invoke(const RegisteredFunction& function, std::vector<Given>& argume
           values[i].val.mref.lpmref = &passed[i].reference;
         }
       } else {
-        const auto cell = cells.find(*address);
-        passed[i].put(cell == cells.end() ? Cell(Blank{}) : cell->second, values[i]);
+        passed[i].put(contents(*address), values[i]);
       }
     } else {
       passed[i].put(std::get<Grid>(arguments[i]), values[i]);
@@ -358,20 +436,55 @@ Grid Host::invoke(const RegisteredFunction& function, std::vector<Given>& argume
   return grid;
 }
 
+namespace {
+
+std::wstring written(const Cell& cell) {
+  if (const auto* number = std::get_if<double>(&cell)) return std::to_wstring(*number);
+  if (const auto* text = std::get_if<std::string>(&cell)) return L'"' + wide(*text) + L'"';
+  if (const auto* error = std::get_if<Error>(&cell)) return L"#ERR" + std::to_wstring(error->code);
+  return {};
+}
+
+// "=HPT(A1,773.15)"; arrays by their first cell and size.
+std::wstring written(const std::wstring& name, const std::vector<Given>& arguments) {
+  std::wstring text = L"=" + name + L'(';
+  for (const Given& given : arguments) {
+    if (&given != arguments.data()) text += L',';
+    if (const auto* cell = std::get_if<Address>(&given)) {
+      text += cellName(*cell);
+    } else {
+      const Grid& grid = std::get<Grid>(given);
+      text += L'{' + written(grid.cells[0]) + L'}' + std::to_wstring(grid.rows) + L'*' +
+              std::to_wstring(grid.columns);
+    }
+  }
+  return text + L')';
+}
+
+}  // namespace
+
 Grid Host::calculate(const Address& where, const std::wstring& name, std::vector<Given> arguments,
-                     int rows, int columns) {
+                     int rows, int columns, const std::wstring& typed) {
   const auto function = functions.find(name);
   if (function == functions.end()) {
     ADD_FAILURE() << "no function " << narrow(name);
     return {};
   }
   caller_ = Caller{where, rows, columns};
+  const std::wstring formula = typed.empty() ? written(name, arguments) : typed;
+  for (int i = 0; i < rows; ++i) {
+    for (int j = 0; j < columns; ++j) {
+      formulas[{where.sheet, where.row + i, where.column + j}] = formula;
+    }
+  }
   const Grid grid = invoke(function->second, arguments);
   caller_.reset();
   for (std::size_t i = 0; i < grid.rows; ++i) {
     for (std::size_t j = 0; j < grid.columns; ++j) {
-      cells[{where.sheet, where.row + static_cast<int>(i), where.column + static_cast<int>(j)}] =
-          grid.element({i, j});
+      const Address cell{where.sheet, where.row + static_cast<int>(i),
+                         where.column + static_cast<int>(j)};
+      cells[cell] = grid.element({i, j});
+      if (spilledCellsHaveFormulas) formulas[cell] = formula;
     }
   }
   return grid;
@@ -384,6 +497,21 @@ Grid Host::run(const std::wstring& name, std::vector<Given> arguments) {
 std::string Host::text(const Address& where, const std::wstring& name,
                        std::vector<Given> arguments) {
   return textOf(calculate(where, name, std::move(arguments)));
+}
+
+double memoryInUse() {
+  HANDLE heaps[64];
+  const DWORD count = GetProcessHeaps(64, heaps);
+  EXPECT_LE(count, 64U);
+  double used = 0;
+  for (DWORD i = 0; i < std::min<DWORD>(count, 64); ++i) {
+    PROCESS_HEAP_ENTRY entry{};
+    while (HeapWalk(heaps[i], &entry) != 0) {
+      if ((entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0) used += entry.cbData;
+    }
+  }
+  EXPECT_GT(used, 1e4);
+  return used / 1e6;
 }
 
 double numberOf(const Grid& grid, std::size_t row, std::size_t column) {

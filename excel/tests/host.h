@@ -55,13 +55,16 @@ class Host {
 
   std::map<std::wstring, RegisteredFunction> functions;
   std::map<Address, Cell> cells;
+  /// Of cells that functions calculate, as these are called, or as somebody typed them.
+  std::map<Address, std::wstring> formulas;
   /// By workbook ("Book1.xlsx"): what the name Calvex_Units is, a text or a cell.
   std::map<std::wstring, std::variant<std::wstring, Address, Error>> unitNames;
   std::wstring activeSheet = L"[Book1.xlsx]Sheet1";
   std::vector<std::wstring> deletedNames;
   bool refusesRegistration = false;
-  bool namesAreValues = false;   ///< a name that refers to a cell gives what is in it
-  bool shortReferences = false;  ///< to cells of the calling sheet
+  bool namesAreValues = false;            ///< a name that refers to a cell gives what is in it
+  bool shortReferences = false;           ///< to cells of the calling sheet
+  bool spilledCellsHaveFormulas = false;  ///< that of the cell which the result is from
 
   // What is counted.
   int results = 0;       ///< that functions answered
@@ -70,9 +73,10 @@ class Host {
   int givenBack = 0;     ///< of these
   int callbacks = 0;
 
-  /// Calls a function as the formula of those cells does; the first has its value afterwards.
+  /// Calls a function as the formula of those cells does; the first has its value afterwards. The
+  /// formula is made of the call, or `typed` where that is more than one call.
   Grid calculate(const Address& where, const std::wstring& name, std::vector<Given> arguments,
-                 int rows = 1, int columns = 1);
+                 int rows = 1, int columns = 1, const std::wstring& typed = {});
   /// Calls it as a macro does.
   Grid run(const std::wstring& name, std::vector<Given> arguments);
   std::string text(const Address& where, const std::wstring& name, std::vector<Given> arguments);
@@ -98,11 +102,17 @@ class Host {
   std::wstring sheetOf(const XLOPER12& reference);
   void refer(const Address& where, int rows, int columns, XLOPER12* to);
   void lend(const Cell& cell, XLOPER12* to);
+  void lend(const Grid& grid, XLOPER12* to);
+  void takeBack(XLOPER12& value);
+  Cell contents(const Address& cell) const;
+  bool refersTo(const std::wstring& name, const std::wstring& sheet, XLOPER12* result);
   int evaluate(const std::wstring& expression, XLOPER12* result);
   int registration(int count, XLOPER12** arguments, XLOPER12* result);
   Grid invoke(const RegisteredFunction& function, std::vector<Given>& arguments);
 };
 
+/// What is in use of all heaps of the process, the add-in's included, in MB.
+[[nodiscard]] double memoryInUse();
 /// A number in a cell, or NaN.
 [[nodiscard]] double numberOf(const Grid& grid, std::size_t row = 0, std::size_t column = 0);
 /// The host's number of an error, or -1.

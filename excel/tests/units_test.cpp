@@ -124,5 +124,24 @@ TEST_F(ExcelUnits, ValuesAreConverted) {
   EXPECT_NE(why(one).find("CALVEX.CONVERT"), std::string::npos) << why(one);
 }
 
+TEST_F(ExcelUnits, RangesAreConverted) {
+  Grid values(3, 1), wanted(1, 2);
+  values.cells = {0.0, 100.0, -40.0};
+  wanted.cells = {std::string("K"), std::string("F")};
+  const Grid column =
+      host.calculate(one, L"CALVEX.CONVERT", {word("T"), word("C"), word("K"), values}, 3, 1);
+  ASSERT_EQ(column.rows, 3U);
+  EXPECT_NEAR(numberOf(column, 0), 273.15, 1e-10);
+  EXPECT_NEAR(numberOf(column, 1), 373.15, 1e-10);
+  EXPECT_NEAR(numberOf(column, 2), 233.15, 1e-10);
+  const Grid table =
+      host.calculate(one, L"CALVEX.CONVERT", {word("T"), word("C"), wanted, values}, 3, 2);
+  ASSERT_EQ(table.columns, 2U);
+  EXPECT_NEAR(numberOf(table, 1, 0), 373.15, 1e-10);
+  // The catalogue's Fahrenheit has nine digits.
+  EXPECT_NEAR(numberOf(table, 1, 1), 212.0, 1e-8);
+  EXPECT_NEAR(numberOf(table, 2, 1), -40.0, 1e-8);
+}
+
 }  // namespace
 }  // namespace calvex::excel::test
