@@ -99,6 +99,7 @@ export const properties: { readonly [name: string]: PropertyInfo };
 /** The pairs of letters that give a state: "PT", "PH", ... */
 export const pairs: readonly string[];
 
+/** As the engine has it: supercritical is all above the critical temperature or the critical pressure. */
 export type Phase = 'liquid' | 'vapour' | 'supercritical' | 'two-phase';
 
 /** A state of water, or many of them, in the units that the engine had when it was made. */

@@ -41,8 +41,12 @@ export function write({ page, item, values }: Address): string {
 
 export const address = signal<Address>(read(location.hash));
 
+/** What a table has under a word of the address, which may be "constructor" as well. */
+export const own = <T>(table: Readonly<Record<string, T>>, word: string): T | undefined =>
+  Object.hasOwn(table, word) ? table[word] : undefined;
+
 export const value = (key: string, otherwise = ''): string =>
-  address.value.values[key] ?? otherwise;
+  own(address.value.values, key) ?? otherwise;
 
 /** The address with some values changed; undefined takes one out. */
 export function changed(changes: Record<string, string | undefined>): Address {

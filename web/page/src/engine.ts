@@ -96,7 +96,10 @@ export function readInput(text: string, { group, words, difference }: Quantity):
     return { trouble: `“${text.trim()}” has a comma: the decimal sign is a point.` };
   }
   const parts = apart(text);
-  if (!parts || !Number.isFinite(parts.number)) {
+  if (parts && !Number.isFinite(parts.number)) {
+    return { trouble: `“${text.trim()}” is too large for a number.` };
+  }
+  if (!parts) {
     const example = pretty(unit) ? `100 or 100 ${pretty(unit)}` : '100';
     return { trouble: `“${text.trim()}” is no number; it reads like ${example}.` };
   }
@@ -110,12 +113,27 @@ export function readInput(text: string, { group, words, difference }: Quantity):
   }
 }
 
-/** The same text in another unit; one that names its unit itself stays as it is. */
-function inUnit(text: string, { group, difference }: Quantity, from: string, to: string): string {
-  const parts = apart(text);
-  if (!parts || parts.unit !== '' || from === to) return text;
-  const there = convert(group, parts.number, from, to);
-  return tidy(difference ? there - convert(group, 0, from, to) : there);
+/** What was typed where the page has written it in another unit: the way back is exact. */
+const origins = new Map<string, { text: string; unit: string; written: string; now: string }>();
+
+/** The same text in another unit; one that names its unit itself, and one that is no number, stays as
+ * it is. */
+function inUnit(
+  key: string,
+  text: string,
+  { group, difference }: Quantity,
+  from: string,
+  to: string,
+): string {
+  const before = origins.get(key);
+  const origin = before?.written === text && before.now === from ? before : { text, unit: from };
+  const parts = apart(origin.text);
+  if (!parts || parts.unit !== '' || !Number.isFinite(parts.number) || from === to) return text;
+  const there = convert(group, parts.number, origin.unit, to);
+  const size = difference ? there - convert(group, 0, origin.unit, to) : there;
+  const written = to === origin.unit ? origin.text : tidy(size);
+  origins.set(key, { text: origin.text, unit: origin.unit, written, now: to });
+  return written;
 }
 
 /** Which keys of the address hold a quantity: each view adds its own. */
@@ -136,7 +154,7 @@ export function chooseUnits(units: Record<string, string>) {
       if (text === undefined || quantity.group < 0) continue;
       const word = keyword(quantity.group);
       const to = units[word];
-      if (to !== undefined) changes[key] = inUnit(text, quantity, before[word]!, to);
+      if (to !== undefined) changes[key] = inUnit(key, text, quantity, before[word]!, to);
     }
   }
   replace(changed(changes));

@@ -2,19 +2,19 @@
 import type { State } from 'calvex/load';
 import { useId, useLayoutEffect, useMemo, useRef, useState } from 'preact/hooks';
 
-import { address, value } from '../address.ts';
+import { address, own, value } from '../address.ts';
 import { answer } from '../state/inputs.ts';
 import { phaseText } from '../state/properties.tsx';
 import { draw, wholeView, type Drawing, type View } from './drawing.ts';
-import { firstKind, kinds, toDrawn, drawn, type Kind } from './kinds.ts';
+import { firstKind, kinds, roomFor, toDrawn, drawn, type Kind } from './kinds.ts';
 import { processPath, type Process } from './process.ts';
 
 const margin = { left: 68, right: 14, top: 12, bottom: 44 };
 const smallMargin = { left: 54, right: 8, top: 8, bottom: 40 };
 
 export const kindNow = (): Kind =>
-  kinds[address.value.page === 'diagram' ? address.value.item : ''] ??
-  kinds[value('kind')] ??
+  own(kinds, address.value.page === 'diagram' ? address.value.item : '') ??
+  own(kinds, value('kind')) ??
   kinds[firstKind]!;
 export const kindName = (): string =>
   Object.entries(kinds).find(([, kind]) => kind === kindNow())![0];
@@ -62,7 +62,16 @@ interface Props {
   onDrawn?: (surface: Surface, drawing: Drawing) => () => void;
 }
 
-export function Diagram({ small = false, kind = kindNow(), process, over, onDrawn }: Props) {
+export function Diagram({
+  small = false,
+  kind: wanted = kindNow(),
+  process,
+  over,
+  onDrawn,
+}: Props) {
+  const { state } = answer.value;
+  const marked = process ? process.points.map(point => point.state) : state ? [state] : [];
+  const kind = small ? roomFor(wanted, marked) : wanted;
   const box = useRef<HTMLDivElement>(null),
     plot = useRef<SVGRectElement>(null);
   const svg = useRef<SVGSVGElement>(null),
@@ -87,7 +96,7 @@ export function Diagram({ small = false, kind = kindNow(), process, over, onDraw
             small ? families.filter(family => family !== 'v') : families,
             small ? 9 : 11,
           ),
-    [kind, engine, width, height, view.k, view.x, view.y, families.join()],
+    [wanted, kind.window.join(), engine, width, height, view.k, view.x, view.y, families.join()],
   );
   useLayoutEffect(() => {
     if (!drawing) return undefined;
@@ -104,7 +113,6 @@ export function Diagram({ small = false, kind = kindNow(), process, over, onDraw
     );
   }, [drawing, onDrawn]);
 
-  const { state } = answer.value;
   const described = state && !process ? `The state is marked. ${phaseText(state)}.` : '';
   return (
     <div class={small ? 'diagram small' : 'diagram'} ref={box}>

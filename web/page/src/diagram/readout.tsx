@@ -4,7 +4,7 @@ import type { State } from 'calvex/load';
 import { useEffect, useRef } from 'preact/hooks';
 
 import { capital, pretty, properties, reasonOf, show } from '../engine.ts';
-import { phaseText } from '../state/properties.tsx';
+import { phaseText, shown } from '../state/properties.tsx';
 import type { Drawing } from './drawing.ts';
 import { drawn, type Kind } from './kinds.ts';
 
@@ -63,7 +63,7 @@ export class Reader {
     const found = typeof state === 'string' ? undefined : state;
     this.cells.get('phase')!.textContent = found ? phaseText(found) : 'No state here';
     this.table.classList.toggle('nothing', !found);
-    const values = new Map(found?.all().map(row => [row.name, row.value]));
+    const values = new Map((found ? shown(found) : []).map(row => [row.name, row.value]));
     for (const name of Object.keys(properties)) {
       this.cells.get(name)!.textContent = show(values.get(name) ?? NaN, 6);
     }

@@ -1,0 +1,50 @@
+// What in the address was not understood: what is shown instead is not what its sender saw.
+import { findMember } from 'calvex/load';
+import { computed } from '@preact/signals';
+
+import { address, own, value } from '../address.ts';
+import { kinds as diagrams } from '../diagram/kinds.ts';
+import { groups, unitTroubles } from '../engine.ts';
+import { keyOf, model } from '../equipment/model.ts';
+import { lettersOf, pair } from '../state/inputs.ts';
+import { kinds as tables } from '../tables/view.tsx';
+
+const views = ['state', 'diagram', 'equipment', 'tables', 'units'];
+const keys = ['zoom', 'without', 'kind', 'table', 'at', 'from', 'to', 'step', 'trace', 'quantity'];
+const known = new Set([...keys, 'amount']);
+
+const isKnown = (key: string): boolean =>
+  known.has(key) ||
+  /^u\./.test(key) ||
+  lettersOf([key]).length > 0 ||
+  (key.startsWith('in.') &&
+    (address.value.page !== 'equipment' || model.value.inputs.some(info => keyOf(info) === key)));
+
+export const unknowns = computed<string[]>(() => {
+  const { page, item, values } = address.value;
+  const words: string[] = [];
+  if (!views.includes(page)) words.push(`the view “${page}”`);
+  if (page === 'diagram' && item && !own(diagrams, item)) words.push(`the diagram “${item}”`);
+  if (page === 'equipment' && item && findMember(item) !== model.value) {
+    words.push(`the model “${item}”`);
+  }
+  const kind = value('kind');
+  if (kind && !own(diagrams, kind)) words.push(`the diagram “${kind}”`);
+  const table = value('table');
+  if (table && !own(tables, table)) words.push(`the table “${table}”`);
+  const quantity = value('quantity');
+  if (quantity && !groups.some(group => group.keywords[0] === quantity)) {
+    words.push(`the quantity “${quantity}”`);
+  }
+  const letters = lettersOf(Object.keys(values));
+  if (letters.some(letter => !pair.value.includes(letter))) {
+    words.push(`the inputs ${letters.join(', ')}, which are no pair that gives a state`);
+  }
+  words.push(
+    ...Object.keys(values)
+      .filter(key => !isKnown(key))
+      .map(key => `“${key}”`),
+  );
+  const notice = `Not understood in the address, and left out: ${words.join('; ')}.`;
+  return [...unitTroubles.value, ...(words.length > 0 ? [notice] : [])];
+});
