@@ -189,9 +189,11 @@ test('where a view fails the first one comes back', async () => {
     await page.waitForSelector('aside .plot');
     await page.evaluate(() => {
       const Real = ResizeObserver;
-      window.ResizeObserver = look => {
-        window.ResizeObserver = Real;
-        throw new Error('a fault of this test');
+      window.ResizeObserver = class {
+        constructor() {
+          window.ResizeObserver = Real;
+          throw new Error('a fault of this test');
+        }
       };
     });
     await page.getByRole('link', { name: 'Diagrams', exact: true }).click();
