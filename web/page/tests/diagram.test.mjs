@@ -77,6 +77,7 @@ for (const kind of Object.keys(families)) {
         }
         if (!wet) near(Number(read.cp), state.C, 1e-3, `cp at ${given}`);
         assert.equal(read.cp === '–', wet);
+        assert.equal(/left out/.test(read.why), wet);
       }
     });
   });
@@ -90,6 +91,7 @@ test('no state is there beyond what the equation covers', async () => {
       () => document.querySelector('.readout [data-name=phase]').textContent === 'No state here',
     );
     assert.equal((await readout(page)).P, '–');
+    assert.ok((await readout(page)).why.length > 10);
   });
 });
 
@@ -174,7 +176,7 @@ test('a closer look has more and finer lines', async () => {
     await redraws(page, () => page.getByRole('button', { name: 'Zoom in' }).click());
     await redraws(page, () => page.getByRole('button', { name: 'Zoom in' }).click());
     assert.ok(step(await labels()) < before);
-    await redraws(page, () => page.getByRole('button', { name: 'Whole' }).click());
+    await redraws(page, () => page.getByRole('button', { name: 'Reset view' }).click());
   });
 });
 

@@ -201,6 +201,28 @@ test('a bad input is told beside its field and leaves no results', async () => {
   }
 });
 
+test('pressures that are compared are both told of, each beside its field', async () => {
+  for (const [given, fields] of [
+    ['TurbineA?in.POut=20', ['in.PIn', 'in.POut']],
+    ['TurbineA2?in.POut1=20', ['in.PIn', 'in.POut1']],
+    ['TurbineA3?in.POut2=9', ['in.POut1', 'in.POut2']],
+  ]) {
+    await onPage(`#equipment/${given}`, async page => {
+      assert.deepEqual(await troubled(page), fields);
+      for (const field of fields) assert.match(await troubleOf(page, field), /less than/);
+    });
+  }
+});
+
+test('per cent that were typed as a fraction are told how to be typed, and so they do', async () => {
+  await onPage('#equipment/TurbineA?in.Eff=80', async page => {
+    assert.match(await troubleOf(page, 'in.Eff'), /or type 80 %\)/);
+    assert.doesNotMatch(await troubleOf(page, 'in.Eff'), /command line/);
+    await page.locator('[data-key="in.Eff"]').fill('80 %');
+    await page.waitForSelector('[data-result]');
+  });
+});
+
 test('what no plant can do is warned of', async () => {
   await onPage('#equipment/LetDownValve?in.PIn=1&in.POut=2', async page => {
     assert.match(await textOf(page, '.warning'), /Outlet pressure/);

@@ -158,6 +158,10 @@ for (const [hash, told] of [
   ['#state?P=1&T=2&H=3', /the inputs P, T, H, which are no pair/],
   ['#state?p=1', /“p”/],
   ['#units?quantity=Mood', /the quantity “Mood”/],
+  ['#state?P=1&T=300&P=2', /all but the last “P”/],
+  ['#diagram/Ts?zoom=near', /the zoom “near”/],
+  ['#diagram/Ts?without=v,constructor', /the lines “constructor”/],
+  ['#state?trace=all', /the trace “all”/],
 ]) {
   test(`what is not understood in ${hash} is told, and the page goes on`, async () => {
     await onPage(
@@ -410,6 +414,14 @@ test('on paper are the results, black on white, without what one clicks', async 
         ink: getComputedStyle(document.body).color,
       }));
       assert.equal(facts.clickable, 0);
+      // A number without its unit says nothing.
+      assert.ok(await page.getByLabel('Unit of pressure').isVisible());
+      await page.emulateMedia({ media: 'screen' });
+      await page.getByRole('link', { name: 'Diagrams', exact: true }).click();
+      await page.waitForSelector('.readout');
+      assert.ok(await page.locator('.readout').isVisible());
+      await page.emulateMedia({ media: 'print', colorScheme: 'dark' });
+      assert.ok(!(await page.locator('.readout').isVisible()));
       assert.match(facts.ink, /^rgb\(29, 39, 49\)$/);
       assert.ok((await page.pdf({ format: 'A4' })).length > 10_000);
     },

@@ -46,15 +46,14 @@ export const kinds: Readonly<Record<string, Kind>> = {
 export const firstKind = 'hs';
 
 /** What the lines of a family have in common. */
-export const familyWords = (name: string): string =>
-  ({
-    P: 'isobars',
-    T: 'isotherms',
-    v: 'isochores',
-    s: 'isentropes',
-    h: 'isenthalps',
-    x: 'quality',
-  })[name]!;
+export const familyWords: Readonly<Record<string, string>> = {
+  P: 'isobars',
+  T: 'isotherms',
+  v: 'isochores',
+  s: 'isentropes',
+  h: 'isenthalps',
+  x: 'quality',
+};
 
 /** The engine of the diagrams, whose pressures are absolute: no logarithm is there of a gauge's zero. */
 export const drawn = computed<Engine>(() => {

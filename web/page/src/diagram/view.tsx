@@ -114,7 +114,7 @@ export function DiagramView() {
                 checked={familiesNow(kind).includes(family)}
                 onChange={() => toggle(family)}
               />
-              {capital(familyWords(family))}
+              {capital(familyWords[family]!)}
             </label>
           ))}
         </fieldset>
@@ -130,7 +130,7 @@ export function DiagramView() {
             disabled={viewNow() === wholeView}
             onClick={() => put({ zoom: undefined })}
           >
-            Whole
+            Reset view
           </button>
           <button type="button" onClick={() => saveSvg(surface.current!.svg, name)}>
             SVG
@@ -152,7 +152,7 @@ export function DiagramView() {
           />
           <p class="quiet keys">
             Wheel or <kbd>+</kbd> <kbd>−</kbd> zooms, dragging or the arrows move, <kbd>0</kbd>{' '}
-            shows the whole. <kbd>Shift</kbd> and the arrows move the cross, a click or{' '}
+            resets the view. <kbd>Shift</kbd> and the arrows move the cross, a click or{' '}
             <kbd>Enter</kbd> takes the state there.
           </p>
         </div>

@@ -3,7 +3,9 @@ import { findMember } from 'calvex/load';
 import { computed } from '@preact/signals';
 
 import { address, own, value } from '../address.ts';
-import { kinds as diagrams } from '../diagram/kinds.ts';
+import { viewNow } from '../diagram/diagram.tsx';
+import { wholeView } from '../diagram/drawing.ts';
+import { familyWords, kinds as diagrams } from '../diagram/kinds.ts';
 import { groups, unitTroubles } from '../engine.ts';
 import { keyOf, model } from '../equipment/model.ts';
 import { lettersOf, pair } from '../state/inputs.ts';
@@ -21,7 +23,7 @@ const isKnown = (key: string): boolean =>
     (address.value.page !== 'equipment' || model.value.inputs.some(info => keyOf(info) === key)));
 
 export const unknowns = computed<string[]>(() => {
-  const { page, item, values } = address.value;
+  const { page, item, values, twice = [] } = address.value;
   const words: string[] = [];
   if (!views.includes(page)) words.push(`the view “${page}”`);
   if (page === 'diagram' && item && !own(diagrams, item)) words.push(`the diagram “${item}”`);
@@ -30,6 +32,13 @@ export const unknowns = computed<string[]>(() => {
   }
   const kind = value('kind');
   if (kind && !own(diagrams, kind)) words.push(`the diagram “${kind}”`);
+  const zoom = value('zoom');
+  if (zoom && viewNow() === wholeView) words.push(`the zoom “${zoom}”`);
+  for (const family of value('without').split(',').filter(Boolean)) {
+    if (!own(familyWords, family)) words.push(`the lines “${family}”`);
+  }
+  const trace = value('trace');
+  if (trace && trace !== 'notes') words.push(`the trace “${trace}”`);
   const table = value('table');
   if (table && !own(tables, table)) words.push(`the table “${table}”`);
   const quantity = value('quantity');
@@ -45,6 +54,7 @@ export const unknowns = computed<string[]>(() => {
       .filter(key => !isKnown(key))
       .map(key => `“${key}”`),
   );
+  words.push(...twice.map(key => `all but the last “${key}”`));
   const notice = `Not understood in the address, and left out: ${words.join('; ')}.`;
   return [...unitTroubles.value, ...(words.length > 0 ? [notice] : [])];
 });

@@ -79,8 +79,11 @@ export const answer = computed<Answer>(() => {
     return { state: steam.value.state(given) };
   } catch (failure) {
     const reason = reasonOf(failure);
-    for (const input of blamed(reason, inputs.value)) troubles[input.letter] = reason;
-    return { troubles, code: failure instanceof CalvexError ? failure.code : undefined };
+    const code = failure instanceof CalvexError ? failure.code : undefined;
+    // Boiling: what the engine asks for instead is another pair.
+    const told = code === 106 ? `${reason} “Given” has these pairs.` : reason;
+    for (const input of blamed(reason, inputs.value)) troubles[input.letter] = told;
+    return { troubles, code };
   }
 });
 
