@@ -19,11 +19,11 @@ export const kindNow = (): Kind =>
 export const kindName = (): string =>
   Object.entries(kinds).find(([, kind]) => kind === kindNow())![0];
 
-/** The families of lines that are shown. */
-export const familiesNow = (kind: Kind): string[] => {
-  const hidden = value('without').split(',');
-  return Object.keys(kind.families).filter(family => !hidden.includes(family));
-};
+/** The families of lines that are not shown, and those that are. */
+export const hiddenNow = (kind: Kind): string[] =>
+  value('without', kind.without).split(',').filter(Boolean);
+export const familiesNow = (kind: Kind): string[] =>
+  Object.keys(kind.families).filter(family => !hiddenNow(kind).includes(family));
 
 export function viewNow(): View {
   const [k, x, y] = value('zoom').split(',').map(Number);

@@ -14,6 +14,8 @@ export interface Kind {
   window: readonly [number, number, number, number];
   /** Where on a line of the family its label is best, from 0 to 1. */
   families: Readonly<Record<string, number>>;
+  /** Families that are left out until one asks for them: all together hide each other. */
+  without?: string;
 }
 
 export const kinds: Readonly<Record<string, Kind>> = {
@@ -24,6 +26,7 @@ export const kinds: Readonly<Record<string, Kind>> = {
     logarithmic: false,
     window: [0, 9.5, 273.15, 1073.15],
     families: { P: 0.94, v: 0.8, h: 0.3, x: 0.35 },
+    without: 'v,h',
   },
   hs: {
     title: 'Enthalpy over entropy',

@@ -1,13 +1,21 @@
 // The diagrams: choose one, look closer, read states off, take it along.
 import { useCallback, useRef, useState } from 'preact/hooks';
 
-import { address, go, put, value } from '../address.ts';
+import { address, go, put } from '../address.ts';
 import { capital, properties, show } from '../engine.ts';
 import { Announce } from '../shell/announce.tsx';
 import { tidy } from '../numbers.ts';
 import { withInputs } from '../state/inputs.ts';
 import { phaseText } from '../state/properties.tsx';
-import { Diagram, familiesNow, kindName, kindNow, viewNow, type Surface } from './diagram.tsx';
+import {
+  Diagram,
+  familiesNow,
+  hiddenNow,
+  kindName,
+  kindNow,
+  viewNow,
+  type Surface,
+} from './diagram.tsx';
 import { viewOf, wholeView, type Drawing, type View } from './drawing.ts';
 import { saveSvg, savePng } from './export.ts';
 import { handle, type Zoomer } from './handling.ts';
@@ -73,12 +81,12 @@ export function DiagramView() {
     [kind],
   );
 
-  const hidden = value('without').split(',').filter(Boolean);
   const toggle = (family: string) => {
+    const hidden = hiddenNow(kind);
     const next = hidden.includes(family)
       ? hidden.filter(name => name !== family)
       : [...hidden, family];
-    put({ without: next.join() || undefined });
+    put({ without: next.join() });
   };
   const name = `calvex-${kindName()}`;
   return (
