@@ -212,6 +212,34 @@ test('what is no number and no array of numbers is refused, by every call', () =
   assert.deepEqual(convert('T', Uint8Array.of(0, 100), 'C', 'K'), Float64Array.of(273.15, 373.15));
 });
 
+test('a setting that is misspelt is refused; a class of one’s own has fields', () => {
+  const steam = new Engine();
+  assert.throws(() => {
+    steam.SatPolsh = 0;
+  }, TypeError);
+  steam.SatPolish = 0;
+  class Own extends Engine {
+    name = 'mine';
+  }
+  assert.equal(new Own().name, 'mine');
+});
+
+test('a member without its engine says so', () => {
+  const { HPT, Convert } = new Engine();
+  assert.throws(() => HPT(10, 773.15), {
+    name: 'TypeError',
+    message: /HPT\(P, T\) is called on an/,
+  });
+  assert.throws(() => Convert('T', 1, 'K', 'C'), /Convert\(.*\) is called on an engine/);
+});
+
+test('a failure names its member once', () => {
+  assert.throws(
+    () => new Engine().SetCustomTraceText(-1, 'x'),
+    /^CalvexError: SetCustomTraceText failed: the trace has no column/,
+  );
+});
+
 test('a state has no property by a name of JavaScript’s own', () => {
   const state = new Engine().state({ P: 10, T: 500 });
   for (const name of ['__proto__', 'constructor', 'toString']) {
