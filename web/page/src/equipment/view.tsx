@@ -161,6 +161,7 @@ function Snippets() {
   const all = snippets(
     model.value,
     typed.value.map(input => input.value!),
+    unitName,
   );
   const [shown, show] = useState(0);
   const [copied, setCopied] = useState(false);
