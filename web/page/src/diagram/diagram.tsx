@@ -181,35 +181,35 @@ function Dot({ kind, drawing, state }: { kind: Kind; drawing: Drawing; state: St
   return <path class="state-dot" d={`M${x.toFixed(2)},${y.toFixed(2)}h0.01`} />;
 }
 
-/** The states of a process with their names, each where it covers no other. */
+/** The states of a process with their names, each where it covers no other and no state. */
 function Marks({ kind, drawing, process }: { kind: Kind; drawing: Drawing; process: Process }) {
-  const { width } = drawing;
-  const taken: { x: number; y: number; size: number }[] = [];
+  const places = process.points.map(({ name, state }) => ({
+    name,
+    x: drawing.x(toDrawn(kind.x, state.get(kind.x))),
+    y: drawing.y(toDrawn(kind.y, state.get(kind.y))),
+  }));
+  const taken = places.map(({ x, y }) => ({ x: x - 6, y: y + 6, width: 12, height: 12 }));
   return (
     <>
-      {process.points.map(({ name, state }) => {
-        const x = drawing.x(toDrawn(kind.x, state.get(kind.x)));
-        const y = drawing.y(toDrawn(kind.y, state.get(kind.y)));
-        const size = 6.5 * name.length;
-        const spots = [
-          [8, -7],
-          [8, 13],
-          [-8 - size, -7],
-          [-8 - size, 13],
-          [8, -20],
-          [8, 26],
-          [-8 - size, 26],
-        ].map(([dx, dy]) => ({ x: x + dx!, y: y + dy!, size }));
+      {places.map(({ name, x, y }) => {
+        // A name from its left end on its line, as wide as its letters are at most.
+        const [width, height] = [7.5 * name.length, 12];
+        const spots = [-7, 14, -20, 27, -33, 40, -46, -59].flatMap(dy =>
+          [8, -8 - width, 22, 36].map(dx => ({ x: x + dx, y: y + dy, width, height })),
+        );
         const free =
           spots.find(
             spot =>
               spot.x > 0 &&
-              spot.x + size < width &&
+              spot.x + width < drawing.width &&
+              spot.y > height &&
+              spot.y < drawing.height - 4 &&
               taken.every(
                 other =>
-                  Math.abs(spot.y - other.y) > 12 ||
-                  spot.x > other.x + other.size ||
-                  other.x > spot.x + size,
+                  spot.y + 2 < other.y - other.height ||
+                  spot.y - height > other.y + 2 ||
+                  spot.x > other.x + other.width ||
+                  other.x > spot.x + width,
               ),
           ) ?? spots[0]!;
         taken.push(free);
