@@ -208,6 +208,7 @@ test('what is no number and no array of numbers is refused, by every call', () =
       assert.throws(call, { name: 'TypeError', message: wanted }, `${input} ${typeof value}`);
     }
   }
+  assert.throws(() => steam.HPT(10, new BigInt64Array(2)), /at \[0\] it has 0n$/);
   assert.deepEqual(convert('T', [], 'C', 'F'), new Float64Array(0));
   assert.deepEqual(convert('T', Uint8Array.of(0, 100), 'C', 'K'), Float64Array.of(273.15, 373.15));
 });

@@ -8,7 +8,10 @@ export const isColumn = value =>
   Array.isArray(value) || (ArrayBuffer.isView(value) && !(value instanceof DataView));
 
 /** How a value is shown in a message. */
-export const shown = value => (typeof value === 'string' ? JSON.stringify(value) : String(value));
+export const shown = value =>
+  typeof value === 'string'
+    ? JSON.stringify(value)
+    : `${String(value)}${typeof value === 'bigint' ? 'n' : ''}`;
 
 /** Whether the memory of a typed array has been transferred: it is empty then, and refuses a view. */
 function isDetached(value) {

@@ -153,6 +153,7 @@ for (const [hash, told] of [
   ['#state?kind=constructor', /the diagram “constructor”/],
   ['#foo', /the view “foo”/],
   ['#equipment/Nope', /the model “Nope”/],
+  ['#tables/isobar', /left out: “isobar”/],
   ['#equipment/TurbineA?in.Nope=1', /“in.Nope”/],
   ['#state?U=3000&S=6', /the inputs U, S, which are no pair/],
   ['#state?P=1&T=2&H=3', /the inputs P, T, H, which are no pair/],

@@ -26,6 +26,7 @@ export const unknowns = computed<string[]>(() => {
   const { page, item, values, twice = [] } = address.value;
   const words: string[] = [];
   if (!views.includes(page)) words.push(`the view “${page}”`);
+  if (item && ['state', 'tables', 'units'].includes(page)) words.push(`“${item}”`);
   if (page === 'diagram' && item && !own(diagrams, item)) words.push(`the diagram “${item}”`);
   if (page === 'equipment' && item && findMember(item) !== model.value) {
     words.push(`the model “${item}”`);
