@@ -95,6 +95,23 @@ void callTogether(int apartments) {
   }
 }
 
+/// With the module not loaded yet, nor anything that draws: the loader's lock and those of what it
+/// loads must not be taken in two orders.
+TEST(Apartments, FourMakeTheirFirstObjectsAtOnce) {
+  std::array<double, 4> answers{};
+  {
+    std::vector<std::jthread> threads;
+    for (double& answer : answers) {
+      threads.emplace_back([&answer] {
+        const Apartment apartment;
+        const Ref<IZvCalvex> steam = makeObject();
+        answer = late(*steam.as<IDispatch>(), {L"HPT", 10.0, 773.15, 0});
+      });
+    }
+  }
+  for (const double answer : answers) EXPECT_NEAR(answer, 3373.998, 1e-3);  // 10 MPa, 500 C
+}
+
 TEST(Apartments, TwoThatCallAtOnceGetTheirOwnAnswers) { callTogether(2); }
 TEST(Apartments, FourThatCallAtOnceGetTheirOwnAnswers) { callTogether(4); }
 
