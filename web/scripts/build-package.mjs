@@ -36,7 +36,9 @@ cpSync(join(root, 'web/package/src'), target, { recursive: true });
 for (const file of ['LICENSE', 'THIRD-PARTY-NOTICES.md']) {
   cpSync(join(root, file), join(target, file));
 }
-cpSync(join(root, 'docs/javascript.md'), join(target, 'README.md'));
+// The other pages of the documentation are not in the package: of links to them the words stay.
+const page = readFileSync(join(root, 'docs/javascript.md'), 'utf8');
+write('README.md', page.replace(/\[([^\]]+)\]\((?!https?:)[^)]*\)/g, '$1'));
 
 const tables = await readTables();
 write('tables.js', `export default JSON.parse(${JSON.stringify(JSON.stringify(tables))});\n`);

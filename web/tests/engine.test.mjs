@@ -186,6 +186,72 @@ test('other arrays of numbers do as well', () => {
   }
 });
 
+/** An array whose memory has gone elsewhere. */
+function sentAway() {
+  const column = Float64Array.of(500, 600);
+  structuredClone(column, { transfer: [column.buffer] });
+  return column;
+}
+
+test('what is no number and no array of numbers is refused, by every call', () => {
+  const steam = new Engine();
+  const strangers = ['100', '', null, undefined, true, 1n, {}, new Set([1]), new Map(), sentAway()];
+  const lists = [['1', ''], [[1, 2]], [null], [1, 2n], new BigInt64Array(2)];
+  for (const value of [...strangers, ...lists]) {
+    const calls = {
+      T: () => steam.HPT(10, value),
+      P: () => steam.state({ P: value, T: 500 }),
+      value: () => convert('T', value, 'C', 'F'),
+    };
+    for (const [input, call] of Object.entries(calls)) {
+      const wanted = new RegExp(`${input} is to be a number or an array of numbers`);
+      assert.throws(call, { name: 'TypeError', message: wanted }, `${input} ${typeof value}`);
+    }
+  }
+  assert.throws(() => steam.HPT(10, new BigInt64Array(2)), /at \[0\] it has 0n$/);
+  assert.deepEqual(convert('T', [], 'C', 'F'), new Float64Array(0));
+  assert.deepEqual(convert('T', Uint8Array.of(0, 100), 'C', 'K'), Float64Array.of(273.15, 373.15));
+});
+
+test('a setting that is misspelt is refused; a class of one’s own has fields', () => {
+  const steam = new Engine();
+  assert.throws(() => {
+    steam.SatPolsh = 0;
+  }, TypeError);
+  steam.SatPolish = 0;
+  class Own extends Engine {
+    name = 'mine';
+  }
+  assert.equal(new Own().name, 'mine');
+});
+
+test('a member without its engine says so', () => {
+  const { HPT, Convert } = new Engine();
+  assert.throws(() => HPT(10, 773.15), {
+    name: 'TypeError',
+    message: /HPT\(P, T\) is called on an/,
+  });
+  assert.throws(() => Convert('T', 1, 'K', 'C'), /Convert\(.*\) is called on an engine/);
+});
+
+test('a failure names its member once', () => {
+  assert.throws(
+    () => new Engine().SetCustomTraceText(-1, 'x'),
+    /^CalvexError: SetCustomTraceText failed: the trace has no column/,
+  );
+});
+
+test('a state has no property by a name of JavaScript’s own', () => {
+  const state = new Engine().state({ P: 10, T: 500 });
+  for (const name of ['__proto__', 'constructor', 'toString']) {
+    assert.throws(() => state.get(name), /a state has no property/);
+    assert.throws(() => new Engine().state({ P: 10, [name]: 1 }), /is none/);
+  }
+  for (const nothing of [undefined, null]) {
+    assert.throws(() => new Engine().state(nothing), /a state is given by two of/);
+  }
+});
+
 test('equipment answers its results by name, with units', () => {
   const steam = new Engine({ power: 'MW' });
   const results = steam.TurbineA(3374, 10, 1, 0.8, 5);

@@ -8,7 +8,20 @@ export const isColumn = value =>
   Array.isArray(value) || (ArrayBuffer.isView(value) && !(value instanceof DataView));
 
 /** How a value is shown in a message. */
-export const shown = value => (typeof value === 'string' ? JSON.stringify(value) : String(value));
+export const shown = value =>
+  typeof value === 'string'
+    ? JSON.stringify(value)
+    : `${String(value)}${typeof value === 'bigint' ? 'n' : ''}`;
+
+/** Whether the memory of a typed array has been transferred: it is empty then, and refuses a view. */
+function isDetached(value) {
+  if (value.length > 0 || Array.isArray(value)) return false;
+  try {
+    return new Uint8Array(value.buffer).length < 0;
+  } catch {
+    return true;
+  }
+}
 
 /** The length that the arrays among the inputs have together; undefined: all are numbers. */
 export function commonLength(called, names, given) {
@@ -17,7 +30,11 @@ export function commonLength(called, names, given) {
     const wanted = `${called}: ${names[i]} is to be a number or an array of numbers`;
     if (typeof value === 'number') return;
     if (!isColumn(value)) throw new TypeError(`${wanted}, not ${shown(value)}`);
-    const at = Array.isArray(value) ? value.findIndex(x => typeof x !== 'number') : -1;
+    if (isDetached(value)) {
+      throw new TypeError(`${wanted}; this one is detached, as one that was sent to a worker`);
+    }
+    const mixed = Array.isArray(value) || typeof value[0] === 'bigint';
+    const at = mixed ? value.findIndex(x => typeof x !== 'number') : -1;
     if (at >= 0) throw new TypeError(`${wanted}; at [${at}] it has ${shown(value[at])}`);
     length ??= value.length;
     if (value.length !== length) {

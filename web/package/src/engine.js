@@ -34,6 +34,8 @@ export class Engine {
     this.#address = memoryView().getUint32(place, true);
     lost.register(this, this.#address, this);
     for (const [quantity, unit] of Object.entries(units)) this.setUnit(quantity, unit);
+    // A setting that is misspelt is none; a class of one's own has what it likes.
+    if (new.target === Engine) Object.preventExtensions(this);
   }
 
   /** The address of the engine, for this package. */
@@ -186,8 +188,15 @@ function callNumbers(engine, name, row, given) {
   return answer(engine, row, Array.from(numbers.subarray(at + inputs, at + inputs + outputs)));
 }
 
+/** A member that was taken off its engine has none. */
+function requireEngine(self, name, row) {
+  if (self instanceof Engine) return;
+  throw new TypeError(`${callText(name, row)} is called on an engine, as steam.${name}(...)`);
+}
+
 function functionOf(name, row) {
   return function (...given) {
+    requireEngine(this, name, row);
     requireCount(name, row, given);
     if (given.some(isColumn)) return answer(this, row, columns(this, name, row, given));
     if (!row.hasTokens) return callNumbers(this, name, row, given);
@@ -203,6 +212,7 @@ function functionOf(name, row) {
 function methodOf(name, row) {
   const outputs = row.outputs.filter(isNumber);
   return function (...given) {
+    requireEngine(this, name, row);
     requireCount(name, row, given);
     const numbers = [],
       texts = [];

@@ -10,7 +10,30 @@ export type Numbers =
   | Int32Array
   | Int16Array
   | Uint32Array
+  | Int8Array
+  | Uint8Array
+  | Uint8ClampedArray
+  | Uint16Array
   | readonly number[];
+
+/** The names of the properties that give a state. */
+type StateInput =
+  | ('P' | 'p' | 'pressure')
+  | ('T' | 't' | 'temperature')
+  | ('h' | 'H' | 'enthalpy')
+  | ('s' | 'S' | 'entropy')
+  | ('u' | 'U' | 'internal energy' | 'internal_energy')
+  | ('rho' | 'r' | 'R' | 'density')
+  | ('v' | 'V' | 'specific volume' | 'specific_volume')
+  | ('x' | 'q' | 'Q' | 'quality' | 'vapour fraction' | 'vapour_fraction');
+/** Values by the names that they may have; a name that is known only when it runs is told of then. */
+type Named<Given> = {
+  readonly [name in keyof Given]: string extends name
+    ? Given[name]
+    : name extends StateInput
+      ? Given[name]
+      : never;
+};
 
 /** A quantity with units: a word ("pressure"), a letter ("P") or its number. */
 export type Quantity = string | number;
@@ -66,8 +89,9 @@ export class Engine {
 
   /** A state from any pair of properties: P with T, h, s, u, rho, v or x; T with h, s, u, rho, v or
    * x; h with s. Numbers, or arrays of one length. One of numbers throws where there is none. */
-  state(pair: { readonly [name: string]: number }): State<number>;
-  state(pair: { readonly [name: string]: number | Numbers }): State<Float64Array>;
+  state<Given extends { readonly [name: string]: number | Numbers }>(
+    pair: Given & Named<Given>,
+  ): State<Given[keyof Given] extends number ? number : Float64Array>;
 
   /** Why the points of the last array failed; "" for those that did not. */
   reasons(): string[];
@@ -99,6 +123,7 @@ export const properties: { readonly [name: string]: PropertyInfo };
 /** The pairs of letters that give a state: "PT", "PH", ... */
 export const pairs: readonly string[];
 
+/** As the engine has it: supercritical is all above the critical temperature or the critical pressure. */
 export type Phase = 'liquid' | 'vapour' | 'supercritical' | 'two-phase';
 
 /** A state of water, or many of them, in the units that the engine had when it was made. */

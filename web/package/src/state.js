@@ -76,8 +76,8 @@ const letterOf = Object.fromEntries(
 );
 
 function letter(name) {
-  const found = letterOf[name] ?? letterOf[name.replaceAll('_', ' ')];
-  if (found !== undefined) return found;
+  const word = name.replaceAll('_', ' ');
+  if (Object.hasOwn(letterOf, word)) return letterOf[word];
   throw new TypeError(`a state is given by two of ${ofMixtures.join(', ')}; "${name}" is none`);
 }
 
@@ -116,7 +116,7 @@ export class State {
   #values = new Map();
 
   constructor(engine, pair) {
-    const names = Object.keys(pair);
+    const names = Object.keys(pair ?? {});
     if (names.length !== 2) {
       throw new TypeError(
         `a state is given by two of ${ofMixtures.join(', ')}, as ` +
@@ -161,9 +161,9 @@ export class State {
 
   /** A property, for the accessors by name. */
   get(name) {
-    if (properties[name] === undefined) {
+    if (!Object.hasOwn(properties, name)) {
       throw new RangeError(
-        `a state has no property "${name}"; it has ${Object.keys(properties).join(', ')}`,
+        `a state has no property "${String(name)}"; it has ${Object.keys(properties).join(', ')}`,
       );
     }
     if (!this.#values.has(name)) {
@@ -174,7 +174,7 @@ export class State {
   }
 
   unit(name) {
-    if (properties[name] === undefined) this.get(name);
+    if (!Object.hasOwn(properties, name)) this.get(name);
     const { group } = properties[name];
     return group < 0 ? '' : this.#engine.unit(group);
   }

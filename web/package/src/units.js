@@ -1,4 +1,5 @@
 // Quantities and their units, in the words that people use.
+import { commonLength } from './columns.js';
 import { Engine } from './engine.js';
 import { groups } from './table.js';
 import { memoryView, scratch, wasm, withTexts } from './wasm.js';
@@ -38,6 +39,7 @@ export function findUnit(quantity, word) {
 
 /** A number, or an array of them, from one unit of a quantity to another. */
 export function convert(quantity, value, from, to) {
+  commonLength('convert(quantity, value, from, to)', ['value'], [value]);
   const a = findUnit(quantity, from),
     b = findUnit(quantity, to);
   const one = x => (a === b ? x : ((x + a.offset) * a.factor) / b.factor - b.offset);

@@ -39,7 +39,8 @@ export function memoryView() {
 export class CalvexError extends Error {
   constructor(code, reason, cause = '', member = '') {
     const full = cause ? `${reason} ${cause}` : reason;
-    super(member ? `${member} failed: ${full}` : full);
+    const said = `${member} failed: `;
+    super(member && !full.startsWith(said) ? said + full : full);
     this.name = 'CalvexError';
     this.code = code;
     this.reason = reason;

@@ -11,6 +11,8 @@ export interface Address {
   page: string;
   item: string;
   values: Readonly<Record<string, string>>;
+  /** Keys that a link has more than once: of their values the last one counts. */
+  twice?: readonly string[];
 }
 
 export const firstPage = 'state';
@@ -27,7 +29,9 @@ export function read(hash: string): Address {
     }
   });
   const query = new URLSearchParams(mark < 0 ? '' : text.slice(mark + 1));
-  return { page: page || firstPage, item, values: Object.fromEntries(query) };
+  const keys = [...query.keys()];
+  const twice = [...new Set(keys.filter((key, i) => keys.indexOf(key) < i))];
+  return { page: page || firstPage, item, values: Object.fromEntries(query), twice };
 }
 
 export function write({ page, item, values }: Address): string {
@@ -41,8 +45,12 @@ export function write({ page, item, values }: Address): string {
 
 export const address = signal<Address>(read(location.hash));
 
+/** What a table has under a word of the address, which may be "constructor" as well. */
+export const own = <T>(table: Readonly<Record<string, T>>, word: string): T | undefined =>
+  Object.hasOwn(table, word) ? table[word] : undefined;
+
 export const value = (key: string, otherwise = ''): string =>
-  address.value.values[key] ?? otherwise;
+  own(address.value.values, key) ?? otherwise;
 
 /** The address with some values changed; undefined takes one out. */
 export function changed(changes: Record<string, string | undefined>): Address {

@@ -39,11 +39,17 @@ export const steam = computed(() => made.value.steam);
 /** What is wrong with the units of the address; the model's stand in their place. */
 export const unitTroubles = computed(() => made.value.troubles);
 
+/** What the engine says to those who call members or type commands, for those who fill in fields. */
+const otherWords: readonly (readonly [RegExp, string])[] = [
+  [/\(\w+SatPQ: 0 is liquid/g, '(0 is liquid'],
+  [/\(on the command line also ([^)]*)%\)/g, '(or type $1 %)'],
+];
+export const inFields = (text: string): string =>
+  otherWords.reduce((said, [words, ours]) => said.replace(words, ours), text);
+
 /** Why a call failed, in the engine's words. */
 export function reasonOf(failure: unknown): string {
-  if (failure instanceof CalvexError) {
-    return failure.cause ? `${failure.reason} ${failure.cause}` : failure.reason;
-  }
+  if (failure instanceof CalvexError) return inFields(failure.full);
   return failure instanceof Error ? failure.message : String(failure);
 }
 
@@ -96,7 +102,10 @@ export function readInput(text: string, { group, words, difference }: Quantity):
     return { trouble: `“${text.trim()}” has a comma: the decimal sign is a point.` };
   }
   const parts = apart(text);
-  if (!parts || !Number.isFinite(parts.number)) {
+  if (parts?.beyond) {
+    return { trouble: `“${text.trim()}” is too ${parts.beyond} for a number.` };
+  }
+  if (!parts) {
     const example = pretty(unit) ? `100 or 100 ${pretty(unit)}` : '100';
     return { trouble: `“${text.trim()}” is no number; it reads like ${example}.` };
   }
@@ -110,12 +119,27 @@ export function readInput(text: string, { group, words, difference }: Quantity):
   }
 }
 
-/** The same text in another unit; one that names its unit itself stays as it is. */
-function inUnit(text: string, { group, difference }: Quantity, from: string, to: string): string {
-  const parts = apart(text);
-  if (!parts || parts.unit !== '' || from === to) return text;
-  const there = convert(group, parts.number, from, to);
-  return tidy(difference ? there - convert(group, 0, from, to) : there);
+/** What was typed where the page has written it in another unit: the way back is exact. */
+const origins = new Map<string, { text: string; unit: string; written: string; now: string }>();
+
+/** The same text in another unit; one that names its unit itself, and one that is no number, stays as
+ * it is. */
+function inUnit(
+  key: string,
+  text: string,
+  { group, difference }: Quantity,
+  from: string,
+  to: string,
+): string {
+  const before = origins.get(key);
+  const origin = before?.written === text && before.now === from ? before : { text, unit: from };
+  const parts = apart(origin.text);
+  if (!parts || parts.unit !== '' || parts.beyond || from === to) return text;
+  const there = convert(group, parts.number, origin.unit, to);
+  const size = difference ? there - convert(group, 0, origin.unit, to) : there;
+  const written = to === origin.unit ? origin.text : tidy(size);
+  origins.set(key, { text: origin.text, unit: origin.unit, written, now: to });
+  return written;
 }
 
 /** Which keys of the address hold a quantity: each view adds its own. */
@@ -136,7 +160,7 @@ export function chooseUnits(units: Record<string, string>) {
       if (text === undefined || quantity.group < 0) continue;
       const word = keyword(quantity.group);
       const to = units[word];
-      if (to !== undefined) changes[key] = inUnit(text, quantity, before[word]!, to);
+      if (to !== undefined) changes[key] = inUnit(key, text, quantity, before[word]!, to);
     }
   }
   replace(changed(changes));
@@ -147,13 +171,20 @@ export const exampleText = (group: number, model: number): string => tidy(toUser
 
 // --- Whose fault it is ----------------------------------------------------------------------------
 
-/** The inputs that a failure speaks of first; all of them where it names none. */
+/** The inputs that a failure speaks of first, also two that it compares; all of them where it names
+ * none. */
 export function blamed<Input extends { words: string }>(reason: string, inputs: Input[]): Input[] {
   const text = reason.toLowerCase();
-  const places = inputs.map(input => {
+  const wholes = inputs.map(input => {
     const words = input.words.replace(/,.*/, '').toLowerCase();
-    const whole = text.search(new RegExp(`\\b${words.replace(/[^a-z0-9 ]/g, '.')}\\b`));
-    if (whole >= 0) return whole;
+    // "Outlet pressure 1" is said of the pressure at outlet 1 too.
+    const other = words.replace(/^(\w+) at (\w+)( \d)?$/, '$2 $1$3');
+    const either = [words, other].map(each => each.replace(/[^a-z0-9 ]/g, '.')).join('|');
+    return text.search(new RegExp(`\\b(${either})\\b`));
+  });
+  const places = inputs.map((input, i) => {
+    const words = input.words.replace(/,.*/, '').toLowerCase();
+    if (wholes[i]! >= 0) return wholes[i]!;
     // "Pressure parameter out of range" is said of an inlet pressure too.
     const kind =
       /enthalpy|pressure|temperature|entropy|quality|density|volume|energy|efficiency|flow/.exec(
@@ -163,7 +194,10 @@ export function blamed<Input extends { words: string }>(reason: string, inputs: 
     return at < 0 ? Infinity : at;
   });
   const first = Math.min(...places);
-  return first === Infinity ? inputs : inputs.filter((_, i) => places[i] === first);
+  const compared = / (less|greater) than /.test(text) && wholes.includes(first);
+  return first === Infinity
+    ? inputs
+    : inputs.filter((_, i) => places[i] === first || (compared && wholes[i]! >= 0));
 }
 
 export { groups, members, properties, show };

@@ -14,15 +14,32 @@ export function show(value: number, digits = 10): string {
   return String(Number(value.toPrecision(digits)));
 }
 
-/** A number that was converted, without the dust of binary fractions. */
-export const tidy = (value: number): string => String(Number(value.toPrecision(12)));
+/** A number that was converted, as one would type it: without the dust of binary fractions. */
+export const tidy = (value: number): string => String(Number(value.toPrecision(10)));
 
-const shape = /^([+-]?(?:\d+\.?\d*|\.\d+)(?:[eE][+-]?\d+)?)\s*(.*)$/;
+// A unit begins with a letter, a degree or a per cent sign, or it is one of "1/K".
+const shape =
+  /^([+-]?(?:\d+\.?\d*|\.\d+)(?:[eE][+-]?\d+)?)(?:\s*([\p{L}°%].*)|\s+(1\/\p{L}.*)|\s*)$/u;
+
+interface Parts {
+  number: number;
+  unit: string;
+  /** A number that there is not among those that a machine reckons with. */
+  beyond?: 'large' | 'small';
+}
 
 /** "100 bar" apart: the number and the words behind it; undefined where it begins with no number. */
-export function apart(text: string): { number: number; unit: string } | undefined {
-  const [, number, unit = ''] = shape.exec(text.trim().replace(/^[−–]/, '-')) ?? [];
-  return number === undefined ? undefined : { number: Number(number), unit: unit.trim() };
+export function apart(text: string): Parts | undefined {
+  const [, digits, unit, inverse] = shape.exec(text.trim().replace(/^[−–]/, '-')) ?? [];
+  if (digits === undefined) return undefined;
+  const number = Number(digits);
+  const beyond =
+    Math.abs(number) === Infinity
+      ? 'large'
+      : number === 0 && /[1-9]/.test(digits.replace(/e.*/i, ''))
+        ? 'small'
+        : undefined;
+  return { number, unit: unit ?? inverse ?? '', beyond };
 }
 
 /** Round numbers for ticks and levels: about so many between two, 1, 2, 2.5 or 5 of a power of ten. */

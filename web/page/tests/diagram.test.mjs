@@ -36,21 +36,25 @@ async function redraws(page, deed) {
 
 for (const kind of Object.keys(families)) {
   test(`${kind} has its dome and its families of lines with labels`, async () => {
-    await onDiagram(kind, async page => {
-      for (const family of families[kind]) {
-        const d = await page.locator(`.diagrams .line.of-${family}`).getAttribute('d');
-        assert.ok(d.split('M').length > 4, `${family} has several lines`);
-        assert.ok(
-          (await page.locator(`.diagrams .label.of-${family}`).count()) > 2,
-          `${family} has labels`,
+    await onDiagram(
+      kind,
+      async page => {
+        for (const family of families[kind]) {
+          const d = await page.locator(`.diagrams .line.of-${family}`).getAttribute('d');
+          assert.ok(d.split('M').length > 4, `${family} has several lines`);
+          assert.ok(
+            (await page.locator(`.diagrams .label.of-${family}`).count()) > 2,
+            `${family} has labels`,
+          );
+        }
+        assert.doesNotMatch(
+          await page.locator('.diagrams .plot').innerHTML(),
+          /NaN|Infinity|undefined/,
         );
-      }
-      assert.doesNotMatch(
-        await page.locator('.diagrams .plot').innerHTML(),
-        /NaN|Infinity|undefined/,
-      );
-      assert.ok((await domeOf(page)).length > 500);
-    });
+        assert.ok((await domeOf(page)).length > 500);
+      },
+      '&without=',
+    );
   });
 
   test(`${kind}: what is read under the pointer is the state there, by the command line`, async () => {
@@ -77,6 +81,7 @@ for (const kind of Object.keys(families)) {
         }
         if (!wet) near(Number(read.cp), state.C, 1e-3, `cp at ${given}`);
         assert.equal(read.cp === '–', wet);
+        assert.equal(/left out/.test(read.why), wet);
       }
     });
   });
@@ -90,6 +95,7 @@ test('no state is there beyond what the equation covers', async () => {
       () => document.querySelector('.readout [data-name=phase]').textContent === 'No state here',
     );
     assert.equal((await readout(page)).P, '–');
+    assert.ok((await readout(page)).why.length > 10);
   });
 });
 
@@ -174,7 +180,7 @@ test('a closer look has more and finer lines', async () => {
     await redraws(page, () => page.getByRole('button', { name: 'Zoom in' }).click());
     await redraws(page, () => page.getByRole('button', { name: 'Zoom in' }).click());
     assert.ok(step(await labels()) < before);
-    await redraws(page, () => page.getByRole('button', { name: 'Whole' }).click());
+    await redraws(page, () => page.getByRole('button', { name: 'Reset view' }).click());
   });
 });
 
@@ -214,6 +220,20 @@ test('families of lines can be left out, and the link keeps that', async () => {
     await page.getByLabel('Isochores').uncheck();
     await page.waitForFunction(() => !document.querySelector('.line.of-v'));
     await page.waitForFunction(() => location.hash.includes('without=v'));
+  });
+});
+
+test('T–s begins with isobars and quality, and shows the others to who asks', async () => {
+  await onDiagram('Ts', async page => {
+    const lines = family => page.locator(`.diagrams .line.of-${family}`);
+    for (const [family, count] of [...'Px'].map(f => [f, 1]).concat([...'vh'].map(f => [f, 0]))) {
+      assert.equal(await lines(family).count(), count, family);
+    }
+    await page.getByLabel('Isochores').check();
+    await page.getByLabel('Isenthalps').check();
+    await lines('h').waitFor({ state: 'attached' });
+    assert.equal(await lines('v').count(), 1);
+    await page.waitForFunction(() => /without=(&|$)/.test(location.hash));
   });
 });
 

@@ -181,6 +181,72 @@ test('every model with streams has a process, the others none', async () => {
   });
 });
 
+/** What covers what on the page, of the names and values of a sketch and of a process. */
+const covered = page =>
+  page.evaluate(() => {
+    const boxOf = element => element.getBoundingClientRect();
+    const meets = (a, b) =>
+      a.left < b.right && b.left < a.right && a.top < b.bottom && b.top < a.bottom;
+    const faults = [];
+    const together = (texts, things) => {
+      texts.forEach((text, i) => {
+        for (const other of [...texts.slice(i + 1), ...things]) {
+          if (meets(boxOf(text), boxOf(other)))
+            faults.push(`${text.textContent} meets ${other.textContent || other.outerHTML}`);
+        }
+      });
+    };
+    together(
+      [...document.querySelectorAll('.point .name')],
+      [...document.querySelectorAll('.point circle')],
+    );
+    const texts = [...document.querySelectorAll('.sketch text:not(.sign)')];
+    together(texts, []);
+    for (const path of document.querySelectorAll('.sketch path.pipe, .sketch path.body')) {
+      const toScreen = path.getScreenCTM();
+      for (let at = 0; at <= path.getTotalLength(); at += 2) {
+        const { x, y } = path.getPointAtLength(at).matrixTransform(toScreen);
+        const text = texts.find(each =>
+          meets(boxOf(each), { left: x, right: x, top: y, bottom: y }),
+        );
+        if (!text) continue;
+        faults.push(`${text.textContent} lies on ${path.getAttribute('d')}`);
+        break;
+      }
+    }
+    const frame = boxOf(document.querySelector('.sketch'));
+    for (const text of texts) {
+      const { top, left, right, bottom } = boxOf(text);
+      if (top < frame.top || left < frame.left || right > frame.right || bottom > frame.bottom)
+        faults.push(`${text.textContent} is cut`);
+    }
+    return faults;
+  });
+
+for (const [where, how] of Object.entries({
+  'a desk': {},
+  'a phone': { viewport: { width: 390, height: 844 }, hasTouch: true, isMobile: true },
+})) {
+  test(`on ${where} what names a stream or a state covers nothing and is whole`, async () => {
+    const faults = [];
+    await onPage(
+      '#equipment',
+      async page => {
+        for (const { name } of models) {
+          await page.selectOption('#model', name);
+          await page.waitForFunction(
+            wanted => document.querySelector('form').getAttribute('aria-label').endsWith(wanted),
+            name,
+          );
+          faults.push(...(await covered(page)).map(fault => `${name}: ${fault}`));
+        }
+      },
+      how,
+    );
+    assert.deepEqual(faults, []);
+  });
+}
+
 const bad = [
   ['TurbineA', 'Eff', '2', /Efficiency/],
   ['TurbineA', 'PIn', '-1', /Pressure/],
@@ -199,6 +265,28 @@ test('a bad input is told beside its field and leaves no results', async () => {
       assert.equal(await page.locator('.snippets').count(), 0);
     });
   }
+});
+
+test('pressures that are compared are both told of, each beside its field', async () => {
+  for (const [given, fields] of [
+    ['TurbineA?in.POut=20', ['in.PIn', 'in.POut']],
+    ['TurbineA2?in.POut1=20', ['in.PIn', 'in.POut1']],
+    ['TurbineA3?in.POut2=9', ['in.POut1', 'in.POut2']],
+  ]) {
+    await onPage(`#equipment/${given}`, async page => {
+      assert.deepEqual(await troubled(page), fields);
+      for (const field of fields) assert.match(await troubleOf(page, field), /less than/);
+    });
+  }
+});
+
+test('per cent that were typed as a fraction are told how to be typed, and so they do', async () => {
+  await onPage('#equipment/TurbineA?in.Eff=80', async page => {
+    assert.match(await troubleOf(page, 'in.Eff'), /or type 80 %\)/);
+    assert.doesNotMatch(await troubleOf(page, 'in.Eff'), /command line/);
+    await page.locator('[data-key="in.Eff"]').fill('80 %');
+    await page.waitForSelector('[data-result]');
+  });
 });
 
 test('what no plant can do is warned of', async () => {

@@ -9,6 +9,7 @@ const axe = readFileSync(createRequire(import.meta.url).resolve('axe-core/axe.mi
 const units = 'u.P=bara&u.T=C';
 /** Each view, and what there is when it is drawn. */
 const views = {
+  first: ['#state', 'aside .plot'],
   state: [`#state?P=100&T=500&${units}`, 'aside .plot'],
   failure: [`#state?P=100&T=5000&${units}`, '.trouble'],
   diagram: [`#diagram/hs?P=100&T=500&${units}&zoom=2,0.4,0.5&without=v`, '.plot .dome'],
@@ -17,7 +18,7 @@ const views = {
   units: [`#units?${units}&quantity=H&amount=3000`, '[data-unit]'],
 };
 const ready = name => ({ ready: views[name][1] });
-const phone = { viewport: { width: 390, height: 844 }, hasTouch: true, isMobile: true };
+const phone = { hasTouch: true, isMobile: true };
 /** What one sees: the text and the lines of the view, and what is typed. */
 const seen = page =>
   page.evaluate(() =>
@@ -96,33 +97,36 @@ for (const [name, [hash]] of Object.entries(views)) {
     });
   }
 
-  test(`${name} fits a phone, for fingers`, async () => {
-    await onPage(
-      hash,
-      async page => {
-        const facts = await page.evaluate(() => ({
-          wide: document.documentElement.scrollWidth,
-          small: [...document.querySelectorAll('a, button, input, select, summary')]
-            .map(element => ({
-              element,
-              box: (element.closest('label') ?? element).getBoundingClientRect(),
-            }))
-            .filter(
-              ({ element, box }) =>
-                box.width > 0 &&
-                !element.matches('.skip') &&
-                Math.min(box.height, box.width) < 43.5,
-            )
-            .map(
-              ({ element, box }) => `${element.outerHTML.slice(0, 90)} ${box.width}x${box.height}`,
-            ),
-        }));
-        assert.ok(facts.wide <= 390, `${facts.wide} pixels wide`);
-        assert.deepEqual(facts.small, []);
-      },
-      { ...phone, ...ready(name) },
-    );
-  });
+  for (const width of [390, 320]) {
+    test(`${name} fits a phone of ${width} pixels, for fingers`, async () => {
+      await onPage(
+        hash,
+        async page => {
+          const facts = await page.evaluate(() => ({
+            wide: document.documentElement.scrollWidth,
+            small: [...document.querySelectorAll('a, button, input, select, summary')]
+              .map(element => ({
+                element,
+                box: (element.closest('label') ?? element).getBoundingClientRect(),
+              }))
+              .filter(
+                ({ element, box }) =>
+                  box.width > 0 &&
+                  !element.matches('.skip') &&
+                  Math.min(box.height, box.width) < 43.5,
+              )
+              .map(
+                ({ element, box }) =>
+                  `${element.outerHTML.slice(0, 90)} ${box.width}x${box.height}`,
+              ),
+          }));
+          assert.ok(facts.wide <= width, `${facts.wide} pixels wide`);
+          assert.deepEqual(facts.small, []);
+        },
+        { ...phone, viewport: { width, height: 844 }, ...ready(name) },
+      );
+    });
+  }
 }
 
 test('what is typed and chosen stands in the address', async () => {
@@ -139,6 +143,85 @@ test('what is typed and chosen stands in the address', async () => {
     await page.waitForSelector('[data-key=P]');
     assert.equal(await page.inputValue('[data-key=P]'), '100 bar');
   });
+});
+
+for (const [hash, told] of [
+  ['#tables?table=constructor', /the table “constructor”/],
+  ['#tables?table=__proto__', /the table “__proto__”/],
+  ['#diagram?kind=__proto__', /the diagram “__proto__”/],
+  ['#diagram/constructor', /the diagram “constructor”/],
+  ['#state?kind=constructor', /the diagram “constructor”/],
+  ['#foo', /the view “foo”/],
+  ['#equipment/Nope', /the model “Nope”/],
+  ['#tables/isobar', /left out: “isobar”/],
+  ['#equipment/TurbineA?in.Nope=1', /“in.Nope”/],
+  ['#state?U=3000&S=6', /the inputs U, S, which are no pair/],
+  ['#state?P=1&T=2&H=3', /the inputs P, T, H, which are no pair/],
+  ['#state?p=1', /“p”/],
+  ['#units?quantity=Mood', /the quantity “Mood”/],
+  ['#state?P=1&T=300&P=2', /all but the last “P”/],
+  ['#diagram/Ts?zoom=near', /the zoom “near”/],
+  ['#diagram/Ts?without=v,constructor', /the lines “constructor”/],
+  ['#state?trace=all', /the trace “all”/],
+]) {
+  test(`what is not understood in ${hash} is told, and the page goes on`, async () => {
+    await onPage(
+      hash,
+      async page => {
+        const notices = await page.locator('.notice').allInnerTexts();
+        assert.equal(notices.length, 1);
+        assert.match(notices[0], told);
+        await page.getByRole('link', { name: 'Diagrams', exact: true }).click();
+        await page.waitForSelector('.plot .dome');
+        await page.getByRole('link', { name: 'State', exact: true }).click();
+        await page.waitForSelector('.state');
+      },
+      { ready: 'main form, main svg, main table' },
+    );
+  });
+}
+
+test('what is understood in an address is told nothing of', async () => {
+  for (const [name, [hash, selector]] of Object.entries(views)) {
+    await onPage(hash, async page => assert.equal(await page.locator('.notice').count(), 0, name), {
+      ready: selector,
+    });
+  }
+});
+
+test('where a view fails the first one comes back', async () => {
+  await onPage('#state?P=10&T=700', async page => {
+    await page.waitForSelector('aside .plot');
+    await page.evaluate(() => {
+      const Real = ResizeObserver;
+      window.ResizeObserver = class {
+        constructor() {
+          window.ResizeObserver = Real;
+          throw new Error('a fault of this test');
+        }
+      };
+    });
+    await page.getByRole('link', { name: 'Diagrams', exact: true }).click();
+    await page.waitForSelector('.state .properties');
+    assert.match(await textOf(page, '.notice'), /begins anew: a fault of this test/);
+    await page.getByRole('link', { name: 'Tables' }).click();
+    await page.waitForSelector('.data');
+    assert.equal(await page.locator('.notice').count(), 0);
+  });
+});
+
+test('the diagram is reached by Tab and moved by its keys', async () => {
+  await onPage(
+    '#diagram',
+    async page => {
+      const atDiagram = () => page.evaluate(() => document.activeElement.matches('svg.plot'));
+      for (let i = 0; i < 40 && !(await atDiagram()); ++i) await page.keyboard.press('Tab');
+      assert.ok(await atDiagram());
+      await page.keyboard.press('+');
+      await page.waitForFunction(() => /zoom=/.test(location.hash));
+    },
+    { ready: '.plot .dome' },
+  );
 });
 
 test('a unit that there is not is told, and the page goes on', async () => {
@@ -252,6 +335,28 @@ test('units are chosen once for all views', async () => {
   });
 });
 
+test('a set of units leaves none of another behind', async () => {
+  const left = {
+    'bar and °C': /MPa|^K|\/K$/,
+    'psi and °F': /MPa|Pa|kg|\bm\b|kJ|kW|\bK\b/,
+  };
+  await onPage('#units', async page => {
+    for (const [set, stranger] of Object.entries(left)) {
+      await page.getByRole('button', { name: set }).click();
+      const units = await page
+        .locator('select.unit')
+        .evaluateAll(fields =>
+          fields.map(field => [field.getAttribute('aria-label'), field.value]),
+        );
+      assert.ok(units.length > 20);
+      assert.deepEqual(
+        units.filter(([, unit]) => stranger.test(unit)),
+        [],
+      );
+    }
+  });
+});
+
 test('a value is shown in all units of its quantity', async () => {
   await onPage('#units?quantity=P&amount=1+atm', async page => {
     const of = unit => page.locator(`[data-unit="${unit}"]`).innerText().then(Number);
@@ -310,6 +415,14 @@ test('on paper are the results, black on white, without what one clicks', async 
         ink: getComputedStyle(document.body).color,
       }));
       assert.equal(facts.clickable, 0);
+      // A number without its unit says nothing.
+      assert.ok(await page.getByLabel('Unit of pressure').isVisible());
+      await page.emulateMedia({ media: 'screen' });
+      await page.getByRole('link', { name: 'Diagrams', exact: true }).click();
+      await page.waitForSelector('.readout');
+      assert.ok(await page.locator('.readout').isVisible());
+      await page.emulateMedia({ media: 'print', colorScheme: 'dark' });
+      assert.ok(!(await page.locator('.readout').isVisible()));
       assert.match(facts.ink, /^rgb\(29, 39, 49\)$/);
       assert.ok((await page.pdf({ format: 'A4' })).length > 10_000);
     },
@@ -325,7 +438,9 @@ test('a screen reader is told the result, once typing rests', async () => {
     );
     await page.locator('[data-key=T]').fill('200');
     await page.waitForFunction(() =>
-      [...document.querySelectorAll('output')].some(o => o.textContent.trim() === 'Liquid'),
+      [...document.querySelectorAll('output')].some(
+        o => o.textContent.trim() === 'Compressed liquid',
+      ),
     );
   });
 });

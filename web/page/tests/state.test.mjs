@@ -101,6 +101,88 @@ test('another pair keeps the state', async () => {
   });
 });
 
+test('units changed back give back what was typed; what is no number stays', async () => {
+  await onPage('#state?P=1e400&T=773.15', async page => {
+    const typed = name => page.inputValue(`[data-key=${name}]`);
+    const choose = (words, unit) => page.getByLabel(`Unit of ${words}`).selectOption(unit);
+    await choose('pressure', 'barg');
+    assert.equal(await typed('P'), '1e400');
+    for (let i = 0; i < 20; ++i) {
+      for (const unit of ['F', 'R', 'C', 'K']) await choose('temperature', unit);
+    }
+    assert.equal(await typed('T'), '773.15');
+    await page.locator('[data-key=P]').fill('145.03773773020923');
+    await choose('pressure', 'psig');
+    assert.ok((await typed('P')).replace(/\D/g, '').length <= 10);
+    await choose('pressure', 'barg');
+    assert.equal(await typed('P'), '145.03773773020923');
+    // What is typed in the meantime is what counts.
+    await choose('pressure', 'bara');
+    await page.locator('[data-key=P]').fill('100');
+    await choose('pressure', 'MPa');
+    assert.equal(await typed('P'), '10');
+    await choose('pressure', 'barg');
+    assert.equal(await typed('P'), '98.98675');
+  });
+});
+
+test('another pair keeps the text of what both have', async () => {
+  await onPage(`#state?P=10.0&H=2000&${units}`, async page => {
+    await page.selectOption('#pair', 'PQ');
+    await page.waitForSelector('[data-key=Q]');
+    assert.equal(await page.inputValue('[data-key=P]'), '10.0');
+  });
+});
+
+/** The regions by the critical point, 647.126 K and 22.055 MPa, and the words of the command line. */
+const phases = [
+  ['P=100&T=500', /^Superheated vapour$/],
+  ['P=1&T=2000', /^Superheated vapour$/],
+  ['P=3.5&T=641', /^Superheated vapour$/],
+  ['P=250&T=500', /^Supercritical fluid$/],
+  ['P=1323&T=106', /^Compressed liquid$/],
+  ['P=10&T=20', /^Compressed liquid$/],
+  ['P=10&Q=0', /^Saturated liquid$/],
+  ['P=10&Q=1', /^Saturated vapour$/],
+  ['P=10&Q=100&u.Q=%25', /^Saturated vapour$/],
+  ['P=10&Q=50&u.Q=%25', /^Wet steam, x = 0.5 \(50 % vapour\)$/],
+];
+
+test('a phase is called as engineers and the command line do', async () => {
+  for (const [given, words] of phases) {
+    await onPage(`#state?${given}&${units}`, async page => {
+      const heading = await textOf(page, '.results h2');
+      assert.match(heading, words, given);
+      if (given.includes('%25')) return;
+      const said = commandLine('state', ...given.split('&'), '-u', 'P=bara', '-u', 'T=C');
+      assert.equal(said.split('\n')[0].toLowerCase(), heading.toLowerCase());
+    });
+  }
+});
+
+test('the dot is inside the diagram whatever the state', async () => {
+  for (const kind of ['hs', 'Ts', 'logph']) {
+    for (const given of [
+      'P=1&T=-5',
+      'P=0.5&T=60',
+      'P=10&Q=0.5',
+      'P=1&T=2200',
+      'P=5000&T=100',
+      'P=0.001&T=800',
+    ]) {
+      await onPage(`#state?kind=${kind}&${given}&${units}`, async page => {
+        const { dot, frame } = await page.evaluate(async () => {
+          while (!document.querySelector('.state-dot')) await new Promise(requestAnimationFrame);
+          const box = selector => document.querySelector(selector).getBoundingClientRect().toJSON();
+          return { dot: box('.state-dot'), frame: box('.frame') };
+        });
+        assert.ok(dot.left > frame.left && dot.right < frame.right, `${kind} ${given}`);
+        assert.ok(dot.top > frame.top && dot.bottom < frame.bottom, `${kind} ${given}`);
+      });
+    }
+  }
+});
+
 test('another unit keeps what was typed the same quantity', async () => {
   await onPage('#state?P=10&T=773.15', async page => {
     const before = await valuesOf(page);
@@ -132,7 +214,14 @@ const bad = [
   [{ P: 'x', T: 'y' }, ['P', 'T'], /no number/],
   [{ P: '100', H: '9000' }, ['H'], /Enthalpy 9000 kJ\/kg is above any that water has at 100 bara/],
   [{ P: '100', Q: '1.5' }, ['Q'], /Quality parameter out of range/],
-  [{ P: '1e999', T: '500' }, ['P'], /no number/],
+  [{ P: '1e999', T: '500' }, ['P'], /“1e999” is too large/],
+  [{ P: '1e-400', T: '500' }, ['P'], /“1e-400” is too small/],
+  [{ P: '0e0 ft H2O', T: '500' }, ['P'], /Pressure must be above 0/],
+  ...['1,000.5', '1.000,5', '1 000', "1'000", '1.2.3', '10^2', '1/2', '10🙂'].map(text => [
+    { P: text, T: '500' },
+    ['P'],
+    /is no number/,
+  ]),
   [{ P: '-5', T: '500' }, ['P'], /Pressure/],
 ];
 
@@ -163,7 +252,15 @@ test('a bad input is told beside its field, in one’s own units, and only there
 test('the boiling point with its pressure asks for another pair', async () => {
   await onPage(`#state?P=1.01325&T=100&${units}`, async page => {
     assert.match(await textOf(page, '.trouble'), /Two phase conditions/);
-    assert.match(await textOf(page, '.trouble'), /Give the pressure with the quality instead/);
+    const told = await textOf(page, '.trouble');
+    assert.match(told, /Give the pressure with the quality instead \(0 is liquid/);
+    assert.match(told, /“Given” has these pairs\.$/);
+    // The calls of all members of the pair, which fail alike, are few branches with all their names.
+    await page.waitForSelector('.tree');
+    assert.ok((await page.locator('.tree > li').count()) <= 3);
+    assert.ok((await page.locator('.tree .error').count()) <= 6);
+    const tree = await textOf(page, '.tree');
+    for (const name of ['HPT', 'SPT', 'CPT']) assert.match(tree, new RegExp(`\\b${name}\\b`));
   });
 });
 
@@ -171,7 +268,8 @@ test('the trace has the calls behind a state as a tree that folds', async () => 
   await onPage(`#state?P=100&T=3000&${units}`, async page => {
     const errors = page.locator('.tree .error');
     await errors.first().waitFor();
-    assert.ok((await errors.count()) > 10);
+    assert.match(await errors.first().locator('..').innerText(), /Temperature parameter/);
+    assert.match(await textOf(page, '.tree summary'), /HPT, .*, WPT/);
     const branch = page.locator('.tree details').first();
     assert.equal(await branch.getAttribute('open'), '');
     await branch.locator('summary').first().focus();

@@ -153,3 +153,33 @@ test('rows beyond the critical point are left out and told', async () => {
     assert.match(await textOf(page, '.warning'), /Temperature/);
   });
 });
+
+test('a table tells which rows it leaves out', async () => {
+  await onPage('#tables?table=T&from=0&to=500&step=50&u.T=C', async page => {
+    assert.equal((await shown(page)).length, 7);
+    const told = await textOf(page, '.warning');
+    assert.match(told, /the rows at 0, 400, 450, 500\. .*0\.01 to 373\.98 C/);
+  });
+});
+
+test('a spreadsheet knows the file’s letters by its first bytes', async () => {
+  await onPage('#tables', async page => {
+    const { text } = await csvOf(page);
+    assert.ok(text.startsWith('\uFEFF'));
+    assert.ok(text.includes('m³/kg'));
+  });
+});
+
+test('an isobar calls its phases as engineers do', async () => {
+  await onPage(`#tables?table=isobar&at=10&from=100&to=600&step=100&${units}`, async page => {
+    assert.deepEqual(
+      (await shown(page)).map(row => row[1]),
+      [
+        'compressed liquid',
+        'saturated liquid',
+        'saturated vapour',
+        ...new Array(5).fill('superheated vapour'),
+      ],
+    );
+  });
+});

@@ -1,10 +1,13 @@
 // A member's page: computes its example with the reader's numbers and units.
 import * as calvex from 'calvex/load';
 
+import { commandLine } from '../../page/src/equipment/snippets.ts';
+import { apart } from '../../page/src/numbers.ts';
 import { runExample, shown } from './example.mjs';
 
 const form = document.querySelector('#example');
 const outcome = document.querySelector('#outcome');
+const command = document.querySelector('#command');
 const fields = [...form.querySelectorAll('input')];
 const selects = [...form.querySelectorAll('select')];
 const results = [...form.querySelectorAll('output')];
@@ -18,28 +21,43 @@ const units = () =>
     selects.map(select => [calvex.groups[select.dataset.group].keywords[0], select.value]),
   );
 
+/** What a field has, in the unit beside it; a unit may stand behind the number. */
+function read(field) {
+  const text = field.value.trim(),
+    name = field.labels[0].textContent;
+  if (text === '') return { trouble: `${name} is missing.` };
+  if (!field.matches('.number')) return { value: text };
+  const parts = apart(text);
+  if (!parts || parts.beyond) return { trouble: `${name} is to be a number, not ${text}.` };
+  if (parts.unit === '') return { value: parts.number };
+  const select = field.closest('tr').querySelector('select');
+  if (!select) return { trouble: `${name} has no unit; “${parts.unit}” is one too many.` };
+  try {
+    const group = Number(select.dataset.group);
+    return { value: calvex.convert(group, parts.number, parts.unit, select.value) };
+  } catch (failure) {
+    return { trouble: failure.message };
+  }
+}
+
 async function run() {
   await loaded();
   const member = calvex.findMember(form.dataset.member);
-  const empty = fields.find(field => field.value.trim() === '');
-  const wrong =
-    empty ??
-    fields.find(field => field.matches('.number') && !Number.isFinite(Number(field.value)));
-  for (const field of fields) field.toggleAttribute('aria-invalid', field === wrong);
-  if (wrong) {
-    const name = wrong.labels[0].textContent;
-    fail(
-      wrong === empty ? `${name} is missing.` : `${name} is to be a number, not ${wrong.value}.`,
-    );
-    wrong.focus();
+  const given = fields.map(read);
+  const wrong = given.findIndex(({ trouble }) => trouble !== undefined);
+  for (const [i, field] of fields.entries()) field.toggleAttribute('aria-invalid', i === wrong);
+  if (wrong >= 0) {
+    fail(given[wrong].trouble);
+    fields[wrong].focus();
     return;
   }
-  const { outputs, failure, warnings } = runExample(
-    calvex,
-    member,
-    fields.map(field => field.value.trim()),
-    units(),
-  );
+  const inputs = given.map(({ value }) => value);
+  const chosen = units();
+  const { outputs, failure, warnings } = runExample(calvex, member, inputs, chosen);
+  if (command) {
+    const unitOf = group => chosen[calvex.groups[group].keywords[0]];
+    command.textContent = commandLine(member, inputs, unitOf);
+  }
   if (failure) {
     fail([failure.reason, failure.cause].filter(Boolean).join(' '));
     return;
@@ -103,6 +121,6 @@ for (const button of document.querySelectorAll('button.call')) {
       fields[i].value = value;
     });
     await run();
-    fields[0].focus();
+    (fields.find(field => Number(field.value) !== Number(field.defaultValue)) ?? fields[0]).focus();
   });
 }

@@ -105,6 +105,40 @@ onPage('What is no number is told beside its field', 'members/HPT.html', async p
   assert.ok(!(await P.evaluate(field => field.hasAttribute('aria-invalid'))));
 });
 
+onPage(
+  'A unit may stand behind a number, and the command line follows',
+  'members/HPT.html',
+  async page => {
+    const typed = name => page.getByLabel(name, { exact: true });
+    await typed('P').fill('100 bar');
+    await typed('T').fill('500 °C');
+    await run(page);
+    assert.match(await outcome(page), /^H = 3373\.998/); // the README's first example
+    await choose(page, 'unit of P', 'bara');
+    await typed('T').fill('773.15');
+    await run(page);
+    assert.equal(await outcome(page), 'H = 3373.998049 kJ/kg');
+    assert.equal(await page.locator('#command').textContent(), 'calvex -u P=bara HPT 100 773.15');
+    for (const [wrong, reason] of [
+      ['100 furlong', /furlong/],
+      ['1e999 bar', /is to be a number/],
+    ]) {
+      await typed('P').fill(wrong);
+      await run(page);
+      assert.match(await outcome(page), reason);
+      assert.ok(await typed('P').evaluate(field => field === document.activeElement));
+    }
+  },
+);
+
+onPage('A message’s button leads to the input that is wrong', 'members/HPT.html', async page => {
+  await page
+    .getByRole('button', { name: /^HPT 10 (?!773\.15)/ })
+    .first()
+    .click();
+  await page.waitForFunction(() => document.activeElement.matches('#in-2'));
+});
+
 onPage('Every message comes up again with the inputs beside it', 'members/TPH.html', async page => {
   const rows = page.locator('table.stacked tbody tr');
   const count = await rows.count();

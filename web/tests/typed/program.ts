@@ -42,6 +42,17 @@ try {
   if (failure instanceof CalvexError) console.log(failure.code, failure.reason, failure.cause);
 }
 
+const named: State = steam.state({ pressure: 100, x: 0.5 });
+const given: Record<string, number> = { P: 100, T: 500 };
+const chosen: State = steam.state(given);
+const columns: Record<string, Float64Array> = { P: many, T: many };
+const laid: State<Float64Array> = steam.state(columns);
+const bytes: Float64Array = steam.HPT(100, Uint8Array.of(200, 210));
+
+// @ts-expect-error: there is no such property
+steam.state({ P: 1, TT: 2 });
+// @ts-expect-error: there is no such setting
+steam.SatPolsh = 0;
 // @ts-expect-error: a text is no pressure
 steam.HPT('100', 500);
 // @ts-expect-error: the temperature is missing
@@ -70,5 +81,9 @@ console.log(
   limits,
   names,
   bar,
+  named,
+  chosen,
+  laid,
+  bytes,
 );
 console.log(version, wrong);

@@ -2,28 +2,28 @@
 import type { State } from 'calvex/load';
 import { useId, useLayoutEffect, useMemo, useRef, useState } from 'preact/hooks';
 
-import { address, value } from '../address.ts';
+import { address, own, value } from '../address.ts';
 import { answer } from '../state/inputs.ts';
 import { phaseText } from '../state/properties.tsx';
 import { draw, wholeView, type Drawing, type View } from './drawing.ts';
-import { firstKind, kinds, toDrawn, drawn, type Kind } from './kinds.ts';
+import { firstKind, kinds, roomFor, toDrawn, drawn, type Kind } from './kinds.ts';
 import { processPath, type Process } from './process.ts';
 
 const margin = { left: 68, right: 14, top: 12, bottom: 44 };
 const smallMargin = { left: 54, right: 8, top: 8, bottom: 40 };
 
 export const kindNow = (): Kind =>
-  kinds[address.value.page === 'diagram' ? address.value.item : ''] ??
-  kinds[value('kind')] ??
+  own(kinds, address.value.page === 'diagram' ? address.value.item : '') ??
+  own(kinds, value('kind')) ??
   kinds[firstKind]!;
 export const kindName = (): string =>
   Object.entries(kinds).find(([, kind]) => kind === kindNow())![0];
 
-/** The families of lines that are shown. */
-export const familiesNow = (kind: Kind): string[] => {
-  const hidden = value('without').split(',');
-  return Object.keys(kind.families).filter(family => !hidden.includes(family));
-};
+/** The families of lines that are not shown, and those that are. */
+export const hiddenNow = (kind: Kind): string[] =>
+  value('without', kind.without).split(',').filter(Boolean);
+export const familiesNow = (kind: Kind): string[] =>
+  Object.keys(kind.families).filter(family => !hiddenNow(kind).includes(family));
 
 export function viewNow(): View {
   const [k, x, y] = value('zoom').split(',').map(Number);
@@ -62,7 +62,16 @@ interface Props {
   onDrawn?: (surface: Surface, drawing: Drawing) => () => void;
 }
 
-export function Diagram({ small = false, kind = kindNow(), process, over, onDrawn }: Props) {
+export function Diagram({
+  small = false,
+  kind: wanted = kindNow(),
+  process,
+  over,
+  onDrawn,
+}: Props) {
+  const { state } = answer.value;
+  const marked = process ? process.points.map(point => point.state) : state ? [state] : [];
+  const kind = small ? roomFor(wanted, marked) : wanted;
   const box = useRef<HTMLDivElement>(null),
     plot = useRef<SVGRectElement>(null);
   const svg = useRef<SVGSVGElement>(null),
@@ -87,7 +96,7 @@ export function Diagram({ small = false, kind = kindNow(), process, over, onDraw
             small ? families.filter(family => family !== 'v') : families,
             small ? 9 : 11,
           ),
-    [kind, engine, width, height, view.k, view.x, view.y, families.join()],
+    [wanted, kind.window.join(), engine, width, height, view.k, view.x, view.y, families.join()],
   );
   useLayoutEffect(() => {
     if (!drawing) return undefined;
@@ -104,7 +113,6 @@ export function Diagram({ small = false, kind = kindNow(), process, over, onDraw
     );
   }, [drawing, onDrawn]);
 
-  const { state } = answer.value;
   const described = state && !process ? `The state is marked. ${phaseText(state)}.` : '';
   return (
     <div class={small ? 'diagram small' : 'diagram'} ref={box}>
@@ -173,35 +181,35 @@ function Dot({ kind, drawing, state }: { kind: Kind; drawing: Drawing; state: St
   return <path class="state-dot" d={`M${x.toFixed(2)},${y.toFixed(2)}h0.01`} />;
 }
 
-/** The states of a process with their names, each where it covers no other. */
+/** The states of a process with their names, each where it covers no other and no state. */
 function Marks({ kind, drawing, process }: { kind: Kind; drawing: Drawing; process: Process }) {
-  const { width } = drawing;
-  const taken: { x: number; y: number; size: number }[] = [];
+  const places = process.points.map(({ name, state }) => ({
+    name,
+    x: drawing.x(toDrawn(kind.x, state.get(kind.x))),
+    y: drawing.y(toDrawn(kind.y, state.get(kind.y))),
+  }));
+  const taken = places.map(({ x, y }) => ({ x: x - 6, y: y + 6, width: 12, height: 12 }));
   return (
     <>
-      {process.points.map(({ name, state }) => {
-        const x = drawing.x(toDrawn(kind.x, state.get(kind.x)));
-        const y = drawing.y(toDrawn(kind.y, state.get(kind.y)));
-        const size = 6.5 * name.length;
-        const spots = [
-          [8, -7],
-          [8, 13],
-          [-8 - size, -7],
-          [-8 - size, 13],
-          [8, -20],
-          [8, 26],
-          [-8 - size, 26],
-        ].map(([dx, dy]) => ({ x: x + dx!, y: y + dy!, size }));
+      {places.map(({ name, x, y }) => {
+        // A name from its left end on its line, as wide as its letters are at most.
+        const [width, height] = [7.5 * name.length, 12];
+        const spots = [-7, 14, -20, 27, -33, 40, -46, -59].flatMap(dy =>
+          [8, -8 - width, 22, 36].map(dx => ({ x: x + dx, y: y + dy, width, height })),
+        );
         const free =
           spots.find(
             spot =>
               spot.x > 0 &&
-              spot.x + size < width &&
+              spot.x + width < drawing.width &&
+              spot.y > height &&
+              spot.y < drawing.height - 4 &&
               taken.every(
                 other =>
-                  Math.abs(spot.y - other.y) > 12 ||
-                  spot.x > other.x + other.size ||
-                  other.x > spot.x + size,
+                  spot.y + 2 < other.y - other.height ||
+                  spot.y - height > other.y + 2 ||
+                  spot.x > other.x + other.width ||
+                  other.x > spot.x + width,
               ),
           ) ?? spots[0]!;
         taken.push(free);

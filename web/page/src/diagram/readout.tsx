@@ -4,7 +4,7 @@ import type { State } from 'calvex/load';
 import { useEffect, useRef } from 'preact/hooks';
 
 import { capital, pretty, properties, reasonOf, show } from '../engine.ts';
-import { phaseText } from '../state/properties.tsx';
+import { phaseText, shown } from '../state/properties.tsx';
 import type { Drawing } from './drawing.ts';
 import { drawn, type Kind } from './kinds.ts';
 
@@ -62,8 +62,13 @@ export class Reader {
     const state = stateAt(this.kind, this.drawing, this.spot);
     const found = typeof state === 'string' ? undefined : state;
     this.cells.get('phase')!.textContent = found ? phaseText(found) : 'No state here';
+    this.cells.get('why')!.textContent = found
+      ? found.phase === 'two-phase'
+        ? 'Liquid and vapour are together here: what only one of them has is left out.'
+        : ''
+      : String(state);
     this.table.classList.toggle('nothing', !found);
-    const values = new Map(found?.all().map(row => [row.name, row.value]));
+    const values = new Map((found ? shown(found) : []).map(row => [row.name, row.value]));
     for (const name of Object.keys(properties)) {
       this.cells.get(name)!.textContent = show(values.get(name) ?? NaN, 6);
     }
@@ -90,7 +95,7 @@ export function Readout({
     return () => reader.stop();
   }, [kind, drawing]);
   return (
-    <section class="readout" ref={table} aria-label="State under the pointer">
+    <section class="readout nothing" ref={table} aria-label="State under the pointer">
       <h2 class="phase" data-name="phase">
         Point at the diagram
       </h2>
@@ -113,6 +118,7 @@ export function Readout({
           ))}
         </tbody>
       </table>
+      <p class="quiet" data-name="why" />
     </section>
   );
 }

@@ -1,13 +1,21 @@
 // The diagrams: choose one, look closer, read states off, take it along.
 import { useCallback, useRef, useState } from 'preact/hooks';
 
-import { address, go, put, value } from '../address.ts';
+import { address, go, put } from '../address.ts';
 import { capital, properties, show } from '../engine.ts';
 import { Announce } from '../shell/announce.tsx';
 import { tidy } from '../numbers.ts';
 import { withInputs } from '../state/inputs.ts';
 import { phaseText } from '../state/properties.tsx';
-import { Diagram, familiesNow, kindName, kindNow, viewNow, type Surface } from './diagram.tsx';
+import {
+  Diagram,
+  familiesNow,
+  hiddenNow,
+  kindName,
+  kindNow,
+  viewNow,
+  type Surface,
+} from './diagram.tsx';
 import { viewOf, wholeView, type Drawing, type View } from './drawing.ts';
 import { saveSvg, savePng } from './export.ts';
 import { handle, type Zoomer } from './handling.ts';
@@ -73,12 +81,12 @@ export function DiagramView() {
     [kind],
   );
 
-  const hidden = value('without').split(',').filter(Boolean);
   const toggle = (family: string) => {
+    const hidden = hiddenNow(kind);
     const next = hidden.includes(family)
       ? hidden.filter(name => name !== family)
       : [...hidden, family];
-    put({ without: next.join() || undefined });
+    put({ without: next.join() });
   };
   const name = `calvex-${kindName()}`;
   return (
@@ -114,7 +122,7 @@ export function DiagramView() {
                 checked={familiesNow(kind).includes(family)}
                 onChange={() => toggle(family)}
               />
-              {capital(familyWords(family))}
+              {capital(familyWords[family]!)}
             </label>
           ))}
         </fieldset>
@@ -130,7 +138,7 @@ export function DiagramView() {
             disabled={viewNow() === wholeView}
             onClick={() => put({ zoom: undefined })}
           >
-            Whole
+            Reset view
           </button>
           <button type="button" onClick={() => saveSvg(surface.current!.svg, name)}>
             SVG
@@ -152,7 +160,7 @@ export function DiagramView() {
           />
           <p class="quiet keys">
             Wheel or <kbd>+</kbd> <kbd>−</kbd> zooms, dragging or the arrows move, <kbd>0</kbd>{' '}
-            shows the whole. <kbd>Shift</kbd> and the arrows move the cross, a click or{' '}
+            resets the view. <kbd>Shift</kbd> and the arrows move the cross, a click or{' '}
             <kbd>Enter</kbd> takes the state there.
           </p>
         </div>

@@ -115,9 +115,9 @@ const valve = (): Sketch => ({
 
 const deaerator = (): Sketch => ({
   ports: [
-    inlet('make-up', 'make-up water', 'M50,64H222', 50, 24),
+    inlet('make-up', 'make-up water', 'M50,96H222', 50, 18),
     inlet('heating', 'heating steam', 'M50,174H140', 30, 190),
-    outlet('deaerated', 'deaerated water', 'M340,196V236H400', 408, 206),
+    outlet('deaerated', 'deaerated water', 'M340,196V236H388', 396, 206),
   ],
   lines: [
     ['make-up', 'deaerated'],
@@ -196,10 +196,10 @@ const flash = (): Sketch => ({
 
 const exchanger = (): Sketch => ({
   ports: [
-    inlet('hot inlet', 'hot, in', 'M40,100H190', 40, 12),
-    outlet('hot outlet', 'hot, out', 'M330,100H480', 400, 12),
-    inlet('cold inlet', 'cold, in', 'M480,160H320', 400, 178),
-    outlet('cold outlet', 'cold, out', 'M200,160H40', 40, 178),
+    inlet('hot inlet', 'hot, in', 'M40,114H190', 40, 12),
+    outlet('hot outlet', 'hot, out', 'M330,114H480', 400, 12),
+    inlet('cold inlet', 'cold, in', 'M480,174H320', 400, 192),
+    outlet('cold outlet', 'cold, out', 'M200,174H40', 40, 192),
   ],
   lines: [
     ['hot inlet', 'hot outlet'],
@@ -207,16 +207,16 @@ const exchanger = (): Sketch => ({
   ],
   shapes: (
     <>
-      <circle class="body" cx={260} cy={130} r={76} />
-      <path class="hot" d="M190,100H222L240,78L262,122L284,78L298,100H330" />
-      <path class="cold" d="M320,160H298L284,138L262,182L240,138L222,160H200" />
+      <circle class="body" cx={260} cy={144} r={76} />
+      <path class="hot" d="M190,114H222L240,92L262,136L284,92L298,114H330" />
+      <path class="cold" d="M320,174H298L284,152L262,196L240,152L222,174H200" />
     </>
   ),
 });
 
 const ejector = (): Sketch => ({
   ports: [
-    inlet('motive', 'motive steam', 'M30,90H120', 30, 24),
+    inlet('motive', 'motive steam', 'M14,90H120', 14, 24),
     inlet('suction', 'suction steam', 'M170,220V150', 30, 178),
     outlet('discharge', 'discharge', 'M410,105H490', 418, 128),
   ],
@@ -233,7 +233,7 @@ const ejector = (): Sketch => ({
 });
 
 const gasTurbine = (): Sketch => ({
-  ports: [outlet('steam', 'steam', 'M420,60V30H470', 440, 44)],
+  ports: [outlet('steam', 'steam', 'M414,60V30H492', 444, 46)],
   lines: [],
   shapes: (
     <>
@@ -244,12 +244,13 @@ const gasTurbine = (): Sketch => ({
       <path class="flame" d="M154,70c-8,-8 -2,-14 4,-22c2,7 9,11 5,22z" />
       <path class="pipe" d="M100,80V60H144M176,60H210V82" />
       <path class="pipe" d="M260,110H330" marker-end="url(#arrow)" />
-      <rect class="body" x={330} y={60} width={120} height={110} rx={12} />
+      <rect class="body" x={330} y={60} width={106} height={110} rx={12} />
       <path class="hot" d="M350,150V90l14,50l14,-50l14,50l14,-50l14,50V84" />
-      <text class="name" x={20} y={174}>
+      <path class="pipe" d="M16,110H60" marker-end="url(#arrow)" />
+      <text class="name" x={16} y={100}>
         air
       </text>
-      <text class="name" x={266} y={174}>
+      <text class="name" x={266} y={128}>
         exhaust
       </text>
       <text class="name" x={346} y={192}>

@@ -1,7 +1,8 @@
 // The same call in other faces of the engine, in the chosen units.
-import { findMember, type MemberInfo } from 'calvex/load';
+import { findMember, groups, type MemberInfo } from 'calvex/load';
 
-import { groups, keyword, unitName } from '../engine.ts';
+/** The unit that is chosen for a quantity. */
+type UnitOf = (group: number) => string;
 
 export interface Snippet {
   title: string;
@@ -9,13 +10,13 @@ export interface Snippet {
 }
 
 /** The units of the member's quantities that are not the model's. */
-function unitsOf(member: MemberInfo): [string, string][] {
+function unitsOf(member: MemberInfo, unitOf: UnitOf): [string, string][] {
   const numbers = [...member.inputs, ...member.outputs]
     .map(({ group }) => group)
     .filter(group => group >= 0);
   return [...new Set(numbers)]
-    .filter(group => unitName(group) !== groups[group]!.modelUnit)
-    .map(group => [keyword(group), unitName(group)]);
+    .filter(group => unitOf(group) !== groups[group]!.modelUnit)
+    .map(group => [groups[group]!.keywords[0]!, unitOf(group)]);
 }
 
 /** For a shell: plain where it can be. */
@@ -26,8 +27,8 @@ const quoted = (text: string): string => `"${text}"`;
 /** "HOut", and of a name that is taken by an input "HOut2" */
 const tokens = (member: MemberInfo): string => member.outputs.map(output => output.name).join(' ');
 
-function commandLine(member: MemberInfo, given: readonly number[]): string {
-  const units = unitsOf(member)
+export function commandLine(member: MemberInfo, given: readonly number[], unitOf: UnitOf): string {
+  const units = unitsOf(member, unitOf)
     .map(([group, unit]) => `-u ${shell(`${group}=${unit}`)} `)
     .join('');
   // A number below zero is none of an option.
@@ -36,8 +37,8 @@ function commandLine(member: MemberInfo, given: readonly number[]): string {
   return `calvex ${units}${member.name} ${numbers}${wanted}`;
 }
 
-function python(member: MemberInfo, given: readonly number[]): string {
-  const units = unitsOf(member);
+function python(member: MemberInfo, given: readonly number[], unitOf: UnitOf): string {
+  const units = unitsOf(member, unitOf);
   const asWords = units.every(([group]) => /^\w+$/.test(group));
   const chosen = asWords
     ? units.map(([group, unit]) => `${group}=${quoted(unit)}`).join(', ')
@@ -48,8 +49,8 @@ function python(member: MemberInfo, given: readonly number[]): string {
   );
 }
 
-function javascript(member: MemberInfo, given: readonly number[]): string {
-  const units = unitsOf(member)
+function javascript(member: MemberInfo, given: readonly number[], unitOf: UnitOf): string {
+  const units = unitsOf(member, unitOf)
     .map(([group, unit]) => `${/^\w+$/.test(group) ? group : `'${group}'`}: '${unit}'`)
     .join(', ');
   return (
@@ -64,7 +65,7 @@ const ownName = (member: MemberInfo): string =>
     ? member.name.slice(2)
     : member.name;
 
-function visualBasic(member: MemberInfo, given: readonly number[]): string {
+function visualBasic(member: MemberInfo, given: readonly number[], unitOf: UnitOf): string {
   const variable = (name: string) => `r${name.replace(/\W/g, '')}`;
   const results = member.hasTokens
     ? ['results']
@@ -76,7 +77,7 @@ function visualBasic(member: MemberInfo, given: readonly number[]): string {
   const lines = [
     'Set steam = CreateObject("Calvex32.ZvCalvex.3")',
     "steam.SatPolish = 2  ' the exact saturation line, as here",
-    ...unitsOf(member).map(
+    ...unitsOf(member, unitOf).map(
       ([group, unit]) => `steam.SetUserUnit ${quoted(group)}, ${quoted(unit)}`,
     ),
     `If steam.${member.name}(${call.join(', ')}) = 0 Then WScript.Echo steam.LastError : WScript.Quit 1`,
@@ -97,9 +98,13 @@ function visualBasic(member: MemberInfo, given: readonly number[]): string {
   return lines.join('\n');
 }
 
-export const snippets = (member: MemberInfo, given: readonly number[]): Snippet[] => [
-  { title: 'Command line', code: commandLine(member, given) },
-  { title: 'Python', code: python(member, given) },
-  { title: 'VBScript', code: visualBasic(member, given) },
-  { title: 'JavaScript', code: javascript(member, given) },
+export const snippets = (
+  member: MemberInfo,
+  given: readonly number[],
+  unitOf: UnitOf,
+): Snippet[] => [
+  { title: 'Command line', code: commandLine(member, given, unitOf) },
+  { title: 'Python', code: python(member, given, unitOf) },
+  { title: 'VBScript', code: visualBasic(member, given, unitOf) },
+  { title: 'JavaScript', code: javascript(member, given, unitOf) },
 ];

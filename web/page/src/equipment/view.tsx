@@ -3,11 +3,11 @@
 import { useState } from 'preact/hooks';
 
 import { address, go } from '../address.ts';
-import { capital, pretty, properties, show, toModel, unitName } from '../engine.ts';
+import { capital, pretty, show, unitName } from '../engine.ts';
 import { Field } from '../field.tsx';
 import { copy } from '../files.ts';
 import { Diagram } from '../diagram/diagram.tsx';
-import { kinds, type Kind } from '../diagram/kinds.ts';
+import { kinds } from '../diagram/kinds.ts';
 import type { Process } from '../diagram/process.ts';
 import { Announce } from '../shell/announce.tsx';
 import { families, familyOf, type Sketch } from './families.tsx';
@@ -22,17 +22,6 @@ function choose(name: string) {
   );
   go({ page: 'equipment', item: name, values });
 }
-
-/** Mollier's diagram, and the same with the liquid, where a process begins or ends there. */
-const whole: Kind = { ...kinds.hs!, window: [0, 9.2, 0, 4000] };
-const kindFor = ({ points }: Process): Kind =>
-  points.every(
-    ({ state }) =>
-      toModel(properties.s!.group, state.s) > kinds.hs!.window[0] &&
-      toModel(properties.h!.group, state.h) > kinds.hs!.window[2],
-  )
-    ? kinds.hs!
-    : whole;
 
 /** The states that are known, and between them the lines of the model's process. */
 function processOf(sketch: Sketch, streams: Streams): Process | undefined {
@@ -159,7 +148,7 @@ export function EquipmentView() {
         {process && (
           <section aria-labelledby="process-title">
             <h2 id="process-title">Process</h2>
-            <Diagram small kind={kindFor(process)} process={process} />
+            <Diagram small kind={kinds.hs!} process={process} />
           </section>
         )}
         {results && <Snippets />}
@@ -172,6 +161,7 @@ function Snippets() {
   const all = snippets(
     model.value,
     typed.value.map(input => input.value!),
+    unitName,
   );
   const [shown, show] = useState(0);
   const [copied, setCopied] = useState(false);

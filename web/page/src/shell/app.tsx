@@ -1,16 +1,17 @@
 // The frame of the page: its views, its theme, its keys.
 import { version } from 'calvex/load';
-import { useEffect, useLayoutEffect, useRef, useState } from 'preact/hooks';
+import { useEffect, useErrorBoundary, useLayoutEffect, useRef, useState } from 'preact/hooks';
 
-import { address, go, linkTo, read } from '../address.ts';
+import { address, firstPage, go, linkTo, read, replace } from '../address.ts';
 import { DiagramView } from '../diagram/view.tsx';
-import { unitTroubles } from '../engine.ts';
+import { reasonOf } from '../engine.ts';
 import { EquipmentView } from '../equipment/view.tsx';
 import { copy } from '../files.ts';
 import { StateView } from '../state/view.tsx';
 import { TablesView } from '../tables/view.tsx';
 import { UnitsView } from '../units/view.tsx';
 import { useKeys, KeysDialog } from './keys.tsx';
+import { unknowns } from './notices.ts';
 import { nextTheme, theme } from './theme.ts';
 
 export const views: readonly { page: string; title: string; View: preact.ComponentType }[] = [
@@ -29,6 +30,29 @@ function follow(event: MouseEvent) {
   event.preventDefault();
   if (href === '#main') document.getElementById('main')!.focus();
   else go(read(href));
+}
+
+/** A view; where it fails the first one comes back, from its beginning. */
+function Kept({ View }: { View: preact.ComponentType }) {
+  const [failed, fail] = useState({ reason: '', put: address.value });
+  const [failure, again] = useErrorBoundary();
+  const told = failed.reason !== '' && failed.put === address.value;
+  useLayoutEffect(() => {
+    if (failure === undefined || told) return; // one that fails from its beginning stays away
+    replace({ page: firstPage, item: '', values: {} });
+    fail({ reason: reasonOf(failure), put: address.value });
+    again();
+  }, [failure]);
+  return (
+    <>
+      {told && (
+        <p class="trouble notice" role="alert">
+          This could not be shown, and the page begins anew: {failed.reason}
+        </p>
+      )}
+      {failure === undefined && <View />}
+    </>
+  );
 }
 
 export function App() {
@@ -79,8 +103,8 @@ export function App() {
           <button type="button" onClick={share}>
             {copied ? 'Copied' : 'Copy link'}
           </button>
-          <button type="button" onClick={nextTheme} aria-label={`Colours: ${theme.value}`}>
-            {{ auto: 'Auto', light: 'Light', dark: 'Dark' }[theme.value]}
+          <button type="button" onClick={nextTheme}>
+            Colours: {theme.value}
           </button>
           <button type="button" class="help" onClick={() => showKeys(true)} aria-label="Keys">
             ?
@@ -90,12 +114,12 @@ export function App() {
       </header>
       <main id="main" ref={main} tabIndex={-1}>
         <h1 class="unseen">{title}</h1>
-        {unitTroubles.value.map(text => (
+        {unknowns.value.map(text => (
           <p key={text} class="trouble notice" role="alert">
             {text}
           </p>
         ))}
-        <View />
+        <Kept View={View} />
       </main>
       <footer>
         <p>

@@ -39,7 +39,7 @@ export function useKeys(pages: readonly string[], showKeys: () => void) {
 const keys: readonly (readonly [string, string])[] = [
   ['1 … 5', 'State, Diagrams, Equipment, Tables, Units'],
   ['/', 'the first field of the view'],
-  ['+  −  0', 'on a diagram: closer, farther, the whole'],
+  ['+  −  0', 'on a diagram: closer, farther, reset the view'],
   ['← ↑ → ↓', 'on a diagram: move it'],
   ['Shift ← ↑ → ↓', 'on a diagram: move the cross and hear the state'],
   ['Enter', 'on a diagram: take the state at the cross'],

@@ -28,7 +28,7 @@ const quantityOf = (letter: string): Quantity => {
 
 /** The keys of the state in the address: its inputs, in their order. */
 const stateLetters = new Set(pairs.join(''));
-const lettersOf = (keys: string[]) => keys.filter(key => stateLetters.has(key));
+export const lettersOf = (keys: string[]) => keys.filter(key => stateLetters.has(key));
 const pairOf = (letters: string[]) =>
   pairs.find(
     pair => letters.length === 2 && pair.includes(letters[0]!) && pair.includes(letters[1]!),
@@ -79,24 +79,25 @@ export const answer = computed<Answer>(() => {
     return { state: steam.value.state(given) };
   } catch (failure) {
     const reason = reasonOf(failure);
-    for (const input of blamed(reason, inputs.value)) troubles[input.letter] = reason;
-    return { troubles, code: failure instanceof CalvexError ? failure.code : undefined };
+    const code = failure instanceof CalvexError ? failure.code : undefined;
+    // Boiling: what the engine asks for instead is another pair.
+    const told = code === 106 ? `${reason} “Given” has these pairs.` : reason;
+    for (const input of blamed(reason, inputs.value)) troubles[input.letter] = told;
+    return { troubles, code };
   }
 });
 
-/** Another pair: what the state is now, in other properties. */
+/** Another pair: what the state is now, in other properties; one that both have stays as typed. */
 export function choosePair(next: string) {
   const { state } = answer.value;
+  const typed = Object.fromEntries(inputs.value.map(({ letter, text }) => [letter, text]));
   replace(
     withInputs(
       Object.fromEntries(
         next.split('').map(letter => {
           const known = state?.get(propertyOf(letter).name) ?? NaN;
-          const kept = address.value.values[letter];
-          const text = Number.isFinite(known)
-            ? exampleText(-1, known)
-            : (kept ?? firstText(letter, next));
-          return [letter, text];
+          const text = Number.isFinite(known) ? exampleText(-1, known) : firstText(letter, next);
+          return [letter, typed[letter] ?? text];
         }),
       ),
     ),

@@ -1,10 +1,13 @@
 // Every property of the state, and the saturated liquid and vapour beside it.
-import type { State } from 'calvex/load';
+import { computed } from '@preact/signals';
+import { convert, Engine, type State } from 'calvex/load';
 
 import {
   capital,
+  groups,
   letterRow,
   pretty,
+  properties,
   propertyOf,
   reasonOf,
   show,
@@ -14,14 +17,45 @@ import {
 import { useLater } from '../shell/later.ts';
 import { warnings } from './trace.tsx';
 
-/** What a phase is called in a sentence. */
+const critical = computed(() => {
+  const model = new Engine();
+  return { P: model.CritP(), T: model.CritT(), rho: model.CritR() };
+});
+
+/** What engineers call a state, by its properties in model units: the engine's "supercritical" has all
+ * that is above one of the critical values. */
+export function phaseName(
+  phase: string,
+  { P, T, rho, x }: Record<'P' | 'T' | 'rho' | 'x', number>,
+): string {
+  if (phase === '') return '';
+  if (phase === 'two-phase') {
+    return x === 0 ? 'saturated liquid' : x === 1 ? 'saturated vapour' : 'wet steam';
+  }
+  const { P: pressure, T: temperature, rho: density } = critical.value;
+  if (T >= temperature) return P >= pressure ? 'supercritical fluid' : 'superheated vapour';
+  return rho > density ? 'compressed liquid' : 'superheated vapour';
+}
+
+/** The same in a sentence, of a mixture with its quality. */
 export function phaseText(state: State): string {
-  if (state.phase !== 'two-phase') return capital(state.phase);
-  return `Wet steam: ${show(state.x, 6)}${pretty(state.unit('x'))} of the mass is vapour`;
+  const inModel = (name: string) => {
+    const { group } = properties[name]!;
+    return convert(group, state.get(name), state.unit(name), groups[group]!.modelUnit);
+  };
+  const x = inModel('x');
+  const name = phaseName(state.phase, {
+    P: inModel('P'),
+    T: inModel('T'),
+    rho: inModel('rho'),
+    x,
+  });
+  const fraction = name === 'wet steam' ? `, x = ${show(x)} (${show(100 * x)} % vapour)` : '';
+  return capital(name) + fraction;
 }
 
 /** A mixture has no more than its eight properties; of one phase the phase says the quality. */
-const shown = (state: State) =>
+export const shown = (state: State) =>
   state
     .all()
     .filter(row => (state.phase === 'two-phase' ? !Number.isNaN(row.value) : row.name !== 'x'));

@@ -3,7 +3,7 @@ import type { TraceNode } from 'calvex/load';
 import { computed } from '@preact/signals';
 
 import { put, value } from '../address.ts';
-import { call, members, readInput, steam } from '../engine.ts';
+import { call, inFields, members, readInput, steam } from '../engine.ts';
 import { inputs, pair } from './inputs.ts';
 
 /** The members that take the pair, asked one by one: scalar calls leave a trace. */
@@ -31,6 +31,27 @@ const messages = (node: TraceNode): number =>
     node.kind === 'call' || node.kind === 'root' ? 0 : 1,
   );
 
+/** Calls that left the same are one, with all their names. */
+function folded(root: TraceNode): TraceNode {
+  const groups = new Map<string, TraceNode[]>();
+  for (const child of root.children.map(inWords)) {
+    const left = JSON.stringify([child.kind, child.children]);
+    groups.set(left, [...(groups.get(left) ?? []), child]);
+  }
+  return {
+    ...root,
+    children: Array.from(groups.values(), calls => ({
+      ...calls[0]!,
+      text: calls.map(each => each.text).join(', '),
+    })),
+  };
+}
+const inWords = (node: TraceNode): TraceNode => ({
+  ...node,
+  text: inFields(node.text),
+  children: node.children.map(inWords),
+});
+
 function Node({ node, open }: { node: TraceNode; open: boolean }) {
   const text = (
     <>
@@ -53,7 +74,7 @@ function Node({ node, open }: { node: TraceNode; open: boolean }) {
 }
 
 export function Trace() {
-  const root = trace.value;
+  const root = trace.value && folded(trace.value);
   const notes = value('trace') === 'notes';
   const count = root ? messages(root) : 0;
   return (

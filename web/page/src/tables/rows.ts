@@ -1,8 +1,8 @@
 // The rows of a table: saturated states over a range, or states at one pressure.
 import type { State } from 'calvex/load';
 
-import { pretty, propertyOf, steam, unitName } from '../engine.ts';
-import { fullQuality } from '../state/properties.tsx';
+import { pretty, propertyOf, show, steam, toModel, unitName } from '../engine.ts';
+import { fullQuality, phaseName } from '../state/properties.tsx';
 
 export interface Column {
   words: string;
@@ -14,8 +14,8 @@ export interface Table {
   columns: Column[];
   /** A text is a phase; NaN is a value that there is not. */
   rows: (number | string)[][];
-  /** Why rows are missing. */
-  reasons: string[];
+  /** Which rows are missing, and why. */
+  missing: string[];
 }
 
 export interface Range {
@@ -36,9 +36,16 @@ const column = (letter: string, of?: Column['of']): Column => {
   return { words, unit: group < 0 ? '' : pretty(unitName(group)), symbol: name, ...(of && { of }) };
 };
 
-/** Why the points of an array failed, each reason once. */
-function reasonsOf(): string[] {
-  return [...new Set(steam.value.reasons().filter(Boolean))];
+/** Which points of an array failed, by each reason. */
+function missingOf(given: Float64Array): string[] {
+  const rows = new Map<string, string[]>();
+  steam.value.reasons().forEach((reason, i) => {
+    if (reason) rows.set(reason, [...(rows.get(reason) ?? []), show(given[i]!, 7)]);
+  });
+  return Array.from(rows, ([reason, places]) => {
+    const some = places.length > 8 ? [...places.slice(0, 4), '…', ...places.slice(-2)] : places;
+    return `Left out: the row${places.length > 1 ? 's' : ''} at ${some.join(', ')}. ${reason}`;
+  });
 }
 
 const ofPhases = ['V', 'R', 'H', 'S', 'U'];
@@ -55,7 +62,7 @@ export function saturation(by: 'T' | 'P', range: Range): Table {
         x: new Float64Array(given.length).fill(end * fullQuality()),
       }) as State<Float64Array>,
   );
-  const reasons = reasonsOf();
+  const missing = missingOf(given);
   const columns = [
     column(by),
     column(other),
@@ -67,7 +74,7 @@ export function saturation(by: 'T' | 'P', range: Range): Table {
     ...ofPhases.flatMap(letter => ends.map(states => states.get(propertyOf(letter).name))),
   ];
   const rows = Array.from(given, (_, i) => values.map(each => each[i]!));
-  return { columns, rows: rows.filter(row => !Number.isNaN(row[1])), reasons };
+  return { columns, rows: rows.filter(row => !Number.isNaN(row[1])), missing };
 }
 
 const ofStates = ['V', 'R', 'H', 'S', 'U', 'C', 'W', 'M', 'K'];
@@ -79,11 +86,21 @@ export function isobar(pressure: number, range: Range): Table {
     P: new Float64Array(given.length).fill(pressure),
     T: given,
   }) as State<Float64Array>;
-  const reasons = reasonsOf();
+  const missing = missingOf(given);
+  const [temperature, density] = ['T', 'R'].map(letter => propertyOf(letter).group) as [
+    number,
+    number,
+  ];
+  const modelPressure = toModel(propertyOf('P').group, pressure);
   const values = ofStates.map(letter => states.get(propertyOf(letter).name));
   const rows: (number | string)[][] = Array.from(given, (T, i) => [
     T,
-    states.phase[i]!,
+    phaseName(states.phase[i]!, {
+      P: modelPressure,
+      T: toModel(temperature, T),
+      rho: toModel(density, states.rho[i]!),
+      x: 1,
+    }),
     ...values.map(each => each[i]!),
   ]).filter(row => row[1] !== '');
   for (const [end, phase] of phases.entries()) {
@@ -101,7 +118,7 @@ export function isobar(pressure: number, range: Range): Table {
   return {
     columns: [column('T'), phase, ...ofStates.map(letter => column(letter))],
     rows,
-    reasons,
+    missing,
   };
 }
 

@@ -2,7 +2,7 @@
 import { computed } from '@preact/signals';
 import { useState } from 'preact/hooks';
 
-import { address, put, value } from '../address.ts';
+import { address, own, put, value } from '../address.ts';
 import { capital, holders, letterRow, readInput, reasonOf, show, toUser } from '../engine.ts';
 import type { Quantity } from '../engine.ts';
 import { Field } from '../field.tsx';
@@ -20,7 +20,7 @@ interface Kind {
   first: { from: number; to: number; rows: number; at?: number };
 }
 
-const kinds: Readonly<Record<string, Kind>> = {
+export const kinds: Readonly<Record<string, Kind>> = {
   T: { title: 'Saturation by temperature', by: 'T', first: { from: 273.16, to: 643.16, rows: 37 } },
   P: { title: 'Saturation by pressure', by: 'P', first: { from: 0.1, to: 20, rows: 40 } },
   isobar: {
@@ -37,7 +37,7 @@ interface Wanted extends Quantity {
   text: string;
 }
 
-const kind = computed<Kind>(() => kinds[value('table')] ?? kinds.T!);
+const kind = computed<Kind>(() => own(kinds, value('table')) ?? kinds.T!);
 
 /** The fields of the table, in the order in which one reads them. */
 const wanted = computed<Wanted[]>(() => {
@@ -122,7 +122,8 @@ function chooseKind(name: string) {
 export function TablesView() {
   const { table, troubles } = made.value;
   const [said, say] = useState('');
-  const name = `calvex-${value('table', 'T') === 'isobar' ? 'isobar' : `saturation-${kind.value.by}`}`;
+  const chosen = Object.keys(kinds).find(key => kinds[key] === kind.value)!;
+  const name = `calvex-${chosen === 'isobar' ? chosen : `saturation-${chosen}`}`;
   const copyTable = async () => {
     say(
       (await copy(asText(table!, '\t')))
@@ -142,7 +143,7 @@ export function TablesView() {
           <label for="table">Table</label>
           <select
             id="table"
-            value={value('table', 'T')}
+            value={chosen}
             onChange={event => chooseKind(event.currentTarget.value)}
           >
             {Object.entries(kinds).map(([key, { title }]) => (
@@ -169,7 +170,8 @@ export function TablesView() {
           <button
             type="button"
             disabled={!table}
-            onClick={() => save(`${name}.csv`, 'text/csv', asText(table!, ','))}
+            // By the mark of its bytes a spreadsheet knows that it is UTF-8.
+            onClick={() => save(`${name}.csv`, 'text/csv', `\uFEFF${asText(table!, ',')}`)}
           >
             CSV
           </button>
@@ -195,14 +197,14 @@ export function TablesView() {
 
 /** Columns of both phases stand under one heading. */
 function Shown({ table, title }: { table: Table; title: string }) {
-  const { columns, rows, reasons } = table;
+  const { columns, rows, missing } = table;
   const parted = columns.some(column => column.of);
   const heads = columns.filter((column, i) => columns[i - 1]?.symbol !== column.symbol);
   return (
     <section class="wide" aria-label={title}>
-      {reasons.map(text => (
+      {missing.map(text => (
         <p key={text} class="warning">
-          Some rows are left out: {text}
+          {text}
         </p>
       ))}
       {rows.length === 0 ? (
