@@ -165,11 +165,12 @@ std::optional<Place> placeIn(const XLREF12& cells, const Place& size, const Cell
 
 void keepFailure(const CellRange& cells, const Grid& answer, Failure failure) {
   const std::uint64_t mark = markOf(cells);
-  FailedCells& failed = failures()[cells.sheet]
-                            .try_emplace({cells.cells.rwFirst, cells.cells.colFirst},
-                                         FailedCells{cells.cells, mark, {}})
-                            .first->second;
-  if (failed.mark != mark) failed = {cells.cells, mark, {}};
+  FailedCells& failed =
+      failures()[cells.sheet]
+          .try_emplace({cells.cells.rwFirst, cells.cells.colFirst}, FailedCells{{}, mark, {}})
+          .first->second;
+  if (failed.mark != mark) failed = {{}, mark, {}};
+  failed.cells = cells.cells;
   if (!failed.failures.empty() && std::ranges::all_of(answer.cells, passesOn)) return;
   std::erase_if(failed.failures,
                 [&](const KeptFailure& kept) { return isSame(kept.failure, failure); });
@@ -200,8 +201,12 @@ std::optional<FoundFailure> findFailure(const CellRange& cell, int error) {
     for (auto kept = failed.failures.rbegin(); kept != failed.failures.rend(); ++kept) {
       const auto element = placeIn(failed.cells, kept->size, cell);
       if (!element) continue;
-      // Another formula may have come into cells that a result reached.
-      if (!isFirst && own.starts_with(L'=') && own != formulaOf(first)) return {};
+      // Something else may have come into cells that a result reached: a formula, or a constant,
+      // for which the host takes the result away from all of them.
+      if (!isFirst && ((own.starts_with(L'=') && own != formulaOf(first)) ||
+                       shownErrorOf(first).value_or(noError) != kept->errors.front())) {
+        return {};
+      }
       if (markOf(first) != failed.mark) return {};
       if (kept->errorAt(*element) == error) return FoundFailure{&kept->failure, *element};
       if (!isFirst) continue;

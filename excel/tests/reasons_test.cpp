@@ -156,7 +156,7 @@ TEST_F(ExcelReasons, CellsBeyondAnArrayHaveNoElement) {
   EXPECT_NE(why(beyond).find("has no element here"), std::string::npos) << why(beyond);
 }
 
-TEST_F(ExcelReasons, AFormulaInACellThatAResultHadReachedHasNone) {
+TEST_F(ExcelReasons, WhatIsTypedIntoACellThatAResultHadReachedHasNone) {
   for (const bool spilledCellsHaveFormulas : {false, true}) {
     host.spilledCellsHaveFormulas = spilledCellsHaveFormulas;
     Grid temperatures(3, 1);
@@ -165,6 +165,9 @@ TEST_F(ExcelReasons, AFormulaInACellThatAResultHadReachedHasNone) {
     const Address last{home.sheet, 2, 0};
     EXPECT_EQ(why(last), tooHot);
     type(last, L"=NA()", notAvailable);
+    EXPECT_TRUE(hasNone(last)) << why(last);
+    type(last, L"#N/A", notAvailable);
+    host.cells[home] = Error{ErrorKind::given, xlerrRef};  // there is no room for the result
     EXPECT_TRUE(hasNone(last)) << why(last);
     host.formulas.erase(last);
   }
