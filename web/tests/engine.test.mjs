@@ -59,6 +59,12 @@ test('a unit that there is not is refused with the nearest and all', () => {
   assert.match(failure.cause, /^Units: .*MPa/);
   assert.throws(() => steam.unit('prssure'), /"prssure" is no quantity/);
   assert.throws(() => new Engine('bar'), TypeError);
+  for (const list of [['bar'], new Map([['P', 'bar']]), new Set(['bar']), null]) {
+    assert.throws(() => new Engine(list), {
+      name: 'TypeError',
+      message: /chosen by their quantity/,
+    });
+  }
   assert.equal(steam.unit('P'), 'MPa');
 });
 
@@ -195,7 +201,20 @@ function sentAway() {
 
 test('what is no number and no array of numbers is refused, by every call', () => {
   const steam = new Engine();
-  const strangers = ['100', '', null, undefined, true, 1n, {}, new Set([1]), new Map(), sentAway()];
+  const bare = Object.create(null);
+  const strangers = [
+    '100',
+    '',
+    null,
+    undefined,
+    true,
+    1n,
+    {},
+    bare,
+    new Set([1]),
+    new Map(),
+    sentAway(),
+  ];
   const lists = [['1', ''], [[1, 2]], [null], [1, 2n], new BigInt64Array(2)];
   for (const value of [...strangers, ...lists]) {
     const calls = {

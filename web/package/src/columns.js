@@ -11,7 +11,9 @@ export const isColumn = value =>
 export const shown = value =>
   typeof value === 'string'
     ? JSON.stringify(value)
-    : `${String(value)}${typeof value === 'bigint' ? 'n' : ''}`;
+    : typeof value === 'object' && value !== null
+      ? Object.prototype.toString.call(value)
+      : `${String(value)}${typeof value === 'bigint' ? 'n' : ''}`;
 
 /** Whether the memory of a typed array has been transferred: it is empty then, and refuses a view. */
 function isDetached(value) {

@@ -25,7 +25,8 @@ export class Engine {
 
   constructor(units = {}) {
     if (wasm === undefined) throw new Error('the engine is not there yet: await load() first');
-    if (typeof units !== 'object' || units === null) {
+    // A list or a Map has its units where nobody looks for them.
+    if (typeof units !== 'object' || units === null || Symbol.iterator in units) {
       throw new TypeError('units are chosen by their quantity: new Engine({ T: "°C", P: "bar" })');
     }
     const place = scratch();

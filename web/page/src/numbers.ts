@@ -17,9 +17,10 @@ export function show(value: number, digits = 10): string {
 /** A number that was converted, as one would type it: without the dust of binary fractions. */
 export const tidy = (value: number): string => String(Number(value.toPrecision(10)));
 
-// A unit begins with a letter, a degree or a per cent sign, or it is one of "1/K".
+// A unit begins with a letter, a degree or a per cent sign, or it is one of "1/K"; half a power of ten
+// and another base's digits, "1e" and "0x10", are none.
 const shape =
-  /^([+-]?(?:\d+\.?\d*|\.\d+)(?:[eE][+-]?\d+)?)(?:\s*([\p{L}°%].*)|\s+(1\/\p{L}.*)|\s*)$/u;
+  /^([+-]?(?:\d+\.?\d*|\.\d+)(?:e[+-]?\d+)?)(?:\s*((?![ex][+-]?\d*$)[\p{L}°%].*)|\s+(1\/\p{L}.*)|\s*)$/iu;
 
 interface Parts {
   number: number;

@@ -161,6 +161,7 @@ for (const [hash, told] of [
   ['#units?quantity=Mood', /the quantity “Mood”/],
   ['#state?P=1&T=300&P=2', /all but the last “P”/],
   ['#diagram/Ts?zoom=near', /the zoom “near”/],
+  ['#diagram/Ts?zoom=200,-50,90', /the zoom “200,-50,90”/],
   ['#diagram/Ts?without=v,constructor', /the lines “constructor”/],
   ['#state?trace=all', /the trace “all”/],
 ]) {

@@ -134,6 +134,24 @@ test('another pair keeps the text of what both have', async () => {
   });
 });
 
+test('a pair that does not tell the state does not lose it', async () => {
+  await onPage(`#state?P=10&Q=1&${units}`, async page => {
+    const choose = async (pair, letter) => {
+      await page.selectOption('#pair', pair);
+      await page.waitForSelector(`[data-key=${letter}]`);
+    };
+    await choose('PT', 'T');
+    assert.match(await textOf(page, '.trouble'), /“Given” has these pairs/);
+    await choose('PQ', 'Q');
+    assert.equal(await page.inputValue('[data-key=Q]'), '1');
+    assert.equal(await textOf(page, '.results h2'), 'Saturated vapour');
+    await choose('PT', 'T');
+    await page.locator('[data-key=T]').fill('400');
+    await choose('PH', 'H');
+    near(Number(await page.inputValue('[data-key=H]')), 3264.4, 1e-3, 'steam of 10 bar, 400 °C');
+  });
+});
+
 /** The regions by the critical point, 647.126 K and 22.055 MPa, and the words of the command line. */
 const phases = [
   ['P=100&T=500', /^Superheated vapour$/],
@@ -217,11 +235,19 @@ const bad = [
   [{ P: '1e999', T: '500' }, ['P'], /“1e999” is too large/],
   [{ P: '1e-400', T: '500' }, ['P'], /“1e-400” is too small/],
   [{ P: '0e0 ft H2O', T: '500' }, ['P'], /Pressure must be above 0/],
-  ...['1,000.5', '1.000,5', '1 000', "1'000", '1.2.3', '10^2', '1/2', '10🙂'].map(text => [
-    { P: text, T: '500' },
-    ['P'],
-    /is no number/,
-  ]),
+  ...[
+    '1,000.5',
+    '1.000,5',
+    '1 000',
+    "1'000",
+    '1.2.3',
+    '10^2',
+    '1/2',
+    '10🙂',
+    '0x10',
+    '1e',
+    '1e-',
+  ].map(text => [{ P: text, T: '500' }, ['P'], /is no number/]),
   [{ P: '-5', T: '500' }, ['P'], /Pressure/],
 ];
 

@@ -162,6 +162,20 @@ test('a table tells which rows it leaves out', async () => {
   });
 });
 
+test('the row of the boiling point is left out, and the saturated states are there', async () => {
+  await onPage(`#tables?table=isobar&at=1.01325&from=50&to=150&step=50&${units}`, async page => {
+    const told = await textOf(page, '.warning');
+    assert.match(told, /the row at 100\. .*liquid and vapour are together\.$/);
+    const phases = (await shown(page)).map(row => row[1]);
+    assert.deepEqual(phases, [
+      'compressed liquid',
+      'saturated liquid',
+      'saturated vapour',
+      'superheated vapour',
+    ]);
+  });
+});
+
 test('a spreadsheet knows the file’s letters by its first bytes', async () => {
   await onPage('#tables', async page => {
     const { text } = await csvOf(page);

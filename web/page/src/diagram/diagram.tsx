@@ -27,7 +27,8 @@ export const familiesNow = (kind: Kind): string[] =>
 
 export function viewNow(): View {
   const [k, x, y] = value('zoom').split(',').map(Number);
-  return [k, x, y].every(Number.isFinite) && k! >= 1 && k! <= 200
+  const within = (low: number, value: number, high: number) => value >= low && value <= high;
+  return within(1, k!, 200) && within(0, x!, 1) && within(0, y!, 1)
     ? { k: k!, x: x!, y: y! }
     : wholeView;
 }

@@ -87,21 +87,24 @@ export const answer = computed<Answer>(() => {
   }
 });
 
+/** The state that another pair was chosen for, until something else is typed or chosen: a pair that
+ * does not tell it, pressure and temperature of wet steam, does not lose it. */
+let left: { state: State; texts: string; units: unknown } | undefined;
+
 /** Another pair: what the state is now, in other properties; one that both have stays as typed. */
 export function choosePair(next: string) {
-  const { state } = answer.value;
   const typed = Object.fromEntries(inputs.value.map(({ letter, text }) => [letter, text]));
-  replace(
-    withInputs(
-      Object.fromEntries(
-        next.split('').map(letter => {
-          const known = state?.get(propertyOf(letter).name) ?? NaN;
-          const text = Number.isFinite(known) ? exampleText(-1, known) : firstText(letter, next);
-          return [letter, typed[letter] ?? text];
-        }),
-      ),
-    ),
+  const untouched = left?.texts === JSON.stringify(typed) && left.units === steam.value;
+  const state = answer.value.state ?? (untouched ? left!.state : undefined);
+  const texts = Object.fromEntries(
+    next.split('').map(letter => {
+      const known = state?.get(propertyOf(letter).name) ?? NaN;
+      const text = Number.isFinite(known) ? exampleText(-1, known) : firstText(letter, next);
+      return [letter, typed[letter] ?? text];
+    }),
   );
+  left = state && { state, texts: JSON.stringify(texts), units: steam.value };
+  replace(withInputs(texts));
 }
 
 /** The address with these inputs of the state. */

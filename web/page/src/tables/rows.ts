@@ -39,7 +39,9 @@ const column = (letter: string, of?: Column['of']): Column => {
 /** Which points of an array failed, by each reason. */
 function missingOf(given: Float64Array): string[] {
   const rows = new Map<string, string[]>();
-  steam.value.reasons().forEach((reason, i) => {
+  steam.value.reasons().forEach((text, i) => {
+    // At the boiling point a table has nothing else to give.
+    const reason = text.replace(/ Give the pressure with the quality.*/, '');
     if (reason) rows.set(reason, [...(rows.get(reason) ?? []), show(given[i]!, 7)]);
   });
   return Array.from(rows, ([reason, places]) => {
