@@ -389,9 +389,17 @@ End Function
 
 ' --- Reasons.
 
+' A cell with its formula: what another one has left there is no reason of this one's.
 Private Function KeyOf(cell, down, right)
   KeyOf = "[" & cell.Worksheet.Parent.Name & "]" & cell.Worksheet.Name & "!" & _
-    (cell.Row + down) & "," & (cell.Column + right)
+    (cell.Row + down) & "," & (cell.Column + right) & FormulaOf(cell)
+End Function
+
+Private Function FormulaOf(cell)
+  On Error Resume Next
+  FormulaOf = cell.Cells(1, 1).Formula
+  FormulaOf = cell.SpillParent.Formula  ' an error where no result has spilled to
+  Err.Clear
 End Function
 
 ' Keeps why the cells of an element fail. One that only passes an error on leaves what an inner
@@ -432,7 +440,7 @@ Public Function SteamWhy(Cell)
   SteamWhy = ""
   given = Element(Content(Cell), 0, 0)
   If Not IsError(given) Then Exit Function
-  SteamWhy = "No function of Calvex has failed here since the workbook was opened. Ctrl+Alt+F9 calculates everything anew."
+  SteamWhy = "No function of Calvex has failed here, as the cell stands now. Ctrl+Alt+F9 calculates everything anew."
   Set theReasons = Dictionary(theReasons)
   If theReasons.Exists(KeyOf(Cell, 0, 0)) Then SteamWhy = theReasons(KeyOf(Cell, 0, 0))
 End Function

@@ -38,7 +38,7 @@ End Function
 On Error Resume Next
 
 Const NA = "error 2042"
-Const unknown = "No function of Calvex has failed here since the workbook was opened. Ctrl+Alt+F9 calculates everything anew."
+Const unknown = "No function of Calvex has failed here, as the cell stands now. Ctrl+Alt+F9 calculates everything anew."
 
 ' Properties, in one function each and by name.
 Near "SteamHPT", SteamHPT(3.2776, 635.28), 3137.45826150827
@@ -132,6 +132,14 @@ Equal "its reason again", WhyAt(20, 1), range
 Equal "the error of another cell goes on", SteamTPH(10, CellOf("error 2007")), "error 2007"
 Equal "a success forgets its reason", VarType(SteamHPT(10, 500)), vbDouble
 Equal "forgotten", WhyAt(20, 1), unknown
+At 22
+Application.Caller.Formula = "=SteamHPT(10,3000)"
+Equal "a formula that fails", SteamHPT(10, 3000), NA
+Equal "tells no reason of the formula that has come into its cell", WhyAt(22, 1), unknown
+Equal "nor of an error that is gone", SteamWhy(Application.Caller), ""
+Application.Caller.Value2 = NA
+Equal "its own while the cell shows the error", SteamWhy(Application.Caller), range
+At 20
 Equal "no result array", SteamXLTurbineA(3137, 3, 0.1, 0.8, 10, "Eff"), NA
 Equal "its reason too", WhyAt(20, 1), "XLTurbineA: Invalid Token!"
 Equal "no row", SteamHVLTSat_PQ(0.1, 2), NA

@@ -8,6 +8,9 @@ Class Cell
   Public Row
   Public Column
   Public Sheet
+  Public Function Cells(down, right)
+    Set Cells = Me
+  End Function
   Public Function Worksheet()
     If IsObject(Sheet) Then Set Worksheet = Sheet Else Set Worksheet = theSheet
   End Function
