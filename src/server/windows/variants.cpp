@@ -115,15 +115,17 @@ constexpr VARTYPE variantType(ValueType type) {
 }
 
 /// A variable of a script arrives as a reference to a variant, through procedures to another one.
-/// Null where a reference leads nowhere.
+/// Null where a reference leads nowhere, or in a circle.
 const VARIANT* follow(const VARIANT& argument) {
+  constexpr int mostProcedures = 1000;
   const VARIANT* variable = &argument;
-  while (variable != nullptr && variable->vt == (VT_BYREF | VT_VARIANT)) {
+  for (int i = 0; i < mostProcedures; ++i) {
+    const bool isNowhere = (variable->vt & VT_BYREF) != 0 && variable->byref == nullptr;
+    if (isNowhere) return nullptr;
+    if (variable->vt != (VT_BYREF | VT_VARIANT)) return variable;
     variable = variable->pvarVal;
   }
-  const bool toNowhere =
-      variable != nullptr && (variable->vt & VT_BYREF) != 0 && variable->byref == nullptr;
-  return toNowhere ? nullptr : variable;
+  return nullptr;
 }
 
 /// What is there by value or by reference; null where there is something else or nothing.

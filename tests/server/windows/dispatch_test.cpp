@@ -282,6 +282,16 @@ TEST_F(Dispatch, RefusesReferencesToNowhere) {
   EXPECT_EQ(h, 1.0);
 }
 
+TEST_F(Dispatch, RefusesReferencesInACircle) {
+  Variant circle;
+  circle.vt = VT_BYREF | VT_VARIANT;
+  circle.pvarVal = &circle;
+  double h = 1.0;
+  expectRefusal(HPT(&h, circle, T), E_INVALIDARG, 1);
+  expectRefusal(HPT(circle, P, T), E_INVALIDARG, 2);
+  EXPECT_EQ(h, 1.0);
+}
+
 TEST_F(Dispatch, RefusesNumbersThatDoNotFit) {
   LateCall call = putProperty(*steam, L"SolverIter", 40000);
   EXPECT_EQ(call.result, DISP_E_OVERFLOW);
