@@ -1,9 +1,9 @@
 // Engines: every member of the table in one's own units.
 import { columns, isColumn, shown } from './columns.js';
+import { groupNumber } from './quantities.js';
 import { State } from './state.js';
 import { groups, memberNames } from './table.js';
 import { trace } from './trace.js';
-import { groupNumber } from './units.js';
 import {
   CalvexError,
   memoryNumbers,

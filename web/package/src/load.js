@@ -3,9 +3,10 @@ import { defineMembers } from './engine.js';
 import { start } from './wasm.js';
 
 export { Engine, Results } from './engine.js';
+export { findGroup } from './quantities.js';
 export { State, pairs, properties } from './state.js';
 export { findMember, findMembers, groups, letters, members, messages, version } from './table.js';
-export { convert, findGroup, findUnit } from './units.js';
+export { convert, findUnit } from './units.js';
 export { CalvexError } from './wasm.js';
 
 /** Whether the engine works on two numbers at a time. */
