@@ -233,6 +233,23 @@ TEST(ServerModule, IsUnloadedWithoutObjectsAndBeginsAnewWhenLoadedAgain) {
   }
 }
 
+/// Of which a process has 1,088.
+TEST(ServerModule, GivesTheSlotsOfThreadLocalStorageBack) {
+  const Apartment apartment;
+  DWORD slot = TLS_OUT_OF_INDEXES;
+  for (int i = 0; i < 20; ++i) {
+    Ref<IZvCalvex> steam = makeObject();
+    EXPECT_NEAR(enthalpy(*steam), H, tolerance);
+    const DWORD free = TlsAlloc();
+    TlsFree(free);
+    if (i == 0) slot = free;
+    EXPECT_EQ(free, slot) << "at loading " << i + 1;
+    steam.reset();
+    CoFreeUnusedLibrariesEx(0, 0);
+    ASSERT_FALSE(isLoaded());
+  }
+}
+
 TEST(ServerModule, IsKeptByALiveObject) {
   const Apartment apartment;
   const Ref<IZvCalvex> steam = makeObject();
