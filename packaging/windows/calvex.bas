@@ -2880,7 +2880,7 @@ Private Sub Describe1()
     "Pressure, from 0.00061173 to 22.055 MPa, or in the unit of the workbook.", _
     "Quality, from 0 to 1 Fraction, or in the unit of the workbook.")
   Describe "SteamPTH", "Calvex", _
-    "Pressure from temperature and enthalpy. Also for mixtures of liquid and vapour.", Array( _
+    "Pressure from temperature and enthalpy. Between the enthalpies of saturated liquid and vapour the state is a mixture, although compressed liquid can have both values, too.", Array( _
     "Temperature, from 260 to 2500 K, or in the unit of the workbook.", _
     "Enthalpy, from 0 kJ/kg, or in the unit of the workbook.")
   Describe "SteamPTS", "Calvex", _
@@ -2987,7 +2987,7 @@ Private Sub Describe3()
     "Pressure, above 0 to 3000 MPa, or in the unit of the workbook.", _
     "Specific volume, above 0 m^3/kg, or in the unit of the workbook.")
   Describe "SteamSTH", "Calvex", _
-    "Entropy from temperature and enthalpy. Also for mixtures of liquid and vapour.", Array( _
+    "Entropy from temperature and enthalpy. Between the enthalpies of saturated liquid and vapour the state is a mixture, although compressed liquid can have both values, too.", Array( _
     "Temperature, from 260 to 2500 K, or in the unit of the workbook.", _
     "Enthalpy, from 0 kJ/kg, or in the unit of the workbook.")
   Describe "SteamSTU", "Calvex", _
@@ -3023,7 +3023,7 @@ Private Sub Describe3()
     "Pressure, above 0 to 3000 MPa, or in the unit of the workbook.", _
     "Specific volume, above 0 m^3/kg, or in the unit of the workbook.")
   Describe "SteamUTH", "Calvex", _
-    "Internal energy from temperature and enthalpy. Also for mixtures of liquid and vapour.", Array( _
+    "Internal energy from temperature and enthalpy. Between the enthalpies of saturated liquid and vapour the state is a mixture, although compressed liquid can have both values, too.", Array( _
     "Temperature, from 260 to 2500 K, or in the unit of the workbook.", _
     "Enthalpy, from 0 kJ/kg, or in the unit of the workbook.")
   Describe "SteamUTS", "Calvex", _
@@ -3058,7 +3058,7 @@ End Sub
 
 Private Sub Describe4()
   Describe "SteamRTH", "Calvex", _
-    "Density from temperature and enthalpy. Also for mixtures of liquid and vapour.", Array( _
+    "Density from temperature and enthalpy. Between the enthalpies of saturated liquid and vapour the state is a mixture, although compressed liquid can have both values, too.", Array( _
     "Temperature, from 260 to 2500 K, or in the unit of the workbook.", _
     "Enthalpy, from 0 kJ/kg, or in the unit of the workbook.")
   Describe "SteamRTS", "Calvex", _
@@ -3086,7 +3086,7 @@ Private Sub Describe4()
     "Pressure, above 0 to 3000 MPa, or in the unit of the workbook.", _
     "Internal energy, from 0 kJ/kg, or in the unit of the workbook.")
   Describe "SteamVTH", "Calvex", _
-    "Specific volume from temperature and enthalpy. Also for mixtures of liquid and vapour.", Array( _
+    "Specific volume from temperature and enthalpy. Between the enthalpies of saturated liquid and vapour the state is a mixture, although compressed liquid can have both values, too.", Array( _
     "Temperature, from 260 to 2500 K, or in the unit of the workbook.", _
     "Enthalpy, from 0 kJ/kg, or in the unit of the workbook.")
   Describe "SteamVTS", "Calvex", _
@@ -3118,7 +3118,7 @@ Private Sub Describe4()
     "Pressure, above 0 to 3000 MPa, or in the unit of the workbook.", _
     "Specific volume, above 0 m^3/kg, or in the unit of the workbook.")
   Describe "SteamQTH", "Calvex", _
-    "Quality from temperature and enthalpy. Quality is the mass fraction of vapour: 0 in liquid, 1 in vapour.", Array( _
+    "Quality from temperature and enthalpy. Quality is the mass fraction of vapour: 0 in liquid, 1 in vapour. Between the enthalpies of saturated liquid and vapour the state is a mixture, although compressed liquid can have both values, too.", Array( _
     "Temperature, from 260 to 2500 K, or in the unit of the workbook.", _
     "Enthalpy, from 0 kJ/kg, or in the unit of the workbook.")
   Describe "SteamQTS", "Calvex", _

@@ -265,6 +265,10 @@ void explainLettered(const Member& member, MemberExplanation& explained) {
         "temperature at the pressure.";
   } else if (result == 'A' || result == 'G') {
     explained.notes += "A mixture of liquid and vapour has no answer.";
+  } else if (inputLetters == "TH") {
+    explained.notes +=
+        "Between the enthalpies of saturated liquid and vapour the state is a mixture, although "
+        "compressed liquid can have both values, too.";
   } else if (result != 'Q') {
     explained.notes += "Also for mixtures of liquid and vapour.";
   }

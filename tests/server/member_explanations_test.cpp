@@ -75,6 +75,15 @@ TEST(MemberExplanations, SentencesOfPropertiesComeFromTheirLetters) {
   EXPECT_EQ(explanation(*findMember("XT")).title, "surface tension from temperature");
 }
 
+/// At 25 C liquid of 10 MPa has 113.968 kJ/kg, saturated liquid 104.753, saturated vapour 2546.27.
+TEST(MemberExplanations, TemperatureAndEnthalpyTellThatTheyHaveTwoAnswers) {
+  for (const char* name : {"PTH", "STH", "QTH"}) {
+    EXPECT_NE(explanation(*findMember(name)).notes.find("compressed liquid can have both values"),
+              std::string::npos)
+        << name;
+  }
+}
+
 TEST(MemberExplanations, ASpreadsheetVariantSharesTheRowOfItsModel) {
   const MemberExplanation model = explanation(*findMember("Boiler"));
   const MemberExplanation variant = explanation(*findMember("XLBoiler"));
