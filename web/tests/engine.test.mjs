@@ -424,3 +424,19 @@ test('an engine that was destroyed says so', () => {
   steam.destroy();
   assert.throws(() => steam.HPT(10, 500), /destroyed/);
 });
+
+test('a member with tokens leaves its warnings in the record, as others do', () => {
+  const steam = new Engine();
+  const inputs = [10, 1, 0.05, 320.15, 360.15, 0, 0, 0.3, 0.02, 300, 393.15, 1, 0];
+  assert.ok(steam.XLHeatExchangerA(...inputs).M_HOut < 0);
+  const warnings = [];
+  const look = node => {
+    if (node.kind === 'warning') warnings.push(node.text);
+    node.children.forEach(look);
+  };
+  look(steam.trace());
+  assert.ok(
+    warnings.some(text => text.endsWith('heat does not flow from cold to hot.')),
+    warnings.join('\n'),
+  );
+});

@@ -189,6 +189,34 @@ function callNumbers(engine, name, row, given) {
   return answer(engine, row, Array.from(numbers.subarray(at + inputs, at + inputs + outputs)));
 }
 
+/** The results that tokens name, all of them. */
+function callTokens(engine, name, row, given) {
+  given.forEach((value, i) => {
+    if (typeof value !== 'number') refuse(name, row, i, 'a number or an array of numbers', value);
+  });
+  const place = scratch();
+  const tokens = row.outputs.map(output => output.name).join(' ');
+  const code = withTexts([tokens], (list, sizes) => {
+    memoryNumbers().set(given, place / 8);
+    const { address } = engine;
+    return wasm.calvex_call_texts(
+      address,
+      row.number,
+      place,
+      given.length,
+      list,
+      sizes,
+      1,
+      place,
+      0,
+    );
+  });
+  engine.require(code, name);
+  // A row has a label and a unit as well, as the settings want.
+  const numberOf = cells => cells.find(cell => typeof cell === 'number');
+  return answer(engine, row, table(engine).map(numberOf));
+}
+
 /** A member that was taken off its engine has none. */
 function requireEngine(self, name, row) {
   if (self instanceof Engine) return;
@@ -200,12 +228,7 @@ function functionOf(name, row) {
     requireEngine(this, name, row);
     requireCount(name, row, given);
     if (given.some(isColumn)) return answer(this, row, columns(this, name, row, given));
-    if (!row.hasTokens) return callNumbers(this, name, row, given);
-    return answer(
-      this,
-      row,
-      columns(this, name, row, given).map(column => column[0]),
-    );
+    return (row.hasTokens ? callTokens : callNumbers)(this, name, row, given);
   };
 }
 
