@@ -162,6 +162,14 @@ TEST_F(WindowsProgram, PassesTheBytesOfATableThrough) {
   }
 }
 
+TEST_F(WindowsProgram, RunsAllOfAScriptThatComesThroughStandardInput) {
+  for (const std::string end : {"\n", "\r\n"}) {
+    write(L"in", "# a note \x1A" + end + "HPT 10 773.15" + end);
+    EXPECT_EQ(calvex(L"run -"), 0U) << read(L"err");
+    EXPECT_EQ(read(L"out"), "HPT 10 773.15\r\n  H = 3373.998049 kJ/kg  enthalpy\r\n");
+  }
+}
+
 /// A console of this process's own.
 class Console {
  public:
