@@ -170,6 +170,15 @@ TEST_F(WindowsProgram, RunsAllOfAScriptThatComesThroughStandardInput) {
   }
 }
 
+// A shell that is not Windows' own takes a CR for part of the last word.
+TEST_F(WindowsProgram, EndsTheLinesOfCompletionsAsTheirShellsDo) {
+  for (const wchar_t* shell : {L"bash", L"zsh", L"fish"}) {
+    EXPECT_EQ(calvex(std::wstring(L"completion ") + shell), 0U) << read(L"err");
+    EXPECT_GT(read(L"out").size(), 1000U);
+    EXPECT_EQ(read(L"out").find('\r'), std::string::npos);
+  }
+}
+
 /// A console of this process's own.
 class Console {
  public:
