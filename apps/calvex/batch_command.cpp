@@ -47,7 +47,8 @@ BatchOutcome run(const std::string& file, const std::string& output, const Batch
   const auto size = standardInput ? 0 : fs::file_size(input, ignored);
   Progress bar(console.err, ignored ? 0 : static_cast<std::int64_t>(size), console.errIsTerminal);
   const auto progress = [&](std::size_t bytes) { bar.at(static_cast<std::int64_t>(bytes)); };
-  passBytesThrough();
+  passInputThrough();
+  passOutputThrough();
   if (output.empty()) return runBatch(in, console.out, request, progress);
   OutputFile out(pathNamed(output));
   BatchOutcome outcome = runBatch(in, out.stream(), request, progress);

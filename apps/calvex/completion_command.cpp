@@ -9,6 +9,7 @@
 #include "diagnostics/formatting.h"
 #include "encoding.h"
 #include "server/suggestions.h"
+#include "terminal.h"
 
 namespace calvex::cli {
 
@@ -210,6 +211,7 @@ ExitStatus completionCommand(const Words& words, Console& console) {
   std::string shell;
   app.add_option("SHELL", shell, "bash, zsh or fish")->type_name("");
   if (!parse(app, words, console)) return ExitStatus::ok;
+  passOutputThrough();  // on Windows, too, such a shell ends a line with LF
   if (shell == "bash") {
     console.out << filled(bash);
   } else if (shell == "zsh") {

@@ -7,6 +7,7 @@
 #include "input_file.h"
 #include "script.h"
 #include "system_words.h"
+#include "terminal.h"
 
 namespace calvex::cli {
 
@@ -41,8 +42,10 @@ ExitStatus runCommand(const Words& words, Console& console) {
   }
   const bool shell = app.count("FILE") == 0 && console.inIsTerminal && console.outIsTerminal;
   if (shell && !options.json) return runShell(console, options);
-  if (file == "-") return runScript(console.in, console, options);
-
+  if (file == "-") {
+    if (!console.inIsTerminal) passInputThrough();
+    return runScript(console.in, console, options);
+  }
   std::ifstream in = openedInput(file);
   return runScript(in, console, options);
 }

@@ -22,6 +22,12 @@ bool sameFile(int one, int other) {
          a.st_ino == b.st_ino && a.st_ino != 0;  // Windows has no such numbers
 }
 
+void passThrough([[maybe_unused]] int stream) {
+#ifdef _WIN32
+  setmode(stream, O_BINARY);
+#endif
+}
+
 }  // namespace
 
 Terminal lookAtTerminal() {
@@ -41,11 +47,8 @@ Terminal lookAtTerminal() {
   return terminal;
 }
 
-void passBytesThrough() {
-#ifdef _WIN32
-  for (const int stream : {STDIN_FILENO, STDOUT_FILENO}) setmode(stream, O_BINARY);
-#endif
-}
+void passInputThrough() { passThrough(STDIN_FILENO); }
+void passOutputThrough() { passThrough(STDOUT_FILENO); }
 
 std::string coloured(std::string_view text, Colour colour, bool wanted) {
   if (!wanted) return std::string(text);

@@ -18,9 +18,10 @@ struct Terminal {
 /// Looks at this process's standard streams.
 [[nodiscard]] Terminal lookAtTerminal();
 
-/// From here on the standard streams hand over the bytes as they are: Windows would end lines in
-/// its way, and end the input at a Ctrl-Z.
-void passBytesThrough();
+/// From here on a standard stream hands over the bytes as they are: Windows would end lines in its
+/// way, and end the input at a Ctrl-Z.
+void passInputThrough();
+void passOutputThrough();
 
 enum class Colour { red, yellow };
 [[nodiscard]] std::string coloured(std::string_view text, Colour colour, bool wanted);

@@ -30,6 +30,7 @@ End Function
 Private Sub Connect()
   If theServer Is Nothing Then
     Set theServer = CreateObject("Calvex32.ZvCalvex.3")
+    theServer.SatPolish = 2  ' the exact saturation line, as the add-in
     theServer.AppName = Application.Name
     theServer.SetupExcelTracing
   End If

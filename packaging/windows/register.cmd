@@ -18,7 +18,9 @@ shift
 goto next
 
 :begin
-for %%d in (64-bit 32-bit) do if not exist "%here%%%d\calvex.dll" goto incomplete
+rem One by one: "for" would expand the folder's name once more, and it may have a %.
+if not exist "%here%64-bit\calvex.dll" goto incomplete
+if not exist "%here%32-bit\calvex.dll" goto incomplete
 
 rem All users' part of the registry is open to administrators only.
 if not "%users%"=="all users" goto choose

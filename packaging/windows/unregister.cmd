@@ -1,4 +1,4 @@
 @echo off
 rem Takes back what register.cmd did; the same options.
-call "%~dp0register.cmd" unregister %*
-exit /b %errorlevel%
+rem The last line, without "call", which would expand the folder's name once more: it may have a %.
+"%~dp0register.cmd" unregister %*

@@ -55,6 +55,10 @@ Equal "constants are numbers", VarType(SteamCritT()), vbDouble
 Near "the triple point's pressure boils at its temperature", SteamTSatP(SteamTripleP()), SteamTripleT()
 Near "constants by name", Steam("CritT", Array()), SteamCritT()
 
+' The saturation line decides, not its correlation, by which this is vapour.
+Equal "above the boiling pressure", SteamPSatT(300) < 0.0035375, True
+Near "is liquid", SteamVPT(0.0035375, 300), SteamVSatTQ(300, 0)
+
 ' Texts of numbers are read with the point, whatever the place of the machine.
 Near "texts of numbers are numbers", SteamHPT("3.2776", " 635.28 "), 3137.45826150827
 Near "with a power", SteamHPT("32776e-4", "+6.3528E+2"), 3137.45826150827

@@ -162,6 +162,23 @@ TEST_F(WindowsProgram, PassesTheBytesOfATableThrough) {
   }
 }
 
+TEST_F(WindowsProgram, RunsAllOfAScriptThatComesThroughStandardInput) {
+  for (const std::string end : {"\n", "\r\n"}) {
+    write(L"in", "# a note \x1A" + end + "HPT 10 773.15" + end);
+    EXPECT_EQ(calvex(L"run -"), 0U) << read(L"err");
+    EXPECT_EQ(read(L"out"), "HPT 10 773.15\r\n  H = 3373.998049 kJ/kg  enthalpy\r\n");
+  }
+}
+
+// A shell that is not Windows' own takes a CR for part of the last word.
+TEST_F(WindowsProgram, EndsTheLinesOfCompletionsAsTheirShellsDo) {
+  for (const wchar_t* shell : {L"bash", L"zsh", L"fish"}) {
+    EXPECT_EQ(calvex(std::wstring(L"completion ") + shell), 0U) << read(L"err");
+    EXPECT_GT(read(L"out").size(), 1000U);
+    EXPECT_EQ(read(L"out").find('\r'), std::string::npos);
+  }
+}
+
 /// A console of this process's own.
 class Console {
  public:
