@@ -23,7 +23,7 @@ export function blamed<Input extends { words: string }>(reason: string, inputs: 
     return at < 0 ? Infinity : at;
   });
   const first = Math.min(...places);
-  const compared = / (less|greater) than /.test(text) && wholes.includes(first);
+  const compared = / (less than|greater than|both) /.test(text) && wholes.includes(first);
   return first === Infinity
     ? inputs
     : inputs.filter((_, i) => places[i] === first || (compared && wholes[i]! >= 0));

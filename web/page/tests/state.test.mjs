@@ -264,6 +264,7 @@ const bad = [
   [{ P: '1,5', T: '500' }, ['P'], /decimal sign is a point/],
   [{ P: 'x', T: 'y' }, ['P', 'T'], /no number/],
   [{ P: '100', H: '9000' }, ['H'], /Enthalpy 9000 kJ\/kg is above any that water has at 100 bara/],
+  [{ H: '100', S: '9' }, ['H', 'S'], /No state within the range is found that has both/],
   [{ P: '100', Q: '1.5' }, ['Q'], /Quality parameter out of range/],
   [{ P: '1e999', T: '500' }, ['P'], /“1e999” is too large/],
   [{ P: '1e-400', T: '500' }, ['P'], /“1e-400” is too small/],
