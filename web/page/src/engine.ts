@@ -43,7 +43,7 @@ export const unitTroubles = computed(() => made.value.troubles);
 /** What the engine says to those who call members or type commands, for those who fill in fields. */
 const otherWords: readonly (readonly [RegExp, string])[] = [
   [/\(\w+SatPQ: 0 is liquid/g, '(0 is liquid'],
-  [/\(on the command line also ([^)]*)%\)/g, '(or type $1 %)'],
+  [/(([\d.e+-]+) % is \S+ as a Fraction)( \([^)]*\))?\./g, '$1 (or type $2 %).'],
 ];
 export const inFields = (text: string): string =>
   otherWords.reduce((said, [words, ours]) => said.replace(words, ours), text);
