@@ -79,6 +79,10 @@ struct Asked {
         refuses(memberOf(letter, Letter::P, Letter::T), P, T)) {
       return said();
     }
+    if (pair == direct::Pair::HS && evaluate(Letter::P, P) != 0) {
+      return {std::string(messageText(status)),
+              "No state within the range is found that has both this enthalpy and this entropy."};
+    }
     return {std::string(messageText(status)), {}};
   }
 };

@@ -80,7 +80,8 @@ TEST(DirectMembers, WhatNoMemberAnswersIsRefusedInTheWordsOfThoseThatRefuseTheSa
      "Enthalpy -1 kJ/kg is below 0 kJ/kg, the least that is accepted.");
   is(reasonOf(engine, Pair::HS, 100.0, -2.0, {Letter::P}), "Entropy parameter out of range.",
      "Entropy -2 kJ/(kg.K) is below 0 kJ/(kg.K), the least that is accepted.");
-  is(reasonOf(engine, Pair::HS, 100.0, 12.0, {Letter::P}), "Solution Error.", "");
+  is(reasonOf(engine, Pair::HS, 100.0, 12.0, {Letter::P}), "Solution Error.",
+     "No state within the range is found that has both this enthalpy and this entropy.");
   // 4300 kJ/kg at 1 MPa is steam of more than 1073 K, beyond the viscosity's range.
   is(reasonOf(engine, Pair::PH, 1.0, 4300.0, {Letter::T, Letter::M}),
      "Temperature parameter out of range (Valid range 273.15 to 1073.15 K).", "");

@@ -254,10 +254,24 @@ test('a member without its engine says so', () => {
 });
 
 test('a failure names its member once', () => {
+  const silent = new Engine();
+  silent.FunctionCallTracing = 0;
+  assert.throws(() => silent.HPT(-1, 300), /^CalvexError: HPT failed; tracing is off/);
   assert.throws(
     () => new Engine().SetCustomTraceText(-1, 'x'),
     /^CalvexError: SetCustomTraceText failed: the trace has no column/,
   );
+});
+
+test('a percentage is told as a fraction, without what commands take', () => {
+  const told = /Valid range 0\.00 to 1\.00 Fraction\)\. 5 % is 0\.05 as a Fraction\.$/;
+  for (const call of [
+    engine => engine.state({ P: 1, x: 5 }),
+    engine => engine.HSatPQ(1, 5),
+    engine => assert.fail(`Error: ${engine.HSatPQ([1], [5]) && engine.reasons()[0]}`),
+  ]) {
+    assert.throws(() => call(new Engine()), told);
+  }
 });
 
 test('a state has no property by a name of JavaScript’s own', () => {

@@ -58,7 +58,8 @@ function sameFailure(failure, answer) {
   if (answer.pSucc === 1) return false;
   const sameReason = failure.reason === answer.lastError;
   const sameMeaning = noState.test(failure.reason) && noState.test(answer.lastError);
-  return (sameReason || sameMeaning) && sameWords(failure.cause, answer.cause ?? '');
+  const cause = (answer.cause ?? '').replace(/ \(on the command line also [^)]*\)/, '');
+  return (sameReason || sameMeaning) && sameWords(failure.cause, cause);
 }
 
 /** How far apart two answers are, for their size. */

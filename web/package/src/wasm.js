@@ -35,12 +35,17 @@ export function memoryView() {
   return view;
 }
 
+/** Words of the engine for those who type commands. */
+const ofCommandLine = / \(on the command line also [^)]*\)/;
+
 /** A call that failed: `message` is the reason and, where there is one, the cause behind it. */
 export class CalvexError extends Error {
-  constructor(code, reason, cause = '', member = '') {
+  constructor(code, reason, behind = '', member = '') {
+    const cause = behind.replace(ofCommandLine, '');
     const full = cause ? `${reason} ${cause}` : reason;
-    const said = `${member} failed: `;
-    super(member && !full.startsWith(said) ? said + full : full);
+    // Some reasons name their member, "HPT failed; tracing is off".
+    const named = full.startsWith(`${member} failed`);
+    super(member && !named ? `${member} failed: ${full}` : full);
     this.name = 'CalvexError';
     this.code = code;
     this.reason = reason;

@@ -13,6 +13,8 @@ export interface Address {
   values: Readonly<Record<string, string>>;
   /** Keys that a link has more than once: of their values the last one counts. */
   twice?: readonly string[];
+  /** It came from elsewhere: what this page wrote may also have what other views read. */
+  linked?: boolean;
 }
 
 export const firstPage = 'state';
@@ -43,7 +45,11 @@ export function write({ page, item, values }: Address): string {
   return `#${path}${query && '?'}${query}`;
 }
 
-export const address = signal<Address>(read(location.hash));
+/** On the entries of the history that this page made; loading it again keeps them. */
+const ours = 'of this page';
+const here = (): Address => ({ ...read(location.hash), linked: history.state !== ours });
+
+export const address = signal<Address>(here());
 
 /** What a table has under a word of the address, which may be "constructor" as well. */
 export const own = <T>(table: Readonly<Record<string, T>>, word: string): T | undefined =>
@@ -71,7 +77,7 @@ function writeNow() {
   clearTimeout(pending);
   pending = undefined;
   const hash = write(address.peek());
-  if (hash !== location.hash) history.replaceState(null, '', hash);
+  if (hash !== location.hash) history.replaceState(history.state, '', hash);
 }
 
 /** What was typed or chosen: it replaces the entry of the history. */
@@ -90,13 +96,13 @@ export function go(next: Address) {
   if (pending !== undefined) writeNow();
   const hash = write(next);
   if (hash === write(address.peek())) return;
-  history.pushState(null, '', hash);
+  history.pushState(ours, '', hash);
   address.value = next;
 }
 
 export function followAddress() {
   addEventListener('popstate', () => {
-    address.value = read(location.hash);
+    address.value = here();
   });
   addEventListener('pagehide', () => {
     if (pending !== undefined) writeNow();

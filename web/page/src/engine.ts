@@ -3,6 +3,7 @@ import { computed } from '@preact/signals';
 import { CalvexError, Engine, convert, groups, letters, members, properties } from 'calvex/load';
 
 import { address, changed, replace } from './address.ts';
+import { blamed } from './blame.ts';
 import { apart, show, tidy } from './numbers.ts';
 
 export const keyword = (group: number): string => groups[group]!.keywords[0]!;
@@ -42,7 +43,7 @@ export const unitTroubles = computed(() => made.value.troubles);
 /** What the engine says to those who call members or type commands, for those who fill in fields. */
 const otherWords: readonly (readonly [RegExp, string])[] = [
   [/\(\w+SatPQ: 0 is liquid/g, '(0 is liquid'],
-  [/\(on the command line also ([^)]*)%\)/g, '(or type $1 %)'],
+  [/(([\d.e+-]+) % is \S+ as a Fraction)( \([^)]*\))?\./g, '$1 (or type $2 %).'],
 ];
 export const inFields = (text: string): string =>
   otherWords.reduce((said, [words, ours]) => said.replace(words, ours), text);
@@ -169,35 +170,4 @@ export function chooseUnits(units: Record<string, string>) {
 /** The model's example of an input, in the chosen unit, as one would type it. */
 export const exampleText = (group: number, model: number): string => tidy(toUser(group, model));
 
-// --- Whose fault it is ----------------------------------------------------------------------------
-
-/** The inputs that a failure speaks of first, also two that it compares; all of them where it names
- * none. */
-export function blamed<Input extends { words: string }>(reason: string, inputs: Input[]): Input[] {
-  const text = reason.toLowerCase();
-  const wholes = inputs.map(input => {
-    const words = input.words.replace(/,.*/, '').toLowerCase();
-    // "Outlet pressure 1" is said of the pressure at outlet 1 too.
-    const other = words.replace(/^(\w+) at (\w+)( \d)?$/, '$2 $1$3');
-    const either = [words, other].map(each => each.replace(/[^a-z0-9 ]/g, '.')).join('|');
-    return text.search(new RegExp(`\\b(${either})\\b`));
-  });
-  const places = inputs.map((input, i) => {
-    const words = input.words.replace(/,.*/, '').toLowerCase();
-    if (wholes[i]! >= 0) return wholes[i]!;
-    // "Pressure parameter out of range" is said of an inlet pressure too.
-    const kind =
-      /enthalpy|pressure|temperature|entropy|quality|density|volume|energy|efficiency|flow/.exec(
-        words,
-      )?.[0];
-    const at = kind ? text.indexOf(kind) : -1;
-    return at < 0 ? Infinity : at;
-  });
-  const first = Math.min(...places);
-  const compared = / (less|greater) than /.test(text) && wholes.includes(first);
-  return first === Infinity
-    ? inputs
-    : inputs.filter((_, i) => places[i] === first || (compared && wholes[i]! >= 0));
-}
-
-export { groups, members, properties, show };
+export { blamed, groups, members, properties, show };

@@ -152,6 +152,39 @@ test('a pair that does not tell the state does not lose it', async () => {
   });
 });
 
+/** Water of 100 bar and 25 °C has the enthalpy of wet steam of 25 °C, and no quality tells superheated
+ * steam. */
+for (const [given, pair, was, now] of [
+  [
+    'P=100&T=25',
+    'TH',
+    /It was compressed liquid at 100 bara and 25 °C, density 100\d\.\d+ kg/,
+    /^Wet/,
+  ],
+  ['P=100&T=500', 'PQ', /It was superheated vapour at 100 bara and 500 °C/, /^Saturated vapour/],
+]) {
+  test(`another pair that shows another state tells so: ${given} by ${pair}`, async () => {
+    await onPage(`#state?${given}&${units}`, async page => {
+      const before = await valuesOf(page);
+      const notice = page.locator('.inputs .warning');
+      await page.selectOption('#pair', pair);
+      await page.waitForSelector(`[data-key=${pair[1]}]`);
+      assert.equal(await notice.count(), 1);
+      assert.match(await notice.innerText(), was);
+      assert.match(await textOf(page, '.results h2'), now);
+      // One that has the state shows it again, and what is typed is a new one.
+      await page.selectOption('#pair', 'PS');
+      await page.waitForSelector('[data-key=S]');
+      assert.equal(await notice.count(), 0);
+      near((await valuesOf(page)).R, before.R, 1e-7, 'density');
+      await page.selectOption('#pair', pair);
+      await notice.waitFor();
+      await page.locator(`[data-key=${pair[1]}]`).fill('0.5');
+      await notice.waitFor({ state: 'detached' });
+    });
+  });
+}
+
 /** The regions by the critical point, 647.126 K and 22.055 MPa, and the words of the command line. */
 const phases = [
   ['P=100&T=500', /^Superheated vapour$/],
@@ -231,6 +264,7 @@ const bad = [
   [{ P: '1,5', T: '500' }, ['P'], /decimal sign is a point/],
   [{ P: 'x', T: 'y' }, ['P', 'T'], /no number/],
   [{ P: '100', H: '9000' }, ['H'], /Enthalpy 9000 kJ\/kg is above any that water has at 100 bara/],
+  [{ H: '100', S: '9' }, ['H', 'S'], /No state within the range is found that has both/],
   [{ P: '100', Q: '1.5' }, ['Q'], /Quality parameter out of range/],
   [{ P: '1e999', T: '500' }, ['P'], /“1e999” is too large/],
   [{ P: '1e-400', T: '500' }, ['P'], /“1e-400” is too small/],

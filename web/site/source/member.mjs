@@ -2,6 +2,7 @@
 import * as calvex from 'calvex/load';
 
 import { commandLine } from '../../page/src/equipment/snippets.ts';
+import { blamed } from '../../page/src/blame.ts';
 import { apart } from '../../page/src/numbers.ts';
 import { runExample, shown } from './example.mjs';
 
@@ -45,10 +46,9 @@ async function run() {
   const member = calvex.findMember(form.dataset.member);
   const given = fields.map(read);
   const wrong = given.findIndex(({ trouble }) => trouble !== undefined);
-  for (const [i, field] of fields.entries()) field.toggleAttribute('aria-invalid', i === wrong);
+  mark(fields.filter((_, i) => i === wrong));
   if (wrong >= 0) {
     fail(given[wrong].trouble);
-    fields[wrong].focus();
     return;
   }
   const inputs = given.map(({ value }) => value);
@@ -59,7 +59,13 @@ async function run() {
     command.textContent = commandLine(member, inputs, unitOf);
   }
   if (failure) {
-    fail([failure.reason, failure.cause].filter(Boolean).join(' '));
+    const reason = [failure.reason, failure.cause].filter(Boolean).join(' ');
+    fail(reason);
+    const guilty = blamed(reason, member.inputs);
+    // One that names no input is of all of them.
+    if (guilty.length < fields.length || fields.length === 1) {
+      mark(fields.filter((_, i) => guilty.includes(member.inputs[i])));
+    }
     return;
   }
   results.forEach((result, i) => {
@@ -74,6 +80,12 @@ async function run() {
       .join(', ') || 'Done.',
     ...warnings.map(({ text }) => `Warning: ${text}`),
   ].join(' ');
+}
+
+/** Marks the fields that are wrong, and leads to the first of them. */
+function mark(wrong) {
+  for (const field of fields) field.toggleAttribute('aria-invalid', wrong.includes(field));
+  wrong[0]?.focus();
 }
 
 function fail(reason) {

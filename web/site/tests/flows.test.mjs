@@ -105,6 +105,26 @@ onPage('What is no number is told beside its field', 'members/HPT.html', async p
   assert.ok(!(await P.evaluate(field => field.hasAttribute('aria-invalid'))));
 });
 
+onPage('What the engine refuses is told beside its field', 'members/HPT.html', async page => {
+  const typed = name => page.getByLabel(name, { exact: true });
+  const isInvalid = field => field.hasAttribute('aria-invalid');
+  for (const [wrong, right, value, reason] of [
+    ['P', 'T', '0', / Pressure must be above 0 MPa\.$/],
+    ['T', 'P', '5000', /^Temperature parameter out of range/],
+  ]) {
+    const before = await typed(wrong).inputValue();
+    await typed(wrong).fill(value);
+    await run(page);
+    assert.match(await outcome(page), reason);
+    assert.ok(await typed(wrong).evaluate(isInvalid));
+    assert.ok(await typed(wrong).evaluate(field => field === document.activeElement));
+    assert.ok(!(await typed(right).evaluate(isInvalid)));
+    await typed(wrong).fill(before);
+    await run(page);
+    assert.equal(await page.locator('[aria-invalid]').count(), 0);
+  }
+});
+
 onPage(
   'A unit may stand behind a number, and the command line follows',
   'members/HPT.html',

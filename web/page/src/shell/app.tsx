@@ -2,7 +2,7 @@
 import { version } from 'calvex/load';
 import { useEffect, useErrorBoundary, useLayoutEffect, useRef, useState } from 'preact/hooks';
 
-import { address, firstPage, go, linkTo, read, replace } from '../address.ts';
+import { address, firstPage, go, linkTo, read, replace, write } from '../address.ts';
 import { DiagramView } from '../diagram/view.tsx';
 import { reasonOf } from '../engine.ts';
 import { EquipmentView } from '../equipment/view.tsx';
@@ -11,7 +11,7 @@ import { StateView } from '../state/view.tsx';
 import { TablesView } from '../tables/view.tsx';
 import { UnitsView } from '../units/view.tsx';
 import { useKeys, KeysDialog } from './keys.tsx';
-import { unknowns } from './notices.ts';
+import { isRead, unknowns } from './notices.ts';
 import { nextTheme, theme } from './theme.ts';
 
 export const views: readonly { page: string; title: string; View: preact.ComponentType }[] = [
@@ -73,7 +73,9 @@ export function App() {
     return () => document.removeEventListener('click', follow);
   }, []);
   const share = async () => {
-    const here = `${location.href.replace(/#.*/, '')}${linkTo(address.value.page, address.value.item)}`;
+    const used = Object.entries(address.value.values).filter(([key]) => isRead(key));
+    const link = write({ ...address.value, values: Object.fromEntries(used) });
+    const here = `${location.href.replace(/#.*/, '')}${link}`;
     setCopied(await copy(here));
     setTimeout(() => setCopied(false), 2500);
   };

@@ -2,30 +2,39 @@
 import { findMember } from 'calvex/load';
 import { computed } from '@preact/signals';
 
-import { address, own, value } from '../address.ts';
+import { address, firstPage, own, value } from '../address.ts';
 import { viewNow } from '../diagram/diagram.tsx';
 import { wholeView } from '../diagram/drawing.ts';
 import { familyWords, kinds as diagrams } from '../diagram/kinds.ts';
 import { groups, unitTroubles } from '../engine.ts';
 import { keyOf, model } from '../equipment/model.ts';
 import { lettersOf, pair } from '../state/inputs.ts';
-import { kinds as tables } from '../tables/view.tsx';
+import { tableKeys, kinds as tables } from '../tables/view.tsx';
 
-const views = ['state', 'diagram', 'equipment', 'tables', 'units'];
-const keys = ['zoom', 'without', 'kind', 'table', 'at', 'from', 'to', 'step', 'trace', 'quantity'];
-const known = new Set([...keys, 'amount']);
+/** The keys of the address that each view reads, beside the units. */
+const readers: Readonly<Record<string, (key: string) => boolean>> = {
+  state: key => ['kind', 'without', 'trace'].includes(key) || isLetter(key),
+  diagram: key => ['kind', 'zoom', 'without'].includes(key) || isLetter(key),
+  equipment: key => key === 'without' || model.value.inputs.some(info => keyOf(info) === key),
+  tables: key => tableKeys().includes(key),
+  units: key => ['quantity', 'amount'].includes(key),
+};
+const isLetter = (key: string): boolean => lettersOf([key]).length > 0;
 
-const isKnown = (key: string): boolean =>
-  known.has(key) ||
-  /^u\./.test(key) ||
-  lettersOf([key]).length > 0 ||
-  (key.startsWith('in.') &&
-    (address.value.page !== 'equipment' || model.value.inputs.some(info => keyOf(info) === key)));
+/** Whether what is seen depends on a key of the address. */
+export const isRead = (key: string): boolean =>
+  key.startsWith('u.') || (own(readers, address.value.page) ?? readers[firstPage]!)(key);
+
+/** Whether another view, or this one with another table, reads it. */
+const isReadElsewhere = (key: string): boolean =>
+  ['from', 'to', 'step', 'at'].includes(key) ||
+  (key.startsWith('in.') && address.value.page !== 'equipment') ||
+  Object.values(readers).some(reads => reads(key));
 
 export const unknowns = computed<string[]>(() => {
-  const { page, item, values, twice = [] } = address.value;
+  const { page, item, values, twice = [], linked } = address.value;
   const words: string[] = [];
-  if (!views.includes(page)) words.push(`the view “${page}”`);
+  if (!own(readers, page)) words.push(`the view “${page}”`);
   if (item && ['state', 'tables', 'units'].includes(page)) words.push(`“${item}”`);
   if (page === 'diagram' && item && !own(diagrams, item)) words.push(`the diagram “${item}”`);
   if (page === 'equipment' && item && findMember(item) !== model.value) {
@@ -46,16 +55,20 @@ export const unknowns = computed<string[]>(() => {
   if (quantity && !groups.some(group => group.keywords[0] === quantity)) {
     words.push(`the quantity “${quantity}”`);
   }
-  const letters = lettersOf(Object.keys(values));
-  if (letters.some(letter => !pair.value.includes(letter))) {
-    words.push(`the inputs ${letters.join(', ')}, which are no pair that gives a state`);
+  const letters = lettersOf(Object.keys(values)).filter(key => !pair.value.includes(key));
+  if (letters.length > 0 && isRead(letters[0]!)) {
+    const [first, second] = pair.value;
+    words.push(
+      `the ${letters.length > 1 ? 'inputs' : 'input'} ${letters.join(', ')} (a pair gives a state, here ${first} and ${second})`,
+    );
   }
-  words.push(
-    ...Object.keys(values)
-      .filter(key => !isKnown(key))
-      .map(key => `“${key}”`),
-  );
+  const unread = Object.keys(values).filter(key => !isRead(key));
+  const elsewhere = unread.filter(isReadElsewhere);
+  words.push(...unread.filter(key => !elsewhere.includes(key)).map(key => `“${key}”`));
+  if (linked && elsewhere.length > 0) {
+    words.push(`${elsewhere.map(key => `“${key}”`).join(', ')} (not used here)`);
+  }
   words.push(...twice.map(key => `all but the last “${key}”`));
-  const notice = `Not understood in the address, and left out: ${words.join('; ')}.`;
+  const notice = `Left out of what the address asks for: ${words.join('; ')}.`;
   return [...unitTroubles.value, ...(words.length > 0 ? [notice] : [])];
 });

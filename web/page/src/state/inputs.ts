@@ -1,6 +1,6 @@
 // The pair of inputs of the state that is looked at, which the address keeps for all views.
 import { CalvexError, pairs, type State } from 'calvex/load';
-import { computed } from '@preact/signals';
+import { computed, signal } from '@preact/signals';
 
 import { address, replace, changed } from '../address.ts';
 import {
@@ -87,15 +87,31 @@ export const answer = computed<Answer>(() => {
   }
 });
 
+const textsNow = () =>
+  JSON.stringify(Object.fromEntries(inputs.value.map(({ letter, text }) => [letter, text])));
+
 /** The state that another pair was chosen for, until something else is typed or chosen: a pair that
  * does not tell it, pressure and temperature of wet steam, does not lose it. */
-let left: { state: State; texts: string; units: unknown } | undefined;
+const left = signal<{ state: State; texts: string; units: unknown } | undefined>(undefined);
+const kept = computed<State | undefined>(() =>
+  left.value?.texts === textsNow() && left.value.units === steam.value
+    ? left.value.state
+    : undefined,
+);
+
+/** The state that was there before another pair was chosen, where that pair shows another one: two
+ * states have a temperature and enthalpy in common, and no quality tells superheated vapour. */
+export const lost = computed<State | undefined>(() => {
+  const [before, now] = [kept.value, answer.value.state];
+  // The inputs are written with ten digits: what rounds off with them is the same state.
+  const same = before && now && Math.abs(now.rho / before.rho - 1) < 1e-6;
+  return now && !same ? before : undefined;
+});
 
 /** Another pair: what the state is now, in other properties; one that both have stays as typed. */
 export function choosePair(next: string) {
   const typed = Object.fromEntries(inputs.value.map(({ letter, text }) => [letter, text]));
-  const untouched = left?.texts === JSON.stringify(typed) && left.units === steam.value;
-  const state = answer.value.state ?? (untouched ? left!.state : undefined);
+  const state = kept.value ?? answer.value.state;
   const texts = Object.fromEntries(
     next.split('').map(letter => {
       const known = state?.get(propertyOf(letter).name) ?? NaN;
@@ -103,7 +119,7 @@ export function choosePair(next: string) {
       return [letter, typed[letter] ?? text];
     }),
   );
-  left = state && { state, texts: JSON.stringify(texts), units: steam.value };
+  left.value = state && { state, texts: JSON.stringify(texts), units: steam.value };
   replace(withInputs(texts));
 }
 

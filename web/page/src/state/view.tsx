@@ -1,13 +1,13 @@
 // One state: any pair of inputs, all properties at once.
-import { pairs } from 'calvex/load';
+import { pairs, type State } from 'calvex/load';
 
 import { linkTo } from '../address.ts';
-import { capital, letterRow } from '../engine.ts';
+import { capital, letterRow, pretty, show } from '../engine.ts';
 import { Field } from '../field.tsx';
 import { Diagram } from '../diagram/diagram.tsx';
 import { Announce } from '../shell/announce.tsx';
 import { useLater } from '../shell/later.ts';
-import { answer, choosePair, inputs, pair } from './inputs.ts';
+import { answer, choosePair, inputs, lost, pair } from './inputs.ts';
 import { phaseText, Properties, Saturation } from './properties.tsx';
 import { Trace } from './trace.tsx';
 
@@ -17,8 +17,22 @@ const pairWords = (letters: string) =>
     .map(letter => letterRow(letter).words)
     .join(' and ');
 
+/** What it was before the pair was chosen. */
+function lostText(was: State): string {
+  const [pressure, temperature, density] = ['P', 'T', 'rho'].map(
+    name => `${show(was.get(name), 7)} ${pretty(was.unit(name))}`,
+  );
+  const phase = phaseText(was);
+  return (
+    `It was ${phase.charAt(0).toLowerCase()}${phase.slice(1)} at ${pressure} and ${temperature}, ` +
+    `density ${density}. ${capital(pairWords(pair.value))} do not tell it: the state shown now is ` +
+    'another. Another pair gives it back, until something else is typed or chosen.'
+  );
+}
+
 export function StateView() {
   const { state, troubles } = answer.value;
+  const was = lost.value && lostText(lost.value);
   const later = useLater();
   return (
     <div class="state">
@@ -40,6 +54,7 @@ export function StateView() {
               </option>
             ))}
           </select>
+          {was && <p class="warning">{was}</p>}
         </div>
         {inputs.value.map(input => (
           <Field
@@ -57,7 +72,11 @@ export function StateView() {
           />
         ))}
         <p class="quiet">A unit may stand behind a number: 100 bar, 500 °C.</p>
-        <Announce text={state ? phaseText(state) : Object.values(troubles)[0]!} />
+        <Announce
+          text={
+            state ? [phaseText(state), was].filter(Boolean).join('. ') : Object.values(troubles)[0]!
+          }
+        />
       </form>
       <div class="results">
         {state ? (

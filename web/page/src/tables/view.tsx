@@ -71,6 +71,9 @@ const wanted = computed<Wanted[]>(() => {
   ];
 });
 
+/** The keys of the address that the table is made of. */
+export const tableKeys = (): string[] => ['table', ...wanted.value.map(({ key }) => key)];
+
 holders.push(() => Object.fromEntries(wanted.value.map(field => [field.key, field])));
 
 interface Made {
