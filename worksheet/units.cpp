@@ -61,6 +61,9 @@ Units unitsOf(std::span<const Grid> words) {
   Units units;
   for (std::size_t i = 0; i < count; i += 2) {
     const Cell group = given(i), unit = given(i + 1);
+    if (words[i].cells.size() > 1 || (i + 1 < count && words[i + 1].cells.size() > 1)) {
+      throw calvex::Error(CALVEX_VALUE, "a quantity and a unit are single texts, no ranges");
+    }
     if (!std::holds_alternative<std::string>(group) || !std::holds_alternative<std::string>(unit)) {
       throw calvex::Error(CALVEX_VALUE, "the texts come in pairs: a quantity, then its unit");
     }

@@ -147,8 +147,8 @@ std::string reasonOfConversion(calvex_engine* engine, std::span<const Any* const
   return worksheet::reasonOfConversion(engine, gridsOf(arguments), place, wording);
 }
 
-Any unitName(calvex_engine* engine, const Any& quantity) {
-  return anyOf(worksheet::unitName(engine, gridOf(quantity)));
+Any unitNames(calvex_engine* engine, const Any& quantities) {
+  return anyOf(worksheet::unitNames(engine, gridOf(quantities)));
 }
 
 Grid gridOf(const Any& value) {

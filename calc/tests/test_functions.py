@@ -89,6 +89,18 @@ def test_a_result_can_be_named(sheet):
     assert sheet.array("B1:E1", "=TurbineA(3374;10;1;0.8;5)") == ((power, T, h, x),)
 
 
+def test_names_in_several_cells_give_a_result_each(sheet):
+    power, T, h, x = answers("TurbineA", "3374 10 1 0.8 5".split())
+    call = "=TurbineA(3374;10;1;0.8;5;A1:{})"
+    for name, word in {"A1": "TOut", "A2": "Power", "B1": "Power"}.items():
+        sheet[name].String = word
+    assert sheet.array("D1:E1", call.format("B1")) == ((T, power),)
+    assert sheet.array("D3:D4", call.format("A2")) == ((T,), (power,))
+    sheet["A1"].String = "T"
+    assert sheet.array("D6:E6", "=CALVEX.UNIT(A1:B1)")[0][0] == "K"
+    assert sheet.error("E6") == VALUE
+
+
 def test_results_stand_beside_columns_and_below_rows(sheet):
     expected = [answers("QT_PH", ["1", h]) for h in ("1770", "2500")]
     sheet["A1:A2"].DataArray = ((1770.0,), (2500.0,))

@@ -111,6 +111,26 @@ TEST_F(ExcelUnits, WrongChoicesAreErrorsWithReasons) {
   EXPECT_NE(why(one).find("name of a quantity"), std::string::npos) << why(one);
 }
 
+TEST_F(ExcelUnits, OfSeveralQuantitiesEachHasItsUnit) {
+  Grid quantities(3, 1);
+  quantities.cells = {std::string("T"), std::string("weather"), std::string("H")};
+  const Grid units = host.calculate(one, L"CALVEX.UNIT", {quantities}, 3, 1);
+  ASSERT_EQ(units.rows, 3U);
+  EXPECT_EQ(textOf(units, 0), "K");
+  EXPECT_EQ(errorOf(units, 1), xlerrValue);
+  EXPECT_EQ(textOf(units, 2), "kJ/kg");
+  const Address second{one.sheet, one.row + 1, one.column};
+  EXPECT_NE(why(second).find("name of a quantity"), std::string::npos) << why(second);
+}
+
+TEST_F(ExcelUnits, ARangeIsNoChoice) {
+  Grid quantities(1, 2), units(1, 2);
+  quantities.cells = {std::string("T"), std::string("P")};
+  units.cells = {std::string("C"), std::string("bar")};
+  EXPECT_EQ(errorOf(host.calculate(one, L"CALVEX.UNITS", {quantities, units})), xlerrValue);
+  EXPECT_NE(why(one).find("single texts, no ranges"), std::string::npos) << why(one);
+}
+
 TEST_F(ExcelUnits, ValuesAreConverted) {
   const auto converted = [&](const Given& value) {
     return host.calculate(one, L"CALVEX.CONVERT", {word("P"), word("psia"), word("bara"), value});
