@@ -305,13 +305,23 @@ std::string reason(calvex_engine* engine, const Signature& signature,
   if (call(engine, signature, inputs, chosen.outputs, outputs) != CALVEX_OK) {
     return signature.name + ": " + lastFailure(engine);
   }
-  if (signature.hasTokens) return {};
-  for (const std::size_t output : chosen.outputs) {
-    if (std::isinf(outputs[output])) {
-      return signature.name + ": " + signature.outputs[output].name + " is infinite here";
+  std::string infinite, verb = " is";
+  for (std::size_t i = 0; i < chosen.outputs.size(); ++i) {
+    const std::size_t output = chosen.outputs[i];
+    double number = 0.0;
+    if (signature.hasTokens) {
+      calvex_answer_number(engine, i, 1, &number);
+    } else {
+      number = outputs[output];
     }
+    if (!std::isinf(number)) continue;
+    if (!infinite.empty()) {
+      infinite += ", ";
+      verb = " are";
+    }
+    infinite += signature.outputs[output].name;
   }
-  return {};
+  return infinite.empty() ? infinite : signature.name + ": " + infinite + verb + " infinite here";
 }
 
 namespace {

@@ -127,7 +127,7 @@ Any calculate(calvex_engine* engine, const Signature& signature,
       if (std::isnan(inputs[i])) return Any(inputs[i]);
     }
     const int code = calvex_call(engine, signature.member, inputs, count, &output, 1);
-    if (code != CALVEX_OK) return Any(errorValue(CellError::number));
+    if (code != CALVEX_OK || std::isinf(output)) return Any(errorValue(CellError::number));
     return Any(std::isnan(output) ? errorValue(CellError::notAvailable) : output);
   }
   return anyOf(worksheet::calculate(engine, signature, gridsOf(arguments)));

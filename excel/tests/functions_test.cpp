@@ -269,6 +269,30 @@ TEST_F(ExcelFunctions, AnInfiniteResultIsAnError) {
   EXPECT_EQ(why(other), "TurbineB: MIn is infinite here");
 }
 
+TEST_F(ExcelFunctions, OfSeveralResultsTheInfiniteOnesAreErrors) {
+  const std::vector<Given> turbine{3374.0, 10.0, 10.0, 0.8, 5000.0};
+  const std::vector<Given> cooler{2852.0, 2852.0, 1.0, 500.0, 1.3};  // as hot as its water
+  const auto cells = [&](const wchar_t* name, std::vector<Given> inputs, const char* tokens,
+                         std::size_t width, std::vector<int> errors, const char* reason) {
+    if (*tokens != '\0') inputs.emplace_back(Cell(std::string(tokens)));
+    const Grid got = host.calculate(home, name, inputs, 4, 4);
+    ASSERT_EQ(got.cells.size(), errors.size() * width) << name;
+    for (std::size_t i = 0; i < errors.size(); ++i) {
+      const std::size_t row = width == 1 ? 0 : i, column = width == 1 ? i : 1;
+      EXPECT_EQ(errorOf(got, row, column), errors[i]) << name << ' ' << i;
+      const Address cell{home.sheet, static_cast<int>(row), static_cast<int>(column)};
+      EXPECT_EQ(why(cell), errors[i] == -1 ? "" : reason);
+    }
+  };
+  cells(L"TurbineB", turbine, "", 1, {xlerrNA, -1, -1, -1}, "TurbineB: MIn is infinite here");
+  cells(L"DeSuperHeaterB", cooler, "", 1, {-1, xlerrNA, xlerrNA},
+        "DeSuperHeaterB: Mw, Ms are infinite here");
+  cells(L"XLTurbineB", turbine, "T_Out M_In", 3, {-1, xlerrNA},
+        "XLTurbineB: M_In is infinite here");
+  cells(L"XLDeSuperHeaterB", cooler, "M_Water", 3, {xlerrNA},
+        "XLDeSuperHeaterB: M_Water is infinite here");
+}
+
 TEST_F(ExcelFunctions, OneBadRowDoesNotSpoilTheColumn) {
   Grid pressures(5, 1);
   pressures.cells = {10.0, -1.0, std::string("text"), Blank{}, 10.0};
