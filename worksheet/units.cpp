@@ -14,7 +14,11 @@ void add(Units& units, std::string_view group, std::string_view unit) {
   engine.unit(group, unit);
   int number = 0;
   calvex_find_group(group.data(), group.size(), &number);
-  units.insert_or_assign(number, engine.unit(group));
+  const auto [known, isNew] = units.try_emplace(number, engine.unit(group));
+  if (!isNew && known->second != engine.unit(group)) {
+    throw calvex::Error(CALVEX_VALUE, keywordOf(number) + " is " + known->second + " and " +
+                                          engine.unit(group) + ": give it one unit");
+  }
 }
 
 }  // namespace

@@ -101,6 +101,19 @@ TEST_F(ExcelUnits, UnitsThatCannotBeReadAreNotThoseOfTheModel) {
   EXPECT_NEAR(numberOf(host.calculate(one, L"HPT", {P, kelvin})), h, 1e-8);
 }
 
+TEST_F(ExcelUnits, TwoUnitsOfOneQuantityContradictEachOther) {
+  constexpr char reason[] = "T is C and K: give it one unit";
+  host.unitNames[L"Book1.xlsx"] = std::wstring(L"T=C; temperature=K");
+  EXPECT_EQ(errorOf(host.calculate(one, L"HPT", {P, kelvin})), xlerrValue);
+  EXPECT_NE(why(one).find(reason), std::string::npos) << why(one);
+  EXPECT_EQ(
+      errorOf(host.calculate(one, L"CALVEX.UNITS", {word("T"), word("C"), word("T"), word("K")})),
+      xlerrValue);
+  EXPECT_NE(why(one).find(reason), std::string::npos) << why(one);
+  host.unitNames[L"Book1.xlsx"] = std::wstring(L"T=C; P=bara; temperature=°C");  // twice the same
+  EXPECT_NEAR(numberOf(host.calculate(one, L"HPT", {32.776, celsius})), h, 1e-6);
+}
+
 TEST_F(ExcelUnits, WrongChoicesAreErrorsWithReasons) {
   EXPECT_EQ(errorOf(host.calculate(one, L"CALVEX.UNITS", {word("T")})), xlerrValue);
   EXPECT_NE(why(one).find("pairs"), std::string::npos) << why(one);
