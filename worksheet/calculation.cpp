@@ -4,6 +4,7 @@
 #include <array>
 #include <calvex/calvex.hpp>
 #include <cmath>
+#include <numeric>
 #include <optional>
 
 #include "worksheet/texts.h"
@@ -55,18 +56,51 @@ Cell inputAt(std::span<const Grid> arguments, std::size_t input, Place place) {
   return input < arguments.size() ? arguments[input].element(place) : Cell();
 }
 
-// The outputs that are wanted; nothing where the last argument names none of them.
-std::optional<std::vector<std::size_t>> wanted(const Signature& signature,
-                                               std::span<const Grid> arguments) {
-  std::vector<std::size_t> outputs(signature.outputs.size());
-  for (std::size_t i = 0; i < outputs.size(); ++i) outputs[i] = i;
-  const Cell choice = inputAt(arguments, signature.inputs.size(), {});
-  if (!signature.hasChoice() || std::holds_alternative<LeftOut>(choice)) return outputs;
-  const std::string* const names = std::get_if<std::string>(&choice);
-  if (names == nullptr) return std::nullopt;
-  outputs = signature.chosen(*names);
-  if (outputs.empty() || (!signature.hasTokens && outputs.size() > 1)) return std::nullopt;
-  return outputs;
+// The outputs that are wanted, or why what the last argument has names none.
+struct Wanted {
+  std::vector<std::size_t> outputs;
+  Place names{1, 1};  ///< how many cells have their names
+  std::string fault;
+};
+
+Wanted wanted(const Signature& signature, std::span<const Grid> arguments) {
+  Wanted found;
+  const std::size_t place = signature.inputs.size();
+  if (!signature.hasChoice() || arguments.size() <= place || arguments[place] == Grid()) {
+    found.outputs.resize(signature.outputs.size());
+    std::iota(found.outputs.begin(), found.outputs.end(), std::size_t{0});
+    return found;
+  }
+  found.names = {arguments[place].rows, arguments[place].columns};
+  for (const Cell& choice : arguments[place].cells) {
+    const std::string* const name = std::get_if<std::string>(&choice);
+    if (name == nullptr) {
+      found.fault = "the last argument is no text that names a result";
+      break;
+    }
+    const auto outputs = signature.chosen(*name);
+    if (outputs.empty() || (!signature.hasTokens && outputs.size() > 1)) {
+      found.fault = '"' + *name + "\" names no result";
+      break;
+    }
+    found.outputs.insert(found.outputs.end(), outputs.begin(), outputs.end());
+  }
+  return found;
+}
+
+// Why several results of that many inputs have no place; empty where they have one.
+std::string_view misplacementOf(const Wanted& wanted, Place extent) {
+  if (wanted.outputs.size() == 1 || extent == Place{1, 1}) return {};
+  if (extent.row > 1 && extent.column > 1) {
+    return "several results of a table of inputs have no place: name one of them";
+  }
+  if (extent.row > 1 && wanted.names.row > 1) {
+    return "with a column of inputs the names of results stand in a row";
+  }
+  if (extent.column > 1 && wanted.names.column > 1) {
+    return "with a row of inputs the names of results stand in a column";
+  }
+  return {};
 }
 
 // Calls the member once; on success `outputs` has all of its numbers.
@@ -157,7 +191,8 @@ std::variant<std::vector<double>, Error> numbersAt(const Signature& signature,
 }
 
 Grid one(calvex_engine* engine, const Signature& signature, std::span<const Grid> arguments,
-         std::span<const std::size_t> chosen) {
+         const Wanted& wanted) {
+  const std::vector<std::size_t>& chosen = wanted.outputs;
   const auto inputs = numbersAt(signature, arguments, {});
   if (const Error* error = std::get_if<Error>(&inputs)) return Cell(*error);
   std::vector<double> outputs;
@@ -165,9 +200,11 @@ Grid one(calvex_engine* engine, const Signature& signature, std::span<const Grid
     return Cell(Error{ErrorKind::noAnswer});
   }
   if (signature.hasTokens) return labelled(engine);
-  Grid row(1, chosen.size());
-  for (std::size_t k = 0; k < chosen.size(); ++k) row.at({0, k}) = orNothing(outputs[chosen[k]]);
-  return row;
+  Grid answer(1, chosen.size());
+  if (wanted.names != Place{1, 1}) answer = Grid(wanted.names.row, wanted.names.column);
+  std::ranges::transform(chosen, answer.cells.begin(),
+                         [&](std::size_t output) { return orNothing(outputs[output]); });
+  return answer;
 }
 
 // Many at once, by columns of those elements that have all of their inputs.
@@ -175,7 +212,6 @@ Grid many(calvex_engine* engine, const Signature& signature, std::span<const Gri
           Place extent, std::span<const std::size_t> chosen) {
   const std::size_t results = chosen.size();
   const bool beside = extent.column == 1;  // several results stand beside, or below, their inputs
-  if (results > 1 && !beside && extent.row != 1) return Cell(Error{ErrorKind::value});
   const bool turned = results > 1 && !beside;
   Grid answer(turned ? results : extent.row, beside ? results : extent.column);
   const auto cellOf = [&](std::size_t element, std::size_t k) -> Cell& {
@@ -230,11 +266,13 @@ Grid many(calvex_engine* engine, const Signature& signature, std::span<const Gri
 }  // namespace
 
 Grid calculate(calvex_engine* engine, const Signature& signature, std::span<const Grid> arguments) {
-  const auto chosen = wanted(signature, arguments);
-  if (!chosen) return Cell(Error{ErrorKind::value});
+  const Wanted chosen = wanted(signature, arguments);
   const Place extent = extentOf(arguments, signature.inputs.size());
-  return extent.row * extent.column == 1 ? one(engine, signature, arguments, *chosen)
-                                         : many(engine, signature, arguments, extent, *chosen);
+  if (!chosen.fault.empty() || !misplacementOf(chosen, extent).empty()) {
+    return Cell(Error{ErrorKind::value});
+  }
+  return extent == Place{1, 1} ? one(engine, signature, arguments, chosen)
+                               : many(engine, signature, arguments, extent, chosen.outputs);
 }
 
 Place sourceOf(const Signature& signature, std::span<const Grid> arguments, Place result) {
@@ -260,27 +298,30 @@ std::string reason(calvex_engine* engine, const Signature& signature,
     return fault(std::to_string(arguments.size()) + " inputs are given, not " +
                  std::to_string(most));
   }
-  const auto chosen = wanted(signature, arguments);
-  if (!chosen) {
-    const Cell choice = inputAt(arguments, count, {});
-    const auto* const name = std::get_if<std::string>(&choice);
-    return fault(name != nullptr ? '"' + *name + "\" names no result"
-                                 : "the last argument is no text that names a result");
-  }
-  const Place extent = extentOf(arguments, count);
-  if (chosen->size() > 1 && extent.row > 1 && extent.column > 1) {
-    return fault("several results of a table of inputs have no place: name one of them");
-  }
-  if (call(engine, signature, inputs, *chosen, outputs) != CALVEX_OK) {
+  const Wanted chosen = wanted(signature, arguments);
+  if (!chosen.fault.empty()) return fault(chosen.fault);
+  const std::string_view misplacement = misplacementOf(chosen, extentOf(arguments, count));
+  if (!misplacement.empty()) return fault(std::string(misplacement));
+  if (call(engine, signature, inputs, chosen.outputs, outputs) != CALVEX_OK) {
     return signature.name + ": " + lastFailure(engine);
   }
-  if (signature.hasTokens) return {};
-  for (const std::size_t output : *chosen) {
-    if (std::isinf(outputs[output])) {
-      return signature.name + ": " + signature.outputs[output].name + " is infinite here";
+  std::string infinite, verb = " is";
+  for (std::size_t i = 0; i < chosen.outputs.size(); ++i) {
+    const std::size_t output = chosen.outputs[i];
+    double number = 0.0;
+    if (signature.hasTokens) {
+      calvex_answer_number(engine, i, 1, &number);
+    } else {
+      number = outputs[output];
     }
+    if (!std::isinf(number)) continue;
+    if (!infinite.empty()) {
+      infinite += ", ";
+      verb = " are";
+    }
+    infinite += signature.outputs[output].name;
   }
-  return {};
+  return infinite.empty() ? infinite : signature.name + ": " + infinite + verb + " infinite here";
 }
 
 namespace {
@@ -370,16 +411,21 @@ std::string reasonOfConversion(calvex_engine* engine, std::span<const Grid> argu
   return fault;
 }
 
-Cell unitName(calvex_engine* engine, const Grid& quantity) {
-  const Cell word = quantity.element({});
-  const std::string* const text = std::get_if<std::string>(&word);
-  int group = 0;
-  if (text == nullptr || calvex_find_group(text->data(), text->size(), &group) != CALVEX_OK) {
-    return Error{ErrorKind::value};
+Grid unitNames(calvex_engine* engine, const Grid& quantities) {
+  Grid names = quantities;
+  for (Cell& cell : names.cells) {
+    if (std::holds_alternative<Error>(cell)) continue;
+    const std::string* const word = std::get_if<std::string>(&cell);
+    int group = 0;
+    if (word == nullptr || calvex_find_group(word->data(), word->size(), &group) != CALVEX_OK) {
+      cell = Error{ErrorKind::value};
+      continue;
+    }
+    cell = textOf([&](char* name, std::size_t capacity, std::size_t* needed) {
+      calvex_unit(engine, group, name, capacity, needed);
+    });
   }
-  return textOf([&](char* name, std::size_t capacity, std::size_t* needed) {
-    calvex_unit(engine, group, name, capacity, needed);
-  });
+  return names;
 }
 
 }  // namespace calvex::worksheet

@@ -20,9 +20,10 @@ struct Wording {
 };
 
 /// Computes a member: with numbers a number, with ranges an array of their shape, by the direct
-/// road where it can; of a member with several results the one that the last argument names, or all
-/// of them beside each other, below each other where the inputs are a row. What has no answer is an
-/// error; in an array it leaves its neighbours alone.
+/// road where it can; of a member with several results those that the last argument names, or all
+/// of them beside each other, below each other where the inputs are a row. Names in several cells
+/// give results that stand as they do. What has no answer is an error; in an array it leaves its
+/// neighbours alone.
 [[nodiscard]] Grid calculate(calvex_engine* engine, const Signature& signature,
                              std::span<const Grid> arguments);
 
@@ -40,8 +41,8 @@ struct Wording {
 [[nodiscard]] std::string reasonOfConversion(calvex_engine* engine, std::span<const Grid> arguments,
                                              Place place, const Wording& wording);
 
-/// The engine's unit of a quantity in plain words; an error for an unknown one.
-[[nodiscard]] Cell unitName(calvex_engine* engine, const Grid& quantity);
+/// The engine's units of quantities in plain words; an error for an unknown one.
+[[nodiscard]] Grid unitNames(calvex_engine* engine, const Grid& quantities);
 
 /// Of a call's result the place in the inputs that an element comes from: results of one row or
 /// column of inputs may stand beside each other.

@@ -14,7 +14,11 @@ void add(Units& units, std::string_view group, std::string_view unit) {
   engine.unit(group, unit);
   int number = 0;
   calvex_find_group(group.data(), group.size(), &number);
-  units.insert_or_assign(number, engine.unit(group));
+  const auto [known, isNew] = units.try_emplace(number, engine.unit(group));
+  if (!isNew && known->second != engine.unit(group)) {
+    throw calvex::Error(CALVEX_VALUE, keywordOf(number) + " is " + known->second + " and " +
+                                          engine.unit(group) + ": give it one unit");
+  }
 }
 
 }  // namespace
@@ -61,6 +65,9 @@ Units unitsOf(std::span<const Grid> words) {
   Units units;
   for (std::size_t i = 0; i < count; i += 2) {
     const Cell group = given(i), unit = given(i + 1);
+    if (words[i].cells.size() > 1 || (i + 1 < count && words[i + 1].cells.size() > 1)) {
+      throw calvex::Error(CALVEX_VALUE, "a quantity and a unit are single texts, no ranges");
+    }
     if (!std::holds_alternative<std::string>(group) || !std::holds_alternative<std::string>(unit)) {
       throw calvex::Error(CALVEX_VALUE, "the texts come in pairs: a quantity, then its unit");
     }

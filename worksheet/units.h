@@ -20,10 +20,11 @@ using Units = std::map<int, std::string>;
 
 /// "T=°C; P=bar", by keywords of the groups.
 [[nodiscard]] std::string unitsText(const Units& units);
-/// Reads what `unitsText` writes; throws `calvex::Error` for what is none.
+/// Reads what `unitsText` writes; throws `calvex::Error` for what is none, and where a quantity has
+/// two units.
 [[nodiscard]] Units readUnits(std::string_view text);
 /// The units that pairs of a group's and a unit's words name, as the catalogue names them; throws
-/// `calvex::Error`.
+/// `calvex::Error` as `readUnits` does.
 [[nodiscard]] Units unitsOf(std::span<const Grid> words);
 
 void setUnits(Engine& engine, const Units& units);

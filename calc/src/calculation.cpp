@@ -127,7 +127,7 @@ Any calculate(calvex_engine* engine, const Signature& signature,
       if (std::isnan(inputs[i])) return Any(inputs[i]);
     }
     const int code = calvex_call(engine, signature.member, inputs, count, &output, 1);
-    if (code != CALVEX_OK) return Any(errorValue(CellError::number));
+    if (code != CALVEX_OK || std::isinf(output)) return Any(errorValue(CellError::number));
     return Any(std::isnan(output) ? errorValue(CellError::notAvailable) : output);
   }
   return anyOf(worksheet::calculate(engine, signature, gridsOf(arguments)));
@@ -147,8 +147,8 @@ std::string reasonOfConversion(calvex_engine* engine, std::span<const Any* const
   return worksheet::reasonOfConversion(engine, gridsOf(arguments), place, wording);
 }
 
-Any unitName(calvex_engine* engine, const Any& quantity) {
-  return anyOf(worksheet::unitName(engine, gridOf(quantity)));
+Any unitNames(calvex_engine* engine, const Any& quantities) {
+  return anyOf(worksheet::unitNames(engine, gridOf(quantities)));
 }
 
 Grid gridOf(const Any& value) {

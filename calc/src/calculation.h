@@ -42,8 +42,8 @@ using worksheet::Slot;
 [[nodiscard]] std::string reasonOfConversion(calvex_engine* engine,
                                              std::span<const Any* const> arguments, Place place);
 
-/// The engine's unit of a quantity in plain words; an error value for an unknown one.
-[[nodiscard]] Any unitName(calvex_engine* engine, const Any& quantity);
+/// The engine's units of quantities in plain words; an error value for an unknown one.
+[[nodiscard]] Any unitNames(calvex_engine* engine, const Any& quantities);
 
 /// What a value is to the functions of every spreadsheet.
 [[nodiscard]] Grid gridOf(const Any& value);

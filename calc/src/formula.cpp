@@ -311,8 +311,8 @@ Any Recalculation::function(const std::string& name, std::span<const Any> argume
     return value;
   }
   if (own == "UNIT") {
-    const Any value = unitName(engine_, arguments.empty() ? Any() : arguments[0]);
-    if (errorOf(value) != 0) note("CALVEX.UNIT: that is not the name of a quantity");
+    const Any value = unitNames(engine_, arguments.empty() ? Any() : arguments[0]);
+    if (firstError(value)) note("CALVEX.UNIT: that is not the name of a quantity");
     return value;
   }
   const Signature* const signature = findSignature(own);

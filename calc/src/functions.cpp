@@ -100,7 +100,7 @@ Any Functions::Units(const Reference<XPropertySet>& document, const Sequence<Any
 }
 
 Any Functions::Unit(const Reference<XPropertySet>& document, const Any& quantity) {
-  return guarded([&] { return unitName(documentOf(document).engine(), quantity); });
+  return guarded([&] { return unitNames(documentOf(document).engine(), quantity); });
 }
 
 Any Functions::Why(const Reference<XPropertySet>& document, const Reference<XCellRange>& cell) {

@@ -61,6 +61,8 @@ def test_units_that_are_none_give_no_numbers(plant, document):
     document.NamedRanges.addNewByName("Calvex_Units", '"garbage"', plant["A1"].CellAddress, 0)
     assert until(lambda: plant["A1"].getError() == 519)
     assert "Calvex_Units" in plant.put("C1", "=CALVEX.WHY(A1)").String
+    document.NamedRanges.getByName("Calvex_Units").Content = '"T=C; T=K"'
+    assert until(lambda: "T is C and K: give it one unit" in plant["C1"].String)
     document.NamedRanges.removeByName("Calvex_Units")
 
 

@@ -89,6 +89,18 @@ def test_a_result_can_be_named(sheet):
     assert sheet.array("B1:E1", "=TurbineA(3374;10;1;0.8;5)") == ((power, T, h, x),)
 
 
+def test_names_in_several_cells_give_a_result_each(sheet):
+    power, T, h, x = answers("TurbineA", "3374 10 1 0.8 5".split())
+    call = "=TurbineA(3374;10;1;0.8;5;A1:{})"
+    for name, word in {"A1": "TOut", "A2": "Power", "B1": "Power"}.items():
+        sheet[name].String = word
+    assert sheet.array("D1:E1", call.format("B1")) == ((T, power),)
+    assert sheet.array("D3:D4", call.format("A2")) == ((T,), (power,))
+    sheet["A1"].String, sheet["B1"].String = "T", "weather"
+    assert sheet.array("D6:E6", "=CALVEX.UNIT(A1:B1)")[0][0] == "K"
+    assert sheet.error("E6") == VALUE
+
+
 def test_results_stand_beside_columns_and_below_rows(sheet):
     expected = [answers("QT_PH", ["1", h]) for h in ("1770", "2500")]
     sheet["A1:A2"].DataArray = ((1770.0,), (2500.0,))
@@ -151,6 +163,9 @@ def test_wrong_inputs_are_errors_with_reasons(sheet, document):
             ("HPT(10;773.15;3)", 504, "3 inputs are given, not 2. It takes P (MPa), T (K)"),
             ('TurbineA(3374;10;1;0.8;5;"Powr")', VALUE, '"Powr" names no result'),
             ('TurbineB(3374;10;10;0.8;500;"MIn")', NUM, "MIn is infinite here"),
+            ("TurbineB(3374;10;10;0.8;5000)", NUM, "MIn is infinite here"),
+            ('DeSuperHeaterB(2852;2852;1;500;1.3;"Mw")', NUM, "Mw is infinite here"),
+            ('SUM(XLTurbineB(3374;10;10;0.8;5000;"M_In"))', NUM, "M_In is infinite here"),
             ("SUM(A1:A2)", 532, "Sheet1.A2: "),
             ("HPTT(1;2)", 525, "there is no function HPTT"),
             ("nix", 525, "nix is the name of no cell, range or value"),

@@ -38,10 +38,13 @@ std::vector<Grid> gridsOf(std::span<const XLOPER12* const> arguments) {
 }
 
 // A function that has failed without a call of a member.
-Grid failed(const std::optional<CellRange>& where, ErrorKind kind, std::string why) {
-  const Grid answer = errorCell(kind);
+Grid failed(const std::optional<CellRange>& where, Grid answer, std::string why) {
   if (where) keepFailure(*where, answer, std::move(why));
   return answer;
+}
+
+Grid failed(const std::optional<CellRange>& where, ErrorKind kind, std::string why) {
+  return failed(where, errorCell(kind), std::move(why));
 }
 
 // Runs a body with an engine that has the units of the workbook.
@@ -155,12 +158,12 @@ XLOPER12* answerUnit(const XLOPER12* quantity) noexcept {
   return guarded([&] {
     const auto where = caller();
     return withUnits(where, [&](const std::shared_ptr<Engine>& engine) -> Grid {
-      Cell name = worksheet::unitName(engine->handle(), gridOf(*quantity));
-      if (isError(name)) {
-        return failed(where, ErrorKind::value, "CALVEX.UNIT: that is not the name of a quantity");
+      Grid names = worksheet::unitNames(engine->handle(), gridOf(*quantity));
+      if (std::ranges::any_of(names.cells, isError)) {
+        return failed(where, std::move(names), "CALVEX.UNIT: that is not the name of a quantity");
       }
       if (where) forgetFailure(*where);
-      return name;
+      return names;
     });
   });
 }

@@ -174,6 +174,47 @@ TEST_F(ExcelFunctions, AResultCanBeNamed) {
   EXPECT_NE(why().find("Power, TOut"), std::string::npos) << why();
 }
 
+Grid namesOf(std::size_t rows, std::size_t columns, std::vector<Cell> names) {
+  Grid grid(rows, columns);
+  grid.cells = std::move(names);
+  return grid;
+}
+
+TEST_F(ExcelFunctions, NamesInSeveralCellsGiveAResultEach) {
+  const std::vector<Cell> words{std::string("TOut"), std::string("Power")};
+  const Grid row = namesOf(1, 2, words), column = namesOf(2, 1, words);
+  const Grid outlets = namesOf(2, 1, {1.0, 2.0}), across = namesOf(1, 2, {1.0, 2.0});
+  const auto turbine = [&](const Given& outlet, const Grid& names) {
+    return host.calculate(home, L"TurbineA", {3374.0, 10.0, outlet, 0.8, 5.0, names}, 2, 2);
+  };
+  const double T = numberOf(turbine(1.0, words[0])), power = numberOf(turbine(1.0, words[1]));
+  EXPECT_EQ(turbine(1.0, row), namesOf(1, 2, {T, power}));
+  EXPECT_EQ(turbine(1.0, column), namesOf(2, 1, {T, power}));
+  const Grid beside = turbine(outlets, row), below = turbine(across, column);
+  ASSERT_EQ(beside.cells.size(), 4U);
+  EXPECT_NEAR(numberOf(beside, 0, 0), T, 1e-10 * T);
+  EXPECT_NEAR(numberOf(beside, 0, 1), power, 1e-10 * power);
+  EXPECT_EQ(numberOf(beside, 1, 0), numberOf(below, 0, 1));
+  EXPECT_EQ(numberOf(beside, 1, 1), numberOf(below, 1, 1));
+  EXPECT_EQ(errorOf(turbine(outlets, column)), xlerrValue);
+  EXPECT_NE(why().find("the names of results stand in a row"), std::string::npos) << why();
+  EXPECT_EQ(errorOf(turbine(across, row)), xlerrValue);
+  EXPECT_NE(why().find("the names of results stand in a column"), std::string::npos) << why();
+  EXPECT_EQ(errorOf(turbine(1.0, namesOf(1, 2, {words[0], std::string("nothing")}))), xlerrValue);
+  EXPECT_NE(why().find("\"nothing\" names no result"), std::string::npos) << why();
+}
+
+TEST_F(ExcelFunctions, TokensMayStandInSeveralCells) {
+  const auto rows = [&](const Grid& names) {
+    return host.calculate(home, L"XLTurbineA", {3374.0, 10.0, 1.0, 0.8, 5.0, names}, 2, 3);
+  };
+  const Grid table = rows(Cell(std::string("Pow T_Out")));
+  ASSERT_EQ(table.rows, 2U);
+  EXPECT_EQ(rows(namesOf(1, 2, {std::string("Pow"), std::string("T_Out")})), table);
+  EXPECT_EQ(errorOf(rows(namesOf(1, 2, {std::string("Pow"), Blank{}}))), xlerrValue);
+  EXPECT_NE(why().find("no text that names a result"), std::string::npos) << why();
+}
+
 TEST_F(ExcelFunctions, ResultsStandBesideColumnsAndBelowRows) {
   Grid column(2, 1), row(1, 2);
   column.cells = row.cells = {1770.0, 2500.0};
@@ -226,6 +267,30 @@ TEST_F(ExcelFunctions, AnInfiniteResultIsAnError) {
   EXPECT_EQ(errorOf(host.calculate(other, L"TurbineB", {3374.0, 10.0, 10.0, 0.8, 500.0, wanted})),
             xlerrNA);
   EXPECT_EQ(why(other), "TurbineB: MIn is infinite here");
+}
+
+TEST_F(ExcelFunctions, OfSeveralResultsTheInfiniteOnesAreErrors) {
+  const std::vector<Given> turbine{3374.0, 10.0, 10.0, 0.8, 5000.0};
+  const std::vector<Given> cooler{2852.0, 2852.0, 1.0, 500.0, 1.3};  // as hot as its water
+  const auto cells = [&](const wchar_t* name, std::vector<Given> inputs, const char* tokens,
+                         std::size_t width, std::vector<int> errors, const char* reason) {
+    if (*tokens != '\0') inputs.emplace_back(Cell(std::string(tokens)));
+    const Grid got = host.calculate(home, name, inputs, 4, 4);
+    ASSERT_EQ(got.cells.size(), errors.size() * width) << name;
+    for (std::size_t i = 0; i < errors.size(); ++i) {
+      const std::size_t row = width == 1 ? 0 : i, column = width == 1 ? i : 1;
+      EXPECT_EQ(errorOf(got, row, column), errors[i]) << name << ' ' << i;
+      const Address cell{home.sheet, static_cast<int>(row), static_cast<int>(column)};
+      EXPECT_EQ(why(cell), errors[i] == -1 ? "" : reason);
+    }
+  };
+  cells(L"TurbineB", turbine, "", 1, {xlerrNA, -1, -1, -1}, "TurbineB: MIn is infinite here");
+  cells(L"DeSuperHeaterB", cooler, "", 1, {-1, xlerrNA, xlerrNA},
+        "DeSuperHeaterB: Mw, Ms are infinite here");
+  cells(L"XLTurbineB", turbine, "T_Out M_In", 3, {-1, xlerrNA},
+        "XLTurbineB: M_In is infinite here");
+  cells(L"XLDeSuperHeaterB", cooler, "M_Water", 3, {xlerrNA},
+        "XLDeSuperHeaterB: M_Water is infinite here");
 }
 
 TEST_F(ExcelFunctions, OneBadRowDoesNotSpoilTheColumn) {

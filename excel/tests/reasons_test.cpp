@@ -202,6 +202,8 @@ TEST_F(ExcelReasons, AConversionHasTheReasonOfItsElement) {
   EXPECT_EQ(errorOf(host.calculate(home, L"CALVEX.CONVERT",
                                    {text("P"), Cell(division), text("Pa"), 1.0})),
             xlerrDiv0);
+  host.calculate(home, L"CALVEX.CONVERT", {text("P"), text("MPa"), text("Pa"), Cell(division)});
+  EXPECT_EQ(why(), "CALVEX.CONVERT: the value is itself #DIV/0!");
 }
 
 }  // namespace

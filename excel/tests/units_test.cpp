@@ -101,6 +101,19 @@ TEST_F(ExcelUnits, UnitsThatCannotBeReadAreNotThoseOfTheModel) {
   EXPECT_NEAR(numberOf(host.calculate(one, L"HPT", {P, kelvin})), h, 1e-8);
 }
 
+TEST_F(ExcelUnits, TwoUnitsOfOneQuantityContradictEachOther) {
+  constexpr char reason[] = "T is C and K: give it one unit";
+  host.unitNames[L"Book1.xlsx"] = std::wstring(L"T=C; temperature=K");
+  EXPECT_EQ(errorOf(host.calculate(one, L"HPT", {P, kelvin})), xlerrValue);
+  EXPECT_NE(why(one).find(reason), std::string::npos) << why(one);
+  EXPECT_EQ(
+      errorOf(host.calculate(one, L"CALVEX.UNITS", {word("T"), word("C"), word("T"), word("K")})),
+      xlerrValue);
+  EXPECT_NE(why(one).find(reason), std::string::npos) << why(one);
+  host.unitNames[L"Book1.xlsx"] = std::wstring(L"T=C; P=bara; temperature=°C");  // twice the same
+  EXPECT_NEAR(numberOf(host.calculate(one, L"HPT", {32.776, celsius})), h, 1e-6);
+}
+
 TEST_F(ExcelUnits, WrongChoicesAreErrorsWithReasons) {
   EXPECT_EQ(errorOf(host.calculate(one, L"CALVEX.UNITS", {word("T")})), xlerrValue);
   EXPECT_NE(why(one).find("pairs"), std::string::npos) << why(one);
@@ -109,6 +122,26 @@ TEST_F(ExcelUnits, WrongChoicesAreErrorsWithReasons) {
   EXPECT_NE(why(one).find("furlong"), std::string::npos) << why(one);
   EXPECT_EQ(errorOf(host.calculate(one, L"CALVEX.UNIT", {word("weather")})), xlerrValue);
   EXPECT_NE(why(one).find("name of a quantity"), std::string::npos) << why(one);
+}
+
+TEST_F(ExcelUnits, OfSeveralQuantitiesEachHasItsUnit) {
+  Grid quantities(3, 1);
+  quantities.cells = {std::string("T"), std::string("weather"), std::string("H")};
+  const Grid units = host.calculate(one, L"CALVEX.UNIT", {quantities}, 3, 1);
+  ASSERT_EQ(units.rows, 3U);
+  EXPECT_EQ(textOf(units, 0), "K");
+  EXPECT_EQ(errorOf(units, 1), xlerrValue);
+  EXPECT_EQ(textOf(units, 2), "kJ/kg");
+  const Address second{one.sheet, one.row + 1, one.column};
+  EXPECT_NE(why(second).find("name of a quantity"), std::string::npos) << why(second);
+}
+
+TEST_F(ExcelUnits, ARangeIsNoChoice) {
+  Grid quantities(1, 2), units(1, 2);
+  quantities.cells = {std::string("T"), std::string("P")};
+  units.cells = {std::string("C"), std::string("bar")};
+  EXPECT_EQ(errorOf(host.calculate(one, L"CALVEX.UNITS", {quantities, units})), xlerrValue);
+  EXPECT_NE(why(one).find("single texts, no ranges"), std::string::npos) << why(one);
 }
 
 TEST_F(ExcelUnits, ValuesAreConverted) {
