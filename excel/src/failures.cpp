@@ -116,6 +116,7 @@ std::uint64_t markOf(const CellRange& cells) {
   std::set<std::wstring> words = namedIn(formula);
   if (!namesUnits(cells)) words.insert(toWide(unitsName));
   Mark mark;
+  mark.add(sheetNumberOf(cells));
   mark.add(toUtf8(formula));
   for (const std::wstring& word : words) mark.add(valueOf(word, cells));
   return mark.value();

@@ -1,9 +1,9 @@
 /// \file
 /// Why cells have failed, for those who ask.
 ///
-/// A reason is kept with the cell's address and a mark of what stood there: its formula, the values
-/// of what the formula names, and the units. It is told as long as the same stands there and the
-/// cell shows the same error. The host tells nobody that a cell was edited or moved.
+/// A reason is kept with the cell's address and a mark of what stood there: its sheet, its formula,
+/// the values of what the formula names, and the units. It is told as long as the same stands there
+/// and the cell shows the same error. The host tells nobody that a cell was edited or moved.
 #pragma once
 
 #include <cstdint>

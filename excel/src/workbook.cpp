@@ -91,6 +91,7 @@ class FirstCell {
   /// Whether there is still such a sheet.
   [[nodiscard]] bool exists() const { return reference_.xltype == xltypeRef; }
   [[nodiscard]] Argument argument() const { return reference_; }
+  [[nodiscard]] IDSHEET sheet() const { return exists() ? reference_.val.mref.idSheet : 0; }
 
  private:
   XLMREF12 area_;
@@ -138,6 +139,8 @@ std::wstring formulaOf(const CellRange& cells) {
     return {};
   return std::wstring(formula.text());
 }
+
+std::uint64_t sheetNumberOf(const CellRange& cells) { return FirstCell(cells).sheet(); }
 
 Grid valueOf(std::wstring_view name, const CellRange& cells) {
   const std::wstring expression = expressionOf(name, cells);

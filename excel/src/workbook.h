@@ -6,6 +6,7 @@
 #pragma once
 
 #include <calvex/calvex.hpp>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -37,6 +38,9 @@ struct CellRange {
 
 /// The formula of the first of those cells as it is typed, or the constant there.
 [[nodiscard]] std::wstring formulaOf(const CellRange& cells);
+/// The host's number of their sheet, which is another one when a workbook of the same name is
+/// opened later; 0 where there is no such sheet.
+[[nodiscard]] std::uint64_t sheetNumberOf(const CellRange& cells);
 /// The values of what a name, a cell or a range means to a formula in those cells: "A1", "Speed".
 /// Of very large ranges there are none.
 [[nodiscard]] worksheet::Grid valueOf(std::wstring_view name, const CellRange& cells);

@@ -135,8 +135,12 @@ Host::~Host() {
 }
 
 IDSHEET Host::sheetId(const std::wstring& name) {
-  return sheets_.try_emplace(name, 1000 + sheets_.size()).first->second;
+  const auto [sheet, isNew] = sheets_.try_emplace(name, nextSheet_);
+  if (isNew) ++nextSheet_;
+  return sheet->second;
 }
+
+void Host::reopen() { sheets_.clear(); }
 
 std::wstring Host::sheetOf(const XLOPER12& reference) {
   if ((reference.xltype & xltypeMask) == xltypeRef) {

@@ -77,6 +77,8 @@ class Host {
   /// formula is made of the call, or `typed` where that is more than one call.
   Grid calculate(const Address& where, const std::wstring& name, std::vector<Given> arguments,
                  int rows = 1, int columns = 1, const std::wstring& typed = {});
+  /// Closes all workbooks and opens others of the same names, with the same in their cells.
+  void reopen();
   /// Calls it as a macro does.
   Grid run(const std::wstring& name, std::vector<Given> arguments);
   std::string text(const Address& where, const std::wstring& name, std::vector<Given> arguments);
@@ -97,6 +99,7 @@ class Host {
   std::optional<Caller> caller_;
   bool isMacroFunction_ = false;
   std::map<std::wstring, IDSHEET> sheets_;
+  IDSHEET nextSheet_ = 1000;
 
   IDSHEET sheetId(const std::wstring& name);
   std::wstring sheetOf(const XLOPER12& reference);

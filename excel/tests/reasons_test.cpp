@@ -89,6 +89,17 @@ TEST_F(ExcelReasons, AFormulaThatHasMovedHereDoesNotInheritAReason) {
   EXPECT_TRUE(hasNone()) << why();
 }
 
+// What is behind INDIRECT may be another thing there.
+TEST_F(ExcelReasons, AWorkbookOfTheSameNameInheritsNone) {
+  constexpr auto formula = L"=IF(INDIRECT(\"B1\")>0,HPT(10,3000),NA())";
+  call(formula, L"HPT", {10.0, 3000.0});
+  EXPECT_EQ(why(), tooHot);
+  host.reopen();
+  EXPECT_TRUE(hasNone()) << why();
+  call(formula, L"HPT", {10.0, 3000.0});
+  EXPECT_EQ(why(), tooHot);
+}
+
 TEST_F(ExcelReasons, OtherUnitsAreOtherInputs) {
   host.calculate(home, L"HPT", {10.0, 3000.0});
   host.unitNames[L"Book1.xlsx"] = std::wstring(L"T=C");
