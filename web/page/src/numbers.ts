@@ -17,6 +17,9 @@ export function show(value: number, digits = 10): string {
 /** A number that was converted, as one would type it: without the dust of binary fractions. */
 export const tidy = (value: number): string => String(Number(value.toPrecision(10)));
 
+/** The same of one that is reckoned with elsewhere: it stays the same to 1e-10. */
+export const withoutDust = (value: number): number => Number(value.toPrecision(11));
+
 // A unit begins with a letter, a degree or a per cent sign, or it is one of "1/K"; half a power of ten
 // and another base's digits, "1e" and "0x10", are none.
 const shape =

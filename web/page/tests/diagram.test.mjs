@@ -82,6 +82,7 @@ for (const kind of Object.keys(families)) {
         if (!wet) near(Number(read.cp), state.C, 1e-3, `cp at ${given}`);
         assert.equal(read.cp === '–', wet);
         assert.equal(/left out/.test(read.why), wet);
+        if (wet) assert.equal(/x = (\S+) \(/.exec(read.phase)[1], read.x);
       }
     });
   });

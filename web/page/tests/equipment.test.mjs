@@ -144,6 +144,12 @@ test('Python’s line has the call and the units', async () => {
   });
 });
 
+test('the lines have what was typed in another unit without the dust of its conversion', async () => {
+  await onPage('#equipment/TurbineA?in.MIn=36+t/h&in.PIn=101.25+bar', async page => {
+    assert.match(await snippet(page, 'Command line'), /^calvex TurbineA 3374 10\.125 1 0\.8 10$/);
+  });
+});
+
 test('a turbine’s expansion is drawn from its inlet over its outlets', async () => {
   await onPage('#equipment/TurbineA3?u.P=bara&u.T=C', async page => {
     const names = await page

@@ -162,6 +162,12 @@ test('a table tells which rows it leaves out', async () => {
   });
 });
 
+test('one row is one', async () => {
+  await onPage('#tables?table=T&from=100&to=100&step=1&u.T=C', async page => {
+    assert.match(await textOf(page, '.data caption'), /, 1 row$/);
+  });
+});
+
 test('the row of the boiling point is left out, and the saturated states are there', async () => {
   await onPage(`#tables?table=isobar&at=1.01325&from=50&to=150&step=50&${units}`, async page => {
     const told = await textOf(page, '.warning');

@@ -3,7 +3,7 @@ import * as calvex from 'calvex/load';
 
 import { commandLine } from '../../page/src/equipment/snippets.ts';
 import { blamed } from '../../page/src/blame.ts';
-import { apart } from '../../page/src/numbers.ts';
+import { apart, withoutDust } from '../../page/src/numbers.ts';
 import { runExample, shown } from './example.mjs';
 
 const form = document.querySelector('#example');
@@ -35,7 +35,7 @@ function read(field) {
   if (!select) return { trouble: `${name} has no unit; “${parts.unit}” is one too many.` };
   try {
     const group = Number(select.dataset.group);
-    return { value: calvex.convert(group, parts.number, parts.unit, select.value) };
+    return { value: withoutDust(calvex.convert(group, parts.number, parts.unit, select.value)) };
   } catch (failure) {
     return { trouble: failure.message };
   }

@@ -13,6 +13,9 @@ export interface Spot {
   y: number;
 }
 
+/** What a pointer can tell apart. */
+const digits = 6;
+
 /** The state at a place of a diagram, or why there is none. */
 export function stateAt(kind: Kind, drawing: Drawing, { x, y }: Spot): State | string {
   try {
@@ -61,7 +64,7 @@ export class Reader {
     this.cross.setAttribute('d', `M${x},0V${height}M0,${y}H${width}`);
     const state = stateAt(this.kind, this.drawing, this.spot);
     const found = typeof state === 'string' ? undefined : state;
-    this.cells.get('phase')!.textContent = found ? phaseText(found) : 'No state here';
+    this.cells.get('phase')!.textContent = found ? phaseText(found, digits) : 'No state here';
     this.cells.get('why')!.textContent = found
       ? found.phase === 'two-phase'
         ? 'Liquid and vapour are together here: what only one of them has is left out.'
@@ -70,7 +73,7 @@ export class Reader {
     this.table.classList.toggle('nothing', !found);
     const values = new Map((found ? shown(found) : []).map(row => [row.name, row.value]));
     for (const name of Object.keys(properties)) {
-      this.cells.get(name)!.textContent = show(values.get(name) ?? NaN, 6);
+      this.cells.get(name)!.textContent = show(values.get(name) ?? NaN, digits);
     }
     performance.measure('readout', { start, end: performance.now() });
     if (performance.getEntriesByName('readout').length > 600) performance.clearMeasures('readout');

@@ -43,7 +43,7 @@ export function DiagramView() {
         : ['P', 'T', 'h', 's'].reduce(
             (text, name) =>
               `${text}, ${properties[name]!.words} ${show(state.get(name), 5)} ${state.unit(name)}`,
-            phaseText(state),
+            phaseText(state, 5),
           ),
     );
   };

@@ -6,6 +6,7 @@ import { address, go } from '../address.ts';
 import { capital, pretty, show, unitName } from '../engine.ts';
 import { Field } from '../field.tsx';
 import { copy } from '../files.ts';
+import { apart, withoutDust } from '../numbers.ts';
 import { Diagram } from '../diagram/diagram.tsx';
 import { kinds } from '../diagram/kinds.ts';
 import type { Process } from '../diagram/process.ts';
@@ -160,7 +161,8 @@ export function EquipmentView() {
 function Snippets() {
   const all = snippets(
     model.value,
-    typed.value.map(input => input.value!),
+    // What was typed in another unit was converted.
+    typed.value.map(({ text, value }) => (apart(text)?.unit ? withoutDust(value!) : value!)),
     unitName,
   );
   const [shown, show] = useState(0);

@@ -38,7 +38,7 @@ export function phaseName(
 }
 
 /** The same in a sentence, of a mixture with its quality. */
-export function phaseText(state: State): string {
+export function phaseText(state: State, digits = 10): string {
   const inModel = (name: string) => {
     const { group } = properties[name]!;
     return convert(group, state.get(name), state.unit(name), groups[group]!.modelUnit);
@@ -50,7 +50,8 @@ export function phaseText(state: State): string {
     rho: inModel('rho'),
     x,
   });
-  const fraction = name === 'wet steam' ? `, x = ${show(x)} (${show(100 * x)} % vapour)` : '';
+  const fraction =
+    name === 'wet steam' ? `, x = ${show(x, digits)} (${show(100 * x, digits)} % vapour)` : '';
   return capital(name) + fraction;
 }
 

@@ -122,6 +122,8 @@ function chooseKind(name: string) {
   });
 }
 
+const countOf = ({ rows }: Table): string => `${rows.length} row${rows.length === 1 ? '' : 's'}`;
+
 export function TablesView() {
   const { table, troubles } = made.value;
   const [said, say] = useState('');
@@ -190,9 +192,7 @@ export function TablesView() {
         <p class="quiet">No table: what is wrong stands beside its field.</p>
       )}
       <Announce
-        text={
-          table ? `${kind.value.title}: ${table.rows.length} rows` : Object.values(troubles)[0]!
-        }
+        text={table ? `${kind.value.title}: ${countOf(table)}` : Object.values(troubles)[0]!}
       />
     </div>
   );
@@ -217,7 +217,7 @@ function Shown({ table, title }: { table: Table; title: string }) {
         <section class="scroll" tabIndex={0} aria-label={`${title}, the table`}>
           <table class="data">
             <caption>
-              {title}, {rows.length} rows
+              {title}, {countOf(table)}
             </caption>
             <thead>
               <tr>
