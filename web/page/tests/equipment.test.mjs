@@ -299,6 +299,11 @@ test('what no plant can do is warned of', async () => {
   await onPage('#equipment/LetDownValve?in.PIn=1&in.POut=2', async page => {
     assert.match(await textOf(page, '.warning'), /Outlet pressure/);
   });
+  await onPage('#equipment/XLHeatExchangerA?in.HotTempIn=300', async page => {
+    const warning = page.locator('.warning', { hasText: 'heat does not flow from cold to hot' });
+    await warning.waitFor();
+    assert.match(await textOf(page, '[data-result=M_HOut]'), /^[-−]/);
+  });
 });
 
 test('by keyboard one chooses a model and types its inputs', async () => {
