@@ -3631,7 +3631,7 @@ Private Sub Describe8()
     "Heat given up by condensing the discharge, kW, or in the unit of the workbook.", _
     "Which results, one or more of: T_Out, P_Out, M_Out, M_Suction; all without it.")
   Describe "SteamXLHeatExchangerA", "Calvex equipment", _
-    "Duty and hot flow of a heat exchanger from its temperatures. A quality counts only where its temperature is the saturation temperature at the stream's pressure. Whether the streams' temperatures cross is not tested.", Array( _
+    "Duty and hot flow of a heat exchanger from its temperatures. A quality counts only where its temperature is the saturation temperature at the stream's pressure. Streams whose temperatures cross are warned of.", Array( _
     "Flow of the cold stream, kg/s, or in the unit of the workbook.", _
     "Inlet pressure of the cold stream, above 0 to 3000 MPa, or in the unit of the workbook.", _
     "Pressure drop of the cold stream, MPa, or in the unit of the workbook.", _
@@ -3647,7 +3647,7 @@ Private Sub Describe8()
     "Outlet quality of the hot stream, where it is on the saturation line, from 0 to 1 Fraction, or in the unit of the workbook.", _
     "Which results, one or more of: H_HOut, D_Hx, H_CIn, H_COut, H_HIn, M_HOut; all without it.")
   Describe "SteamXLHeatExchangerB", "Calvex equipment", _
-    "Outlet temperature and hot flow of a heat exchanger from its duty. A quality counts only where its temperature is the saturation temperature at the stream's pressure; ColdQualityOut is not used. Whether the streams' temperatures cross is not tested.", Array( _
+    "Outlet temperature and hot flow of a heat exchanger from its duty. A quality counts only where its temperature is the saturation temperature at the stream's pressure; ColdQualityOut is not used. Streams whose temperatures cross are warned of.", Array( _
     "Flow of the cold stream, kg/s, or in the unit of the workbook.", _
     "Inlet pressure of the cold stream, above 0 to 3000 MPa, or in the unit of the workbook.", _
     "Pressure drop of the cold stream, MPa, or in the unit of the workbook.", _

@@ -104,7 +104,7 @@ constexpr std::string_view balance =
     "is. ";
 constexpr std::string_view qualityWhere =
     "A quality counts only where its temperature is the saturation temperature at the stream's "
-    "pressure. Whether the streams' temperatures cross is not tested. ";
+    "pressure. Streams whose temperatures cross are warned of. ";
 
 constexpr ExplanationRow rows[] = {
     // Constants.
@@ -198,7 +198,7 @@ constexpr ExplanationRow rows[] = {
     {"XLHeatExchangerB", equipment,
      "outlet temperature and hot flow of a heat exchanger from its duty",
      "A quality counts only where its temperature is the saturation temperature at the stream's "
-     "pressure; ColdQualityOut is not used. Whether the streams' temperatures cross is not tested.",
+     "pressure; ColdQualityOut is not used. Streams whose temperatures cross are warned of.",
      "HXDuty=heat from the hot to the cold stream",
      "10 1 0.05 320.15 1700 0 0 0.3 0.02 423.15 393.15 1 0 \"T_COut M_HOut\""},
 
